@@ -1,0 +1,90 @@
+#include "foundation/code_page.h"
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+
+namespace Ortholan {
+namespace {
+
+constexpr uint64_t kHighBits = 0x8080808080808080;
+constexpr size_t kWord = sizeof(uint64_t);
+
+bool FitsTheCalls(size_t length) {
+  if (length <= static_cast<size_t>(std::numeric_limits<int>::max())) return true;
+  SetLastError(ERROR_INVALID_PARAMETER);
+  return false;
+}
+
+}  // namespace
+
+size_t AsciiPrefix(std::string_view text) {
+  size_t i = 0;
+  for (; i + kWord <= text.size(); i += kWord) {
+    uint64_t word;
+    std::memcpy(&word, text.data() + i, kWord);
+    if ((word & kHighBits) != 0) break;
+  }
+  while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) ++i;
+  return i;
+}
+
+size_t AsciiPrefix(std::wstring_view text) {
+  size_t i = 0;
+  while (i < text.size() && static_cast<uint32_t>(text[i]) < 0x80) ++i;
+  return i;
+}
+
+Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out) {
+  if (text.empty()) {
+    out->clear();
+    return Conversion::kDone;
+  }
+  if (!FitsTheCalls(text.size())) return Conversion::kSizeFailed;
+  const int length = static_cast<int>(text.size());
+  const int size = WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr,
+                                       nullptr);
+  if (size <= 0) return Conversion::kSizeFailed;
+  std::string converted(static_cast<size_t>(size), '\0');
+  const int written = WideCharToMultiByte(codePage, 0, text.data(), length, converted.data(), size,
+                                          nullptr, nullptr);
+  if (written != size) return Conversion::kFillFailed;
+  *out = std::move(converted);
+  return Conversion::kDone;
+}
+
+Conversion Widen(std::string_view text, UINT codePage, std::wstring* out) {
+  if (text.empty()) {
+    out->clear();
+    return Conversion::kDone;
+  }
+  if (!FitsTheCalls(text.size())) return Conversion::kSizeFailed;
+  const int length = static_cast<int>(text.size());
+  const int size = MultiByteToWideChar(codePage, 0, text.data(), length, nullptr, 0);
+  if (size <= 0) return Conversion::kSizeFailed;
+  std::wstring converted(static_cast<size_t>(size), L'\0');
+  const int written = MultiByteToWideChar(codePage, 0, text.data(), length, converted.data(), size);
+  if (written != size) return Conversion::kFillFailed;
+  *out = std::move(converted);
+  return Conversion::kDone;
+}
+
+void AppendAscii(std::string_view text, std::wstring* out) {
+  const size_t before = out->size();
+  out->resize(before + text.size());
+  wchar_t* to = out->data() + before;
+  for (size_t i = 0; i < text.size(); ++i) to[i] = static_cast<unsigned char>(text[i]);
+}
+
+bool AppendWidened(std::string_view text, UINT codePage, std::wstring* out) {
+  if (IsAscii(text)) {
+    AppendAscii(text, out);
+    return true;
+  }
+  std::wstring wide;
+  if (Widen(text, codePage, &wide) != Conversion::kDone) return false;
+  out->append(wide);
+  return true;
+}
+
+}  // namespace Ortholan

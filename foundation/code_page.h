@@ -1,0 +1,46 @@
+// Whole texts between UTF-16, one unit a character, and 8-bit code pages. Unlike the platform's
+// calls these take a length, keep inner NULs and take the empty text.
+#ifndef ORTHOLAN_FOUNDATION_CODE_PAGE_H_
+#define ORTHOLAN_FOUNDATION_CODE_PAGE_H_
+
+#include <ortholan/platform.h>
+
+#include <string>
+#include <string_view>
+
+#include "foundation/byte_view.h"
+
+namespace Ortholan {
+
+constexpr UINT kCodePageAnsi = 0;
+constexpr UINT kCodePageThreadAnsi = 3;
+constexpr UINT kCodePageUsAscii = 20127;
+constexpr UINT kCodePageUtf8 = 65001;
+
+// Which of a conversion's two calls failed; the thread's last error is the platform's.
+enum class [[nodiscard]] Conversion { kDone, kSizeFailed, kFillFailed };
+
+// Replace `out`, unchanged on failure. Text of more than 0x7FFFFFFF units fails with last error
+// 87 (ERROR_INVALID_PARAMETER).
+Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out);
+Conversion Widen(std::string_view text, UINT codePage, std::wstring* out);
+
+// Appends text of characters below 0x80.
+void AppendAscii(std::string_view text, std::wstring* out);
+// Appends what Widen would give; false, `out` unchanged, where it fails.
+bool AppendWidened(std::string_view text, UINT codePage, std::wstring* out);
+
+// Number of leading characters below 0x80, which every code page of ours has in common.
+size_t AsciiPrefix(std::string_view text);
+size_t AsciiPrefix(std::wstring_view text);
+
+inline bool IsAscii(std::string_view text) { return AsciiPrefix(text) == text.size(); }
+inline bool IsAscii(std::wstring_view text) { return AsciiPrefix(text) == text.size(); }
+
+inline std::string_view AsText(ByteView bytes) {
+  return {reinterpret_cast<const char*>(bytes.data), bytes.size};
+}
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_FOUNDATION_CODE_PAGE_H_

@@ -1,0 +1,153 @@
+#include <ortholan/der_helper.h>
+#include <ortholan/status.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "foundation/code_page.h"
+#include "foundation/element_header.h"
+#include "foundation/oid_text.h"
+#include "foundation/status_code.h"
+
+namespace Ortholan {
+namespace {
+
+// "DerHelper::...: Неверный тип" with the Russian words in code page 1251.
+constexpr const char* kOidOfWrongType =
+    "DerHelper::DecodeOid: \xCD\xE5\xE2\xE5\xF0\xED\xFB\xE9 \xF2\xE8\xEF";
+constexpr const char* kStringOfWrongType =
+    "DerHelper::DecodeUtf8String: \xCD\xE5\xE2\xE5\xF0\xED\xFB\xE9 \xF2\xE8\xEF";
+
+constexpr DWORD kStringTags[] = {kTagUtf8String,    kTagNumericString, kTagPrintableString,
+                                 kTagTeletexString, kTagIA5String,     kTagVisibleString};
+
+ElementHeader HeaderOf(const IdentObj& element, const char* where) {
+  ElementHeader header;
+  const Status status = ReadHeader(ByteView(element), &header);
+  if (status != Status::kOk) Throw({status, where});
+  return header;
+}
+
+void Check(DWORD code, const char* where) {
+  if (code != ToCode(Status::kOk)) Throw({static_cast<Status>(code), where});
+}
+
+IdentObj PutPrimitive(Tag tag, ByteView value) {
+  if (value.size > std::numeric_limits<DWORD>::max()) ThrowNoMemory();
+  ASNT_ASN_STRUCT_INFO info = {};
+  info.tag = tag;
+  return ASNTPutElement(info, value.data, static_cast<DWORD>(value.size));
+}
+
+[[noreturn]] void ThrowLastError(const char* where) {
+  throw XZEPStatus(WinErrorToStatus(GetLastError()), where);
+}
+
+// Shared by both directions of conversion: too long a text is an argument fault of the first call.
+template <typename From, typename To>
+To Convert(const From& text, UINT codePage, const char* sizeFault, const char* fillFault,
+           Conversion (*convert)(std::basic_string_view<typename From::value_type>, UINT, To*)) {
+  To out;
+  if (text.size() > static_cast<size_t>(std::numeric_limits<int>::max())) {
+    Throw({Status::kBadArgument, sizeFault});
+  }
+  const Conversion done = convert(text, codePage, &out);
+  if (done == Conversion::kSizeFailed) ThrowLastError(sizeFault);
+  if (done == Conversion::kFillFailed) ThrowLastError(fillFault);
+  return out;
+}
+
+}  // namespace
+
+namespace DerHelper {
+
+DWORD GetTag(const IdentObj& element) { return HeaderOf(element, "DerHelper::GetTag").tag; }
+
+bool IsUniversal(const IdentObj& element) {
+  return HeaderOf(element, "DerHelper::GetTag").cls == kUniversal;
+}
+
+bool IsStringTag(const ASNT_ASN_STRUCT_INFO& info) noexcept {
+  return std::find(std::begin(kStringTags), std::end(kStringTags), info.tag) !=
+         std::end(kStringTags);
+}
+
+std::string DecodeOid(const IdentObj& oid, bool anyTag) {
+  constexpr const char* kWhere = "DerHelper::DecodeOid";
+  ElementHeader header = HeaderOf(oid, kWhere);
+  if (!anyTag && header.tag != kTagOid) Throw({Status::kWrongType, kOidOfWrongType});
+  // An implicit tag hides the type; what stands here is an identifier.
+  if (anyTag && header.cls != kUniversal) header.tag = kTagOid;
+  IdentObj value;
+  Check(ASNTGetElement(header, ByteView(oid).end(), value), kWhere);
+  return std::string(AsText(ByteView(value)));
+}
+
+IdentObj EncodeOid(const std::string& dotted) {
+  return PutPrimitive(kTagOid, AsBytes(dotted.data(), dotted.size()));
+}
+
+IdentObj EncodeOctetString(const IdentObj& bytes) {
+  return PutPrimitive(kTagOctetString, ByteView(bytes));
+}
+
+IdentObj EncodeUtf8String(const std::wstring& text) {
+  const std::string bytes = ToString(text, kCodePageUtf8);
+  return PutPrimitive(kTagUtf8String, AsBytes(bytes.data(), bytes.size()));
+}
+
+IdentObj EncodeIA5String(const std::string& text, size_t maxLength) {
+  std::string taken = text.substr(0, maxLength);
+  std::transform(taken.begin(), taken.end(), taken.begin(), ToPrintableChar);
+  return PutPrimitive(kTagIA5String, AsBytes(taken.data(), taken.size()));
+}
+
+IdentObj EncodeIA5String(const std::wstring& text, size_t maxLength) {
+  return EncodeIA5String(ToString(text, kCodePageUsAscii), maxLength);
+}
+
+std::wstring DecodeUtf8String(const IdentObj& value, bool anyTag) {
+  constexpr const char* kWhere = "DerHelper::DecodeUtf8String";
+  const ElementHeader header = HeaderOf(value, kWhere);
+  if (!anyTag && !IsStringTag(header)) Throw({Status::kWrongType, kStringOfWrongType});
+  ByteView content;
+  const Status status = BoundedContent(header, ByteView(value).end(), &content);
+  if (status != Status::kOk) Throw({status, kWhere});
+  return ToWString(std::string(AsText(content)), kCodePageUtf8);
+}
+
+std::string ToString(const std::wstring& text, UINT codePage) {
+  return Convert<std::wstring, std::string>(
+      text, codePage, "DerHelper::ToString WideCharToMultiByte(1)",
+      "DerHelper::ToString WideCharToMultiByte(2)", &Narrow);
+}
+
+std::wstring ToWString(const std::string& text, UINT codePage) {
+  return Convert<std::string, std::wstring>(
+      text, codePage, "DerHelper::ToWString MultiByteToWideChar(1)",
+      "DerHelper::ToWString MultiByteToWideChar(2)", &Widen);
+}
+
+char ToPrintableChar(char character) noexcept {
+  return static_cast<unsigned char>(character) >= 0x80 ? '.' : character;
+}
+
+}  // namespace DerHelper
+
+char* WideToNarrow(char* out, const wchar_t* in, int outSize, UINT codePage) {
+  if (out == nullptr || in == nullptr || outSize <= 0) return nullptr;
+  out[0] = '\0';
+  if (WideCharToMultiByte(codePage, 0, in, -1, out, outSize, nullptr, nullptr) != 0) return out;
+  out[0] = '\0';
+  return nullptr;
+}
+
+wchar_t* NarrowToWide(wchar_t* out, const char* in, int outSize, UINT codePage) {
+  if (out == nullptr || in == nullptr || outSize <= 0) return nullptr;
+  out[0] = L'\0';
+  if (MultiByteToWideChar(codePage, 0, in, -1, out, outSize) != 0) return out;
+  out[0] = L'\0';
+  return nullptr;
+}
+
+}  // namespace Ortholan

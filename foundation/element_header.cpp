@@ -1,0 +1,153 @@
+#include "foundation/element_header.h"
+
+#include <cstring>
+
+namespace Ortholan {
+namespace {
+
+constexpr BYTE kLastGroupMask = 0x7F;
+constexpr size_t kMaxLengthOctets = 8;
+constexpr const char* kMeasureFault = "ASNTGetIndefiniteLength";
+
+// Reads the groups of a high tag number from `*position` on.
+Status ReadHighTag(ByteView in, size_t* position, DWORD* tag) {
+  DWORD number = 0;
+  while (*position < in.size) {
+    const BYTE octet = in[(*position)++];
+    if (number > (0xFFFFFFFF >> 7)) return Status::kBadTag;
+    number = number << 7 | (octet & kLastGroupMask);
+    if ((octet & kLongForm) == 0) {
+      *tag = number;
+      return Status::kOk;
+    }
+  }
+  return Status::kBadTag;
+}
+
+// Octets before the first pair of zeros that lies whole in `content`; false where there is none.
+bool CountToZeroPair(ByteView content, size_t* count) {
+  size_t position = 0;
+  while (position + 2 <= content.size) {
+    const void* zero = std::memchr(content.data + position, 0, content.size - position - 1);
+    if (zero == nullptr) return false;
+    position = static_cast<size_t>(static_cast<const BYTE*>(zero) - content.data);
+    if (content[position + 1] == 0) {
+      *count = position;
+      return true;
+    }
+    position += 2;
+  }
+  return false;
+}
+
+Status ReadLongLength(ByteView in, size_t octets, size_t* position, DWORD* length) {
+  if (octets > kMaxLengthOctets || octets > in.size - *position) return Status::kCorrupt;
+  DWORD value = 0;
+  for (size_t i = 0; i < octets; ++i) value = value << 8 | in[(*position)++];
+  // 0xFFFFFFFF stands for the indefinite form in the header's description.
+  if (value == kIndefiniteLength) return Status::kCorrupt;
+  *length = value;
+  return Status::kOk;
+}
+
+// Reads the length octets at `position`; fills `length`, `content` and `indefinite`.
+Status ReadLength(ByteView in, size_t position, ElementHeader* header) {
+  if (position >= in.size) return Status::kCorrupt;
+  const BYTE first = in[position++];
+  DWORD length = first;
+  if (first == kLongForm) {
+    header->indefinite = true;
+    length = kIndefiniteLength;
+    if (header->constructed == 0) {
+      size_t count = 0;
+      if (!CountToZeroPair(in.From(position), &count) || count >= kIndefiniteLength) {
+        return Status::kCorrupt;
+      }
+      length = static_cast<DWORD>(count);
+    }
+  } else if (first > kLongForm) {
+    const Status status = ReadLongLength(in, first & kLastGroupMask, &position, &length);
+    if (status != Status::kOk) return status;
+  }
+  header->length = length;
+  header->content = in.data + position;
+  return Status::kOk;
+}
+
+bool StartsWithZeroPair(ByteView bytes) { return bytes.size >= 2 && bytes[0] == 0 && bytes[1] == 0; }
+
+Fault MeasurePrimitive(ByteView rest, size_t* length) {
+  const void* zero = rest.empty() ? nullptr : std::memchr(rest.data, 0, rest.size);
+  if (zero == nullptr) {
+    *length = rest.size;
+    return {};
+  }
+  const size_t position = static_cast<size_t>(static_cast<const BYTE*>(zero) - rest.data);
+  if (!StartsWithZeroPair(rest.From(position))) return {Status::kCorrupt, kMeasureFault};
+  *length = position + 2;
+  return {};
+}
+
+// Content octets of a child inside constructed content, 0 for one whose children follow.
+Fault SkipContent(const ElementHeader& child, ByteView rest, size_t* length) {
+  if (child.indefinite && child.constructed == 0) return MeasurePrimitive(rest, length);
+  *length = child.indefinite ? 0 : child.length;
+  if (*length > rest.size) return {Status::kCorrupt, kMeasureFault};
+  return {};
+}
+
+}  // namespace
+
+Status ReadAnyHeader(ByteView in, ElementHeader* header) {
+  *header = {};
+  if (in.size < 2) return Status::kCorrupt;
+  header->constructed = in[0] & kConstructed;
+  header->cls = in[0] & kClassMask;
+  header->tag = in[0] & kTagMask;
+  size_t position = 1;
+  if (header->tag == kHighTagNumber) {
+    const Status status = ReadHighTag(in, &position, &header->tag);
+    if (status != Status::kOk) {
+      *header = {};
+      return status;
+    }
+  }
+  return ReadLength(in, position, header);
+}
+
+Status BoundedContent(const ASNT_ASN_STRUCT_INFO& info, const BYTE* end, ByteView* content) {
+  if (info.content == nullptr || info.length == kIndefiniteLength) return Status::kCorrupt;
+  if (end == nullptr || end < info.content) return Status::kCorrupt;
+  if (info.length > static_cast<size_t>(end - info.content)) return Status::kCorrupt;
+  *content = {info.content, info.length};
+  return Status::kOk;
+}
+
+// Depth is a counter: nesting costs no stack.
+Fault MeasureIndefinite(ByteView rest, bool constructed, size_t* length) {
+  if (!constructed) return MeasurePrimitive(rest, length);
+  size_t depth = 0;
+  size_t position = 0;
+  while (position < rest.size) {
+    const ByteView left = rest.From(position);
+    if (left[0] == 0) {
+      if (!StartsWithZeroPair(left)) return {Status::kCorrupt, kMeasureFault};
+      position += 2;
+      if (depth == 0) break;
+      --depth;
+      continue;
+    }
+    ElementHeader child;
+    const Status status = ReadHeader(left, &child);
+    if (status != Status::kOk) return {status, kHeaderFault};
+    position += static_cast<size_t>(child.content - left.data);
+    size_t content = 0;
+    if (const Fault fault = SkipContent(child, rest.From(position), &content)) return fault;
+    position += content;
+    if (child.length == kIndefiniteLength) ++depth;
+  }
+  *length = position;
+  return {};
+}
+
+}  // namespace Ortholan

@@ -1,0 +1,19 @@
+// ORTHOLAN_EXPORT marks what the built library shows to applications; everything else is hidden.
+//
+// ORTHOLAN_BUILDING is defined while the shared library itself is compiled, ORTHOLAN_STATIC by
+// whoever compiles or uses the static library.
+
+#ifndef ORTHOLAN_EXPORT_H_
+#define ORTHOLAN_EXPORT_H_
+
+#if !defined(_WIN32)
+#define ORTHOLAN_EXPORT __attribute__((visibility("default")))
+#elif defined(ORTHOLAN_STATIC)
+#define ORTHOLAN_EXPORT
+#elif defined(ORTHOLAN_BUILDING)
+#define ORTHOLAN_EXPORT __declspec(dllexport)
+#else
+#define ORTHOLAN_EXPORT __declspec(dllimport)
+#endif
+
+#endif  // ORTHOLAN_EXPORT_H_

@@ -1,0 +1,447 @@
+// The platform's types, constants and calls as the library and its applications use them.
+//
+// On Windows this is the system's own header, and `Ortholan` merely names what lies in it. On other
+// systems the same structures (with the layouts of 64-bit Windows), the same numbers and the same
+// calls are declared here inside the namespace `Ortholan`, where they clash with nobody's. After
+// `using namespace Ortholan;` one source text serves both:
+//
+//   DWORD size = 0;
+//   if (!CryptEncodeObject(X509_ASN_ENCODING, X509_NAME_VALUE, &value, nullptr, &size)) {
+//     return GetLastError();
+//   }
+//
+// Structure types and constants keep the platform's names; constants are macros on Windows and
+// typed values elsewhere, so they are written unqualified. A CRYPT_E_* code is signed on Windows:
+// compare it as static_cast<DWORD>(code).
+//
+// Wide text holds one UTF-16 unit a wchar_t on every platform, also where wchar_t has four bytes.
+
+#ifndef ORTHOLAN_PLATFORM_H_
+#define ORTHOLAN_PLATFORM_H_
+
+#include <ortholan/export.h>
+
+#if defined(_WIN32)
+
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+// wincrypt.h needs windows.h before it.
+#include <wincrypt.h>
+
+// Macros of the system's header that would rename members of the library's string class.
+#undef LoadString
+#undef FormatMessage
+
+namespace Ortholan {
+
+using ::BOOL;
+using ::BYTE;
+using ::DWORD;
+using ::HINSTANCE;
+using ::HMODULE;
+using ::LPCSTR;
+using ::LPCWSTR;
+using ::LPSTR;
+using ::LPWSTR;
+using ::UINT;
+using ::WORD;
+
+using ::FILETIME;
+using ::SYSTEMTIME;
+
+using ::_CRYPTOAPI_BLOB;
+using ::CERT_BLOB;
+using ::CERT_NAME_BLOB;
+using ::CERT_RDN_VALUE_BLOB;
+using ::CRYPT_ATTR_BLOB;
+using ::CRYPT_DATA_BLOB;
+using ::CRYPT_DER_BLOB;
+using ::CRYPT_DIGEST_BLOB;
+using ::CRYPT_HASH_BLOB;
+using ::CRYPT_INTEGER_BLOB;
+using ::CRYPT_OBJID_BLOB;
+using ::CRYPT_UINT_BLOB;
+using ::DATA_BLOB;
+
+using ::CERT_ALT_NAME_ENTRY;
+using ::CERT_ALT_NAME_INFO;
+using ::CERT_AUTHORITY_KEY_ID2_INFO;
+using ::CERT_BASIC_CONSTRAINTS2_INFO;
+using ::CERT_ENHKEY_USAGE;
+using ::CERT_EXTENSION;
+using ::CERT_NAME_INFO;
+using ::CERT_NAME_VALUE;
+using ::CERT_OTHER_NAME;
+using ::CERT_RDN;
+using ::CERT_RDN_ATTR;
+using ::CRYPT_BIT_BLOB;
+using ::CRYPT_OID_INFO;
+using ::CTL_USAGE;
+using ::PCCRYPT_OID_INFO;
+using ::PCERT_ALT_NAME_ENTRY;
+using ::PCERT_EXTENSION;
+using ::PCERT_NAME_INFO;
+using ::PCERT_NAME_VALUE;
+using ::PCERT_OTHER_NAME;
+using ::PCERT_RDN;
+using ::PCERT_RDN_ATTR;
+using ::PCERT_RDN_VALUE_BLOB;
+
+using ::CertRDNValueToStrA;
+using ::CertRDNValueToStrW;
+using ::CryptDecodeObject;
+using ::CryptEncodeObject;
+using ::CryptFindOIDInfo;
+using ::FileTimeToSystemTime;
+using ::FreeLibrary;
+using ::GetLastError;
+using ::GetModuleFileNameA;
+using ::GetModuleHandleA;
+using ::LoadLibraryA;
+using ::LoadStringA;
+using ::lstrlenA;
+using ::lstrlenW;
+using ::MultiByteToWideChar;
+using ::SetLastError;
+using ::SystemTimeToFileTime;
+using ::WideCharToMultiByte;
+
+}  // namespace Ortholan
+
+#else
+
+#include <cstdint>
+
+namespace Ortholan {
+
+using BYTE = std::uint8_t;
+using WORD = std::uint16_t;
+using DWORD = std::uint32_t;
+using BOOL = std::int32_t;
+using UINT = unsigned int;
+using LPSTR = char*;
+using LPCSTR = const char*;
+using LPWSTR = wchar_t*;
+using LPCWSTR = const wchar_t*;
+using HINSTANCE = void*;
+using HMODULE = void*;
+
+inline constexpr BOOL FALSE = 0;
+inline constexpr BOOL TRUE = 1;
+
+// 100-nanosecond steps since 1601-01-01 00:00 UTC.
+struct FILETIME {
+  DWORD dwLowDateTime;
+  DWORD dwHighDateTime;
+};
+
+struct SYSTEMTIME {
+  WORD wYear;       // 1601 to 30827
+  WORD wMonth;      // 1 to 12
+  WORD wDayOfWeek;  // 0 is Sunday
+  WORD wDay;
+  WORD wHour;
+  WORD wMinute;
+  WORD wSecond;
+  WORD wMilliseconds;
+};
+
+struct _CRYPTOAPI_BLOB {
+  DWORD cbData;  // bytes
+  BYTE* pbData;
+};
+using CERT_BLOB = _CRYPTOAPI_BLOB;
+using CERT_NAME_BLOB = _CRYPTOAPI_BLOB;
+using CERT_RDN_VALUE_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_ATTR_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_DATA_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_DER_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_DIGEST_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_HASH_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_INTEGER_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_OBJID_BLOB = _CRYPTOAPI_BLOB;
+using CRYPT_UINT_BLOB = _CRYPTOAPI_BLOB;
+using DATA_BLOB = _CRYPTOAPI_BLOB;
+using PCERT_RDN_VALUE_BLOB = _CRYPTOAPI_BLOB*;
+
+struct CRYPT_BIT_BLOB {
+  DWORD cbData;
+  BYTE* pbData;
+  DWORD cUnusedBits;  // low bits of the last byte that are no part of the string
+};
+
+struct CERT_NAME_VALUE {
+  DWORD dwValueType;  // CERT_RDN_*
+  CERT_RDN_VALUE_BLOB Value;
+};
+using PCERT_NAME_VALUE = CERT_NAME_VALUE*;
+
+struct CERT_RDN_ATTR {
+  LPSTR pszObjId;     // dotted text
+  DWORD dwValueType;  // CERT_RDN_*
+  CERT_RDN_VALUE_BLOB Value;
+};
+using PCERT_RDN_ATTR = CERT_RDN_ATTR*;
+
+struct CERT_RDN {
+  DWORD cRDNAttr;
+  PCERT_RDN_ATTR rgRDNAttr;
+};
+using PCERT_RDN = CERT_RDN*;
+
+struct CERT_NAME_INFO {
+  DWORD cRDN;
+  PCERT_RDN rgRDN;
+};
+using PCERT_NAME_INFO = CERT_NAME_INFO*;
+
+struct CERT_EXTENSION {
+  LPSTR pszObjId;
+  BOOL fCritical;
+  CRYPT_OBJID_BLOB Value;
+};
+using PCERT_EXTENSION = CERT_EXTENSION*;
+
+struct CRYPT_OID_INFO {
+  DWORD cbSize;
+  LPCSTR pszOID;
+  LPCWSTR pwszName;
+  DWORD dwGroupId;
+  union {
+    DWORD dwValue;
+    DWORD Algid;
+    DWORD dwLength;
+  };
+  CRYPT_DATA_BLOB ExtraInfo;
+};
+using PCCRYPT_OID_INFO = const CRYPT_OID_INFO*;
+
+struct CERT_BASIC_CONSTRAINTS2_INFO {
+  BOOL fCA;
+  BOOL fPathLenConstraint;
+  DWORD dwPathLenConstraint;
+};
+
+struct CTL_USAGE {
+  DWORD cUsageIdentifier;
+  LPSTR* rgpszUsageIdentifier;
+};
+using CERT_ENHKEY_USAGE = CTL_USAGE;
+
+struct CERT_OTHER_NAME {
+  LPSTR pszObjId;
+  CRYPT_OBJID_BLOB Value;  // one whole element
+};
+using PCERT_OTHER_NAME = CERT_OTHER_NAME*;
+
+struct CERT_ALT_NAME_ENTRY {
+  DWORD dwAltNameChoice;  // CERT_ALT_NAME_*
+  union {
+    PCERT_OTHER_NAME pOtherName;
+    LPWSTR pwszRfc822Name;
+    LPWSTR pwszDNSName;
+    CERT_NAME_BLOB DirectoryName;
+    LPWSTR pwszURL;
+    CRYPT_DATA_BLOB IPAddress;
+    LPSTR pszRegisteredID;
+  };
+};
+using PCERT_ALT_NAME_ENTRY = CERT_ALT_NAME_ENTRY*;
+
+struct CERT_ALT_NAME_INFO {
+  DWORD cAltEntry;
+  PCERT_ALT_NAME_ENTRY rgAltEntry;
+};
+
+struct CERT_AUTHORITY_KEY_ID2_INFO {
+  CRYPT_DATA_BLOB KeyId;
+  CERT_ALT_NAME_INFO AuthorityCertIssuer;
+  CRYPT_INTEGER_BLOB AuthorityCertSerialNumber;  // least significant byte first
+};
+
+inline constexpr DWORD X509_ASN_ENCODING = 0x00000001;
+inline constexpr DWORD PKCS_7_ASN_ENCODING = 0x00010000;
+
+// Structure types of CryptEncodeObject and CryptDecodeObject: small numbers in place of a pointer
+// to the text of an object identifier.
+inline const LPCSTR X509_NAME_VALUE = reinterpret_cast<LPCSTR>(6);
+inline const LPCSTR X509_ALTERNATE_NAME = reinterpret_cast<LPCSTR>(12);
+inline const LPCSTR X509_KEY_USAGE = reinterpret_cast<LPCSTR>(14);
+inline const LPCSTR X509_BASIC_CONSTRAINTS2 = reinterpret_cast<LPCSTR>(15);
+inline const LPCSTR X509_UNICODE_NAME_VALUE = reinterpret_cast<LPCSTR>(24);
+inline const LPCSTR X509_OCTET_STRING = reinterpret_cast<LPCSTR>(25);
+inline const LPCSTR X509_BITS = reinterpret_cast<LPCSTR>(26);
+inline const LPCSTR X509_AUTHORITY_KEY_ID2 = reinterpret_cast<LPCSTR>(31);
+inline const LPCSTR X509_ENHANCED_KEY_USAGE = reinterpret_cast<LPCSTR>(36);
+
+inline constexpr char szOID_KEY_USAGE[] = "2.5.29.15";
+inline constexpr char szOID_SUBJECT_ALT_NAME[] = "2.5.29.7";
+inline constexpr char szOID_ISSUER_ALT_NAME[] = "2.5.29.8";
+inline constexpr char szOID_SUBJECT_KEY_IDENTIFIER[] = "2.5.29.14";
+inline constexpr char szOID_SUBJECT_ALT_NAME2[] = "2.5.29.17";
+inline constexpr char szOID_ISSUER_ALT_NAME2[] = "2.5.29.18";
+inline constexpr char szOID_BASIC_CONSTRAINTS2[] = "2.5.29.19";
+inline constexpr char szOID_AUTHORITY_KEY_IDENTIFIER2[] = "2.5.29.35";
+inline constexpr char szOID_ENHANCED_KEY_USAGE[] = "2.5.29.37";
+
+// Value types of one attribute, and the flags that may stand beside them.
+inline constexpr DWORD CERT_RDN_TYPE_MASK = 0x000000FF;
+inline constexpr DWORD CERT_RDN_FLAGS_MASK = 0xFF000000;
+inline constexpr DWORD CERT_RDN_ANY_TYPE = 0;
+inline constexpr DWORD CERT_RDN_ENCODED_BLOB = 1;
+inline constexpr DWORD CERT_RDN_OCTET_STRING = 2;
+inline constexpr DWORD CERT_RDN_NUMERIC_STRING = 3;
+inline constexpr DWORD CERT_RDN_PRINTABLE_STRING = 4;
+inline constexpr DWORD CERT_RDN_TELETEX_STRING = 5;
+inline constexpr DWORD CERT_RDN_T61_STRING = 5;
+inline constexpr DWORD CERT_RDN_VIDEOTEX_STRING = 6;
+inline constexpr DWORD CERT_RDN_IA5_STRING = 7;
+inline constexpr DWORD CERT_RDN_GRAPHIC_STRING = 8;
+inline constexpr DWORD CERT_RDN_VISIBLE_STRING = 9;
+inline constexpr DWORD CERT_RDN_ISO646_STRING = 9;
+inline constexpr DWORD CERT_RDN_GENERAL_STRING = 10;
+inline constexpr DWORD CERT_RDN_UNIVERSAL_STRING = 11;
+inline constexpr DWORD CERT_RDN_INT4_STRING = 11;
+inline constexpr DWORD CERT_RDN_BMP_STRING = 12;
+inline constexpr DWORD CERT_RDN_UNICODE_STRING = 12;
+inline constexpr DWORD CERT_RDN_UTF8_STRING = 13;
+inline constexpr DWORD CERT_RDN_DISABLE_IE4_UTF8_FLAG = 0x01000000;
+inline constexpr DWORD CERT_RDN_ENABLE_PUNYCODE_FLAG = 0x02000000;
+inline constexpr DWORD CERT_RDN_FORCE_UTF8_UNICODE_FLAG = 0x10000000;
+inline constexpr DWORD CERT_RDN_ENABLE_UTF8_UNICODE_FLAG = 0x20000000;
+inline constexpr DWORD CERT_RDN_DISABLE_CHECK_TYPE_FLAG = 0x40000000;
+inline constexpr DWORD CERT_RDN_ENABLE_T61_UNICODE_FLAG = 0x80000000;
+
+// Name styles and the flags of the option words.
+inline constexpr DWORD CERT_SIMPLE_NAME_STR = 1;
+inline constexpr DWORD CERT_OID_NAME_STR = 2;
+inline constexpr DWORD CERT_X500_NAME_STR = 3;
+inline constexpr DWORD CERT_NAME_STR_DISABLE_IE4_UTF8_FLAG = 0x00010000;
+inline constexpr DWORD CERT_NAME_STR_ENABLE_T61_UNICODE_FLAG = 0x00020000;
+inline constexpr DWORD CERT_NAME_STR_ENABLE_UTF8_UNICODE_FLAG = 0x00040000;
+inline constexpr DWORD CERT_NAME_STR_FORCE_UTF8_DIR_STR_FLAG = 0x00080000;
+inline constexpr DWORD CERT_NAME_STR_DISABLE_UTF8_DIR_STR_FLAG = 0x00100000;
+inline constexpr DWORD CERT_NAME_STR_REVERSE_FLAG = 0x02000000;
+inline constexpr DWORD CERT_NAME_STR_COMMA_FLAG = 0x04000000;
+inline constexpr DWORD CERT_NAME_STR_CRLF_FLAG = 0x08000000;
+inline constexpr DWORD CERT_NAME_STR_NO_QUOTING_FLAG = 0x10000000;
+inline constexpr DWORD CERT_NAME_STR_NO_PLUS_FLAG = 0x20000000;
+inline constexpr DWORD CERT_NAME_STR_SEMICOLON_FLAG = 0x40000000;
+
+inline constexpr DWORD CERT_ALT_NAME_OTHER_NAME = 1;
+inline constexpr DWORD CERT_ALT_NAME_RFC822_NAME = 2;
+inline constexpr DWORD CERT_ALT_NAME_DNS_NAME = 3;
+inline constexpr DWORD CERT_ALT_NAME_X400_ADDRESS = 4;
+inline constexpr DWORD CERT_ALT_NAME_DIRECTORY_NAME = 5;
+inline constexpr DWORD CERT_ALT_NAME_EDI_PARTY_NAME = 6;
+inline constexpr DWORD CERT_ALT_NAME_URL = 7;
+inline constexpr DWORD CERT_ALT_NAME_IP_ADDRESS = 8;
+inline constexpr DWORD CERT_ALT_NAME_REGISTERED_ID = 9;
+
+inline constexpr DWORD CRYPT_OID_INFO_OID_KEY = 1;
+inline constexpr DWORD CRYPT_OID_INFO_NAME_KEY = 2;
+inline constexpr DWORD CRYPT_RDN_ATTR_OID_GROUP_ID = 5;
+
+inline constexpr UINT CP_ACP = 0;
+inline constexpr UINT CP_THREAD_ACP = 3;
+inline constexpr UINT CP_UTF8 = 65001;
+
+// Flags of the two text conversions.
+inline constexpr DWORD MB_ERR_INVALID_CHARS = 0x00000008;
+inline constexpr DWORD WC_ERR_INVALID_CHARS = 0x00000080;
+inline constexpr DWORD WC_NO_BEST_FIT_CHARS = 0x00000400;
+
+inline constexpr DWORD ERROR_SUCCESS = 0;
+inline constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
+inline constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
+inline constexpr DWORD ERROR_ACCESS_DENIED = 5;
+inline constexpr DWORD ERROR_INVALID_HANDLE = 6;
+inline constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
+inline constexpr DWORD ERROR_INVALID_DATA = 13;
+inline constexpr DWORD ERROR_WRITE_FAULT = 29;
+inline constexpr DWORD ERROR_READ_FAULT = 30;
+inline constexpr DWORD ERROR_GEN_FAILURE = 31;
+inline constexpr DWORD ERROR_HANDLE_EOF = 38;
+inline constexpr DWORD ERROR_FILE_EXISTS = 80;
+inline constexpr DWORD ERROR_CANNOT_MAKE = 82;
+inline constexpr DWORD ERROR_INVALID_PARAMETER = 87;
+inline constexpr DWORD ERROR_OPEN_FAILED = 110;
+inline constexpr DWORD ERROR_DISK_FULL = 112;
+inline constexpr DWORD ERROR_CALL_NOT_IMPLEMENTED = 120;
+inline constexpr DWORD ERROR_INSUFFICIENT_BUFFER = 122;
+inline constexpr DWORD ERROR_INVALID_NAME = 123;
+inline constexpr DWORD ERROR_MOD_NOT_FOUND = 126;
+inline constexpr DWORD ERROR_NEGATIVE_SEEK = 131;
+inline constexpr DWORD ERROR_BAD_ARGUMENTS = 160;
+inline constexpr DWORD ERROR_ALREADY_EXISTS = 183;
+inline constexpr DWORD ERROR_MORE_DATA = 234;
+inline constexpr DWORD ERROR_INVALID_FLAGS = 1004;
+inline constexpr DWORD ERROR_NO_UNICODE_TRANSLATION = 1113;
+inline constexpr DWORD ERROR_LOGON_FAILURE = 1326;
+inline constexpr DWORD ERROR_INTERNAL_ERROR = 1359;
+inline constexpr DWORD ERROR_INTERNAL_DB_CORRUPTION = 1358;
+inline constexpr DWORD ERROR_FUNCTION_FAILED = 1627;
+inline constexpr DWORD ERROR_RESOURCE_NAME_NOT_FOUND = 1814;
+
+inline constexpr DWORD CRYPT_E_NOT_FOUND = 0x80092004;
+inline constexpr DWORD CRYPT_E_INVALID_NUMERIC_STRING = 0x80092020;
+inline constexpr DWORD CRYPT_E_INVALID_PRINTABLE_STRING = 0x80092021;
+inline constexpr DWORD CRYPT_E_INVALID_IA5_STRING = 0x80092022;
+inline constexpr DWORD CRYPT_E_INVALID_X500_STRING = 0x80092023;
+inline constexpr DWORD CRYPT_E_NOT_CHAR_STRING = 0x80092024;
+inline constexpr DWORD CRYPT_E_ASN1_ERROR = 0x80093100;
+inline constexpr DWORD CRYPT_E_ASN1_EOD = 0x80093102;
+inline constexpr DWORD CRYPT_E_ASN1_CORRUPT = 0x80093103;
+inline constexpr DWORD CRYPT_E_ASN1_LARGE = 0x80093104;
+inline constexpr DWORD CRYPT_E_ASN1_CONSTRAINT = 0x80093105;
+inline constexpr DWORD CRYPT_E_ASN1_MEMORY = 0x80093106;
+inline constexpr DWORD CRYPT_E_ASN1_BADTAG = 0x8009310B;
+inline constexpr DWORD CRYPT_E_ASN1_CHOICE = 0x8009310C;
+
+ORTHOLAN_EXPORT void SetLastError(DWORD code) noexcept;
+ORTHOLAN_EXPORT DWORD GetLastError() noexcept;
+
+ORTHOLAN_EXPORT int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int textBytes,
+                                        LPWSTR out, int outUnits) noexcept;
+ORTHOLAN_EXPORT int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR text, int textUnits,
+                                        LPSTR out, int outBytes, LPCSTR defaultChar,
+                                        BOOL* usedDefaultChar) noexcept;
+ORTHOLAN_EXPORT int lstrlenA(LPCSTR text) noexcept;
+ORTHOLAN_EXPORT int lstrlenW(LPCWSTR text) noexcept;
+
+ORTHOLAN_EXPORT BOOL CryptEncodeObject(DWORD encodingType, LPCSTR structType,
+                                       const void* structInfo, BYTE* out, DWORD* outBytes) noexcept;
+ORTHOLAN_EXPORT BOOL CryptDecodeObject(DWORD encodingType, LPCSTR structType, const BYTE* encoded,
+                                       DWORD encodedBytes, DWORD flags, void* out,
+                                       DWORD* outBytes) noexcept;
+ORTHOLAN_EXPORT PCCRYPT_OID_INFO CryptFindOIDInfo(DWORD keyType, void* key, DWORD groupId) noexcept;
+ORTHOLAN_EXPORT DWORD CertRDNValueToStrA(DWORD valueType, CERT_RDN_VALUE_BLOB* value, LPSTR out,
+                                         DWORD outChars) noexcept;
+ORTHOLAN_EXPORT DWORD CertRDNValueToStrW(DWORD valueType, CERT_RDN_VALUE_BLOB* value, LPWSTR out,
+                                         DWORD outChars) noexcept;
+
+ORTHOLAN_EXPORT BOOL FileTimeToSystemTime(const FILETIME* fileTime,
+                                          SYSTEMTIME* systemTime) noexcept;
+ORTHOLAN_EXPORT BOOL SystemTimeToFileTime(const SYSTEMTIME* systemTime,
+                                          FILETIME* fileTime) noexcept;
+
+ORTHOLAN_EXPORT HMODULE GetModuleHandleA(LPCSTR moduleName) noexcept;
+ORTHOLAN_EXPORT DWORD GetModuleFileNameA(HMODULE module, LPSTR out, DWORD outChars) noexcept;
+ORTHOLAN_EXPORT HMODULE LoadLibraryA(LPCSTR moduleName) noexcept;
+ORTHOLAN_EXPORT BOOL FreeLibrary(HMODULE module) noexcept;
+ORTHOLAN_EXPORT int LoadStringA(HINSTANCE module, UINT id, LPSTR out, int outChars) noexcept;
+
+// Not a call of Windows: empties (false) or restores (true) the registry behind CryptFindOIDInfo
+// for the whole process, so that a test sees the library's own attribute keys answer.
+ORTHOLAN_EXPORT void SetAttributeRegistryEnabled(bool enabled) noexcept;
+
+}  // namespace Ortholan
+
+#endif  // defined(_WIN32)
+
+#endif  // ORTHOLAN_PLATFORM_H_

@@ -1,0 +1,66 @@
+// Single attributes of a name: as the platform's structures hold them, and as a person sees them.
+#ifndef ORTHOLAN_RDN_H_
+#define ORTHOLAN_RDN_H_
+
+#include <ortholan/export.h>
+#include <ortholan/ident_obj.h>
+#include <ortholan/platform.h>
+#include <ortholan/zep_string.h>
+
+namespace Ortholan {
+
+// One attribute as in the platform's CERT_RDN_ATTR. Bytes of a type-12 value are UTF-16LE, two a
+// character; of types 4 and 7 8-bit text; of type 13 UTF-8.
+struct ORTHOLAN_EXPORT RDNAttr {
+  CZEPString oid;       // dotted identifier
+  DWORD valueType = 0;  // CERT_RDN_*
+  IdentObj value;
+
+  RDNAttr();
+  RDNAttr(const RDNAttr&);
+  RDNAttr(RDNAttr&&) noexcept;
+  RDNAttr& operator=(const RDNAttr&);
+  RDNAttr& operator=(RDNAttr&&) noexcept;
+  ~RDNAttr();
+
+  RDNAttr(const CERT_RDN_ATTR& attr);
+  RDNAttr(const char* oid, unsigned long valueType, const IdentObj& value);
+  // As SetBy(key, value).
+  RDNAttr(const char* key, const char* value);
+
+  RDNAttr& operator=(const CERT_RDN_ATTR& attr);
+  void SetBy(const CERT_RDN_ATTR& attr);
+  // From a keyword or dotted identifier and text, as X509Name::MakeRDNAttr does and fails.
+  void SetBy(const char* key, const char* value);
+  // The value as 8-bit text, as X509Name::GetRDNAttrValueString does.
+  void GetValueString(CZEPString& out) const;
+};
+
+// One attribute as a person sees it: key text (a dotted identifier wherever the library makes it)
+// and value text, both 8-bit in the thread's code page.
+struct ORTHOLAN_EXPORT SimpleRDN {
+  CZEPString key;
+  CZEPString value;
+
+  SimpleRDN();
+  SimpleRDN(const char* key, const char* value);
+  SimpleRDN(const SimpleRDN&);
+  SimpleRDN(SimpleRDN&&) noexcept;
+  SimpleRDN& operator=(const SimpleRDN&);
+  SimpleRDN& operator=(SimpleRDN&&) noexcept;
+  ~SimpleRDN();
+
+  // By GetAttrPriority of the keys alone; values play no part.
+  bool operator<(const SimpleRDN& other) const;
+  bool operator>(const SimpleRDN& other) const;
+
+  // By key, then by value, as CZEPString compares: an empty text is neither less nor greater than
+  // any other, so this is no order to sort by where texts may be empty.
+  struct ORTHOLAN_EXPORT CompareSimpleRDN {
+    bool operator()(const SimpleRDN& a, const SimpleRDN& b) const;
+  };
+};
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_RDN_H_

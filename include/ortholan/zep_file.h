@@ -1,0 +1,52 @@
+// A file of bytes.
+//
+//   Ortholan::CZEPFile file;
+//   if (!file.Open("extension.der", Ortholan::CZEPFile::kRead)) return GetLastError();
+#ifndef ORTHOLAN_ZEP_FILE_H_
+#define ORTHOLAN_ZEP_FILE_H_
+
+#include <ortholan/export.h>
+#include <ortholan/platform.h>
+
+#include <cstdint>
+
+namespace Ortholan {
+
+// Closes itself. Every operation returns false with the platform's code in the last error where it
+// fails. Positions are bytes from the start. Reading and seeking are const: they do not change the
+// file, though its position moves.
+class ORTHOLAN_EXPORT CZEPFile {
+ public:
+  enum Mode {
+    kRead,       // must exist
+    kReadWrite,  // must exist
+    kCreate,     // read and write; made anew, or emptied
+  };
+
+  CZEPFile() noexcept;
+  CZEPFile(const CZEPFile&) = delete;
+  CZEPFile& operator=(const CZEPFile&) = delete;
+  virtual ~CZEPFile();
+
+  // Closes what was open. `path` is in the platform's 8-bit form; null is error 87.
+  bool Open(const char* path, Mode mode);
+  // What the system could not write until now is reported here. True where nothing was open.
+  bool Close();
+  bool IsOpen() const noexcept;
+
+  // Reads up to `size` bytes; `*read` is less only at the end of the file.
+  bool Read(void* data, DWORD size, DWORD* read) const;
+  // Writes all of `size` bytes or fails.
+  bool Write(const void* data, DWORD size);
+
+  bool Seek(uint64_t position) const;
+  bool GetPosition(uint64_t* position) const;
+  bool GetSize(uint64_t* size) const;
+
+ private:
+  void* handle_;
+};
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_ZEP_FILE_H_
