@@ -1,0 +1,94 @@
+// The attribute types that names are written with: one row each, shared by both directions.
+#ifndef ORTHOLAN_NAMES_ATTRIBUTE_TABLE_H_
+#define ORTHOLAN_NAMES_ATTRIBUTE_TABLE_H_
+
+#include <ortholan/platform.h>
+
+#include <cstddef>
+#include <string_view>
+
+#include "foundation/byte_view.h"
+
+namespace Ortholan {
+
+// Which string type an attribute's value is written in.
+enum class ValueRule {
+  kFreeText,   // chosen by the value's characters and the encoder's options
+  kPrintable,  // PrintableString always
+  kIA5,        // IA5String always
+};
+
+// The identifier in DER, made from its dotted text by the compiler.
+struct OidDer {
+  BYTE bytes[16] = {};
+  size_t size = 0;
+
+  explicit constexpr OidDer(std::string_view dotted);
+};
+
+struct AttributeRow {
+  std::string_view oid;
+  OidDer der;
+  // Place in the canonical order: the encoder's sort writes high ranks first.
+  int rank;
+  // What the decoder calls the type where the platform has no name; empty: it has none.
+  std::wstring_view key;
+  ValueRule rule = ValueRule::kFreeText;
+  // Values are written as a SEQUENCE of one string a line.
+  bool lines = false;
+
+  constexpr ByteView oid_der() const { return {der.bytes, der.size}; }
+  constexpr ByteView oid_content() const { return oid_der().From(2); }
+};
+
+constexpr int kUnrankedAttribute = 99;
+
+constexpr OidDer::OidDer(std::string_view dotted) {
+  size_t position = 0;
+  unsigned arcs[16] = {};
+  size_t count = 1;
+  for (; position < dotted.size(); ++position) {
+    if (dotted[position] == '.') {
+      ++count;
+    } else {
+      arcs[count - 1] = arcs[count - 1] * 10 + static_cast<unsigned>(dotted[position] - '0');
+    }
+  }
+  size = 2;
+  bytes[size++] = static_cast<BYTE>(arcs[0] * 40 + arcs[1]);
+  for (size_t i = 2; i < count; ++i) {
+    unsigned shift = 0;
+    while ((arcs[i] >> shift) >= 0x80) shift += 7;
+    for (; shift != 0; shift -= 7) bytes[size++] = static_cast<BYTE>(0x80 | (arcs[i] >> shift & 0x7F));
+    bytes[size++] = static_cast<BYTE>(arcs[i] & 0x7F);
+  }
+  bytes[0] = 6;
+  bytes[1] = static_cast<BYTE>(size - 2);
+}
+
+#define ORTHOLAN_OID(dotted) std::string_view(dotted), OidDer(dotted)
+inline constexpr AttributeRow kAttributes[] = {
+    {ORTHOLAN_OID("2.5.4.3"), 0, L"cn"},
+    {ORTHOLAN_OID("2.5.4.65"), 0, L"pseudonym"},
+    {ORTHOLAN_OID("2.5.4.12"), 1, L"t"},
+    {ORTHOLAN_OID("2.5.4.11"), 2, L"ou"},
+    {ORTHOLAN_OID("2.5.4.10"), 3, L"o"},
+    {ORTHOLAN_OID("1.2.840.113549.1.9.1"), 4, L"e", ValueRule::kIA5},
+    {ORTHOLAN_OID("1.2.840.113556.1.2.141"), 5, L"department"},
+    {ORTHOLAN_OID("2.5.4.5"), 6, L"serialNumber", ValueRule::kPrintable},
+    {ORTHOLAN_OID("2.5.4.16"), 7, L"postalAddress", ValueRule::kFreeText, true},
+    {ORTHOLAN_OID("2.5.4.8"), 8, L"st"},
+    {ORTHOLAN_OID("2.5.4.7"), 9, L"l"},
+    {ORTHOLAN_OID("2.5.4.6"), 10, L"c", ValueRule::kPrintable},
+    {ORTHOLAN_OID("1.2.840.113549.1.9.2"), 11, L""},
+};
+#undef ORTHOLAN_OID
+
+// The row of an identifier in dotted text, null where there is none. Exact and case-sensitive.
+const AttributeRow* FindAttribute(std::string_view oid);
+// The same by the content octets of the identifier.
+const AttributeRow* FindAttributeByDer(ByteView content);
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_ATTRIBUTE_TABLE_H_

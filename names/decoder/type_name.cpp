@@ -1,0 +1,41 @@
+#include "names/decoder/type_name.h"
+
+#include "foundation/code_page.h"
+#include "foundation/status_code.h"
+#include "platform/calls.h"
+
+namespace Ortholan {
+
+bool DecodeAttrOid(const Element& element, TypeText* type) {
+  ByteView content;
+  Status status = BoundedContent(element.header, element.bytes.end(), &content);
+  if (status != Status::kOk) return FailWith(status);
+  type->row_ = FindAttributeByDer(content);
+  if (type->row_ != nullptr) {
+    type->dotted_ = type->row_->oid;
+    return true;
+  }
+  status = FormatOid(content, &type->formatted_);
+  if (status != Status::kOk) return FailWith(status);
+  const size_t length = type->formatted_.size();
+  type->formatted_.push_back('\0');
+  type->dotted_ = {type->formatted_.data(), length};
+  return true;
+}
+
+std::wstring_view GetX500KeyFromOid(const TypeText& type) {
+  const CRYPT_OID_INFO* info = FindAttributeInfo(CRYPT_OID_INFO_OID_KEY, type.dotted().data());
+  if (info != nullptr && info->pwszName != nullptr) return info->pwszName;
+  return type.row() != nullptr ? type.row()->key : std::wstring_view();
+}
+
+void AppendType(const TypeText& type, unsigned style, std::wstring* text) {
+  const std::wstring_view key = style == kStyleKeys ? GetX500KeyFromOid(type) : std::wstring_view();
+  if (!key.empty()) {
+    text->append(key);
+  } else {
+    AppendAscii(type.dotted(), text);
+  }
+}
+
+}  // namespace Ortholan

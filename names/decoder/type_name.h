@@ -1,0 +1,45 @@
+// Attribute types as text: the dotted identifier, and the short key.
+#ifndef ORTHOLAN_NAMES_DECODER_TYPE_NAME_H_
+#define ORTHOLAN_NAMES_DECODER_TYPE_NAME_H_
+
+#include <string>
+#include <string_view>
+
+#include "foundation/element_reader.h"
+#include "foundation/oid_text.h"
+#include "names/attribute_table.h"
+
+namespace Ortholan {
+
+// An attribute type in dotted text, terminated.
+class TypeText {
+ public:
+  std::string_view dotted() const { return dotted_; }
+  const AttributeRow* row() const { return row_; }
+
+ private:
+  friend bool DecodeAttrOid(const Element& element, TypeText* type);
+
+  const AttributeRow* row_ = nullptr;  // null for a type that the table has not
+  std::string_view dotted_;            // into the row or `formatted_`
+  OidText formatted_;
+};
+
+// Renders the content of an identifier element, whatever its class. False with the last error set
+// where the content is no identifier.
+bool DecodeAttrOid(const Element& element, TypeText* type);
+
+// The platform's name of the type, otherwise the table's key; empty where neither has one, and the
+// dotted text is shown. Valid for the life of the process.
+std::wstring_view GetX500KeyFromOid(const TypeText& type);
+
+// Name styles: what of a type is shown.
+constexpr unsigned kStyleValuesOnly = 1;
+constexpr unsigned kStyleKeys = 3;
+
+// Appends the type as the style shows it: key or dotted identifier.
+void AppendType(const TypeText& type, unsigned style, std::wstring* text);
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_DECODER_TYPE_NAME_H_

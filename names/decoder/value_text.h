@@ -1,0 +1,27 @@
+// Attribute values as wide text.
+#ifndef ORTHOLAN_NAMES_DECODER_VALUE_TEXT_H_
+#define ORTHOLAN_NAMES_DECODER_VALUE_TEXT_H_
+
+#include <list>
+#include <string>
+
+#include "foundation/element_reader.h"
+
+namespace Ortholan {
+
+// Appends the value's text, by tag number alone:
+//   12, 30          the platform's UTF-16 of the string
+//   19, 20, 22, 26  the string's octets in the thread's code page
+//   16              the texts of the children, nested ones too, that have any, a line each
+//   any other       the whole encoding in hexadecimal
+// False with the last error set for bytes that are no such value, and for a SEQUENCE nested more
+// than 32 deep; `text` then ends with what was decoded before.
+bool DecodeAttrData(const Element& value, std::wstring* text);
+
+// Replaces `texts` by the non-empty texts of the children of a SEQUENCE, or by the one text of
+// any other value where it is not empty.
+bool DecodeAttrData(const Element& value, std::list<std::wstring>* texts);
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_DECODER_VALUE_TEXT_H_

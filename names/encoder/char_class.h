@@ -1,0 +1,48 @@
+// The alphabets of PrintableString and IA5String as the encoder takes them, and a table of both.
+#ifndef ORTHOLAN_NAMES_ENCODER_CHAR_CLASS_H_
+#define ORTHOLAN_NAMES_ENCODER_CHAR_CLASS_H_
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace Ortholan {
+
+#define ORTHOLAN_ALPHANUMERIC \
+  L"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"
+// CR and LF are in, "=" is out, unlike X.680's PrintableString: lines of an address are printable,
+// and an "=" stays recognisable.
+inline constexpr std::wstring_view kPrintableAlphabet = ORTHOLAN_ALPHANUMERIC L"()+,-./:? '\r\n";
+inline constexpr std::wstring_view kIA5Alphabet =
+    ORTHOLAN_ALPHANUMERIC L"!\"#$%&*<>=;@[]{}^_`|()+,-./:? ~'\r\n\\";
+#undef ORTHOLAN_ALPHANUMERIC
+static_assert(kPrintableAlphabet.size() == 75 && kIA5Alphabet.size() == 97);
+
+enum CharClass : uint8_t {
+  kInPrintable = 1,
+  kInIA5 = 2,
+};
+
+constexpr size_t kAsciiCount = 0x80;
+
+constexpr std::array<uint8_t, kAsciiCount> MakeCharClasses() {
+  std::array<uint8_t, kAsciiCount> classes = {};
+  for (const wchar_t c : kPrintableAlphabet) classes[static_cast<size_t>(c)] |= kInPrintable;
+  for (const wchar_t c : kIA5Alphabet) classes[static_cast<size_t>(c)] |= kInIA5;
+  return classes;
+}
+inline constexpr std::array<uint8_t, kAsciiCount> kCharClasses = MakeCharClasses();
+
+// The alphabets that every character of `text` is in.
+inline unsigned CommonClasses(std::wstring_view text) {
+  unsigned common = kInPrintable | kInIA5;
+  for (const wchar_t c : text) {
+    const auto index = static_cast<uint32_t>(c);
+    common &= index < kAsciiCount ? kCharClasses[index] : 0u;
+  }
+  return common;
+}
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_ENCODER_CHAR_CLASS_H_

@@ -1,0 +1,62 @@
+// Attributes to the DER encoding of a Name (RFC 5280 4.1.2.4), planned first and written once:
+//
+//   SEQUENCE {                     the RDNs in the order given
+//     SET {                        the RDN's attributes in the order given, never re-sorted
+//       SEQUENCE { OBJECT IDENTIFIER, value } ... } ... }
+#ifndef ORTHOLAN_NAMES_ENCODER_NAME_ASSEMBLER_H_
+#define ORTHOLAN_NAMES_ENCODER_NAME_ASSEMBLER_H_
+
+#include <ortholan/ident_obj.h>
+#include <ortholan/platform.h>
+
+#include <string>
+#include <string_view>
+
+#include "foundation/oid_text.h"
+#include "foundation/small_buffer.h"
+#include "names/attribute_table.h"
+#include "names/encoder/value_encoder.h"
+
+namespace Ortholan {
+
+// Attributes are added in order; values must stay where they are until Write returns.
+class NameAssembler {
+ public:
+  explicit NameAssembler(DWORD options) : options_(options) {}
+
+  // Adds one attribute to the current RDN. False, with the last error set where the type is no
+  // identifier, for what cannot be encoded.
+  bool EncodeElem(const AttributeRow* row, std::wstring_view value);
+  bool EncodeElem(std::string_view type, std::wstring_view value);
+  void EndRdn();
+
+  // Writes the name. `der` is unchanged on failure: false, with last error 8 where memory ran out
+  // or the name passes 4 GiB, else the platform's.
+  bool Write(IdentObj* der);
+
+ private:
+  // An attribute, or with `oid_size` 0 the end of an RDN that has none.
+  struct Plan {
+    const AttributeRow* row;  // null: the identifier is in `oids_`
+    size_t oid_offset;
+    size_t oid_size;  // octets of the whole identifier element
+    ValuePlan value;
+    bool ends_rdn;
+
+    uint64_t content() const { return oid_size + value.size; }
+  };
+
+  bool AddPlan(const AttributeRow* row, ValueRule rule, size_t oidSize, std::wstring_view value);
+  uint64_t RdnContent(size_t first, size_t* next) const;
+  BYTE* WriteAttribute(const Plan& plan, BYTE* out);
+  bool WriteRdns(BYTE* out);
+
+  DWORD options_;
+  SmallBuffer<Plan, 16> plans_;
+  SmallBuffer<BYTE, 64> oids_;
+  ValueEncoder values_;
+};
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_ENCODER_NAME_ASSEMBLER_H_

@@ -1,0 +1,101 @@
+#include "names/encoder/type_resolver.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "foundation/ascii.h"
+#include "platform/calls.h"
+
+namespace Ortholan {
+namespace {
+
+// Longer texts are refused before anything else.
+constexpr size_t kTypeTextLimit = 270;
+constexpr std::string_view kBarePrefix = "OID.";
+
+constexpr const AttributeRow* RowOf(std::string_view oid) {
+  for (const AttributeRow& row : kAttributes) {
+    if (row.oid == oid) return &row;
+  }
+  return nullptr;
+}
+
+struct Keyword {
+  std::string_view text;
+  const AttributeRow* row;
+};
+
+constexpr Keyword kKeywords[] = {
+    {"C", RowOf("2.5.4.6")},
+    {"E", RowOf("1.2.840.113549.1.9.1")},
+    {"L", RowOf("2.5.4.7")},
+    {"O", RowOf("2.5.4.10")},
+    {"S", RowOf("2.5.4.8")},
+    {"T", RowOf("2.5.4.12")},
+    {"CN", RowOf("2.5.4.3")},
+    {"OU", RowOf("2.5.4.11")},
+    {"EMAIL", RowOf("1.2.840.113549.1.9.1")},
+    {"TITLE", RowOf("2.5.4.12")},
+    {"PSEUDONYM", RowOf("2.5.4.65")},
+    {"DEPARTMENT", RowOf("1.2.840.113556.1.2.141")},
+    {"SERIALNUMBER", RowOf("2.5.4.5")},
+    {"POSTALADDRESS", RowOf("2.5.4.16")},
+};
+
+// A bit for each length that some form has: text of such a length is left unresolved where it is
+// no form, text of another length is refused.
+constexpr uint32_t LengthsOfForms() {
+  uint32_t lengths = 0;
+  for (const Keyword& keyword : kKeywords) lengths |= 1u << keyword.text.size();
+  for (const AttributeRow& row : kAttributes) lengths |= 1u << row.oid.size();
+  return lengths;
+}
+constexpr uint32_t kFormLengths = LengthsOfForms();
+constexpr size_t kLongestForm = 22;
+static_assert(kFormLengths >> kLongestForm == 1);
+
+const AttributeRow* FindKeyword(std::string_view upper) {
+  for (const Keyword& keyword : kKeywords) {
+    if (keyword.text == upper) return keyword.row;
+  }
+  return nullptr;
+}
+
+bool MatchForm(std::string_view form, const AttributeRow** row) {
+  if (form.size() > kLongestForm || (kFormLengths >> form.size() & 1) == 0) return false;
+  *row = IsAsciiDigit(form[0]) ? FindAttribute(form) : FindKeyword(form);
+  return true;
+}
+
+// The identifier that the platform has for the name, as the caller wrote it; null without one.
+const char* PlatformIdentifier(std::wstring_view name) {
+  wchar_t key[kTypeTextLimit];
+  *std::copy(name.begin(), name.end(), key) = L'\0';
+  const CRYPT_OID_INFO* info = FindAttributeInfo(CRYPT_OID_INFO_NAME_KEY, key);
+  return info != nullptr ? info->pszOID : nullptr;
+}
+
+// Upper-cased; a character above 0x7F becomes one that is in no form.
+void ToForm(std::wstring_view text, char* form) {
+  for (const wchar_t c : text) {
+    *form++ = static_cast<uint32_t>(c) < 0x80 ? static_cast<char>(ToAsciiUpper(c)) : '?';
+  }
+}
+
+}  // namespace
+
+bool ResolveType(std::wstring_view text, const AttributeRow** row) {
+  *row = nullptr;
+  if (text.empty() || text.size() >= kTypeTextLimit) return false;
+  if (text.find(L'\0') != std::wstring_view::npos) return false;
+  char form[kTypeTextLimit];
+  ToForm(text, form);
+  const std::string_view upper(form, text.size());
+  if (upper == kBarePrefix) return false;
+  if (IsAsciiLetter(text[0])) {
+    if (const char* identifier = PlatformIdentifier(text)) return MatchForm(identifier, row);
+  }
+  return MatchForm(upper, row);
+}
+
+}  // namespace Ortholan

@@ -1,0 +1,18 @@
+// Type text of a name ("CN", "2.5.4.3") to the attribute that it stands for.
+#ifndef ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_
+#define ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_
+
+#include <string_view>
+
+#include "names/attribute_table.h"
+
+namespace Ortholan {
+
+// Resolves trimmed type text: a name that the platform knows, then a keyword in any letter case or
+// the dotted identifier of a row of kAttributes. False: refused. True with a null row: not
+// resolved, which the length of the text alone decides. The last error is left alone.
+bool ResolveType(std::wstring_view text, const AttributeRow** row);
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_

@@ -1,0 +1,162 @@
+#include <ortholan/name_encoder.h>
+
+#include <algorithm>
+#include <deque>
+#include <vector>
+
+#include "foundation/code_page.h"
+#include "foundation/status_code.h"
+#include "names/encoder/attribute_source.h"
+#include "names/encoder/char_class.h"
+#include "names/encoder/name_assembler.h"
+#include "names/encoder/name_parser.h"
+#include "names/encoder/trim.h"
+
+namespace Ortholan {
+namespace {
+
+constexpr int kHighestRank = 11;
+// A place for each rank and one for what has none, which goes first.
+constexpr size_t kRankPlaces = kHighestRank + 2;
+
+size_t PlaceOf(const NameElem& elem) {
+  const int rank = elem.row != nullptr ? elem.row->rank : kUnrankedAttribute;
+  return static_cast<size_t>(kHighestRank + 1 - std::min(rank, kHighestRank + 1));
+}
+
+// By falling rank, equal ranks in their order: a counting sort, because ranks are few.
+void SortByRank(const NameElems& elems, NameElems* sorted) {
+  size_t starts[kRankPlaces + 1] = {};
+  for (const NameElem& elem : elems) ++starts[PlaceOf(elem) + 1];
+  for (size_t place = 1; place <= kRankPlaces; ++place) starts[place] += starts[place - 1];
+  NameElem* out = sorted->Take(elems.size());
+  for (const NameElem& elem : elems) out[starts[PlaceOf(elem)]++] = elem;
+}
+
+bool EncodeElements(const NameElems& elems, DWORD options, IdentObj* der) {
+  NameAssembler assembler(options);
+  for (const NameElem& elem : elems) {
+    if (!assembler.EncodeElem(elem.row, elem.value)) return false;
+    assembler.EndRdn();
+  }
+  return assembler.Write(der);
+}
+
+// Adds one RDN of structured attributes; their texts are kept in `texts`.
+template <typename Attributes>
+bool AddRdn(const Attributes& begin, const Attributes& end, NameAssembler* assembler,
+            std::deque<std::wstring>* texts) {
+  for (Attributes attr = begin; attr != end; ++attr) {
+    const AttributeView view(*attr);
+    texts->emplace_back();
+    if (!ConvToX500NameElem(view, &texts->back())) return false;
+    if (!assembler->EncodeElem(view.oid, texts->back())) return false;
+  }
+  assembler->EndRdn();
+  return true;
+}
+
+}  // namespace
+
+const std::wstring X500NameEncoder::PrintableString(kPrintableAlphabet);
+const std::wstring X500NameEncoder::IA5String(kIA5Alphabet);
+
+X500NameEncoder::X500NameEncoder() noexcept : options_(0), unfinished_(nullptr) {}
+X500NameEncoder::X500NameEncoder(const X500NameEncoder& other) noexcept = default;
+X500NameEncoder& X500NameEncoder::operator=(const X500NameEncoder& other) noexcept = default;
+X500NameEncoder::~X500NameEncoder() = default;
+
+void X500NameEncoder::SetEncoderOptions(unsigned long options) {
+  options_ = static_cast<DWORD>(options);
+}
+
+unsigned long X500NameEncoder::GetEncoderOptions(unsigned long) const { return options_; }
+
+void X500NameEncoder::AddEncoderOption(unsigned long bits) {
+  options_ |= static_cast<DWORD>(bits);
+}
+
+void X500NameEncoder::RemoveEncoderOption(unsigned long bits) {
+  options_ &= ~static_cast<DWORD>(bits);
+}
+
+bool X500NameEncoder::DevideIntoElements(const std::wstring& text,
+                                         std::list<X500NAME_ELEM>& elements) {
+  // The text may be a member of the list that it replaces.
+  std::list<X500NAME_ELEM> found;
+  const std::wstring_view trimmed = Trimmed(text);
+  bool divided = true;
+  if (!trimmed.empty()) {
+    NameParser parser(trimmed, options_, unfinished_);
+    divided = parser.Parse_NameElems();
+    unfinished_ = parser.unfinished();
+    for (const NameElem& elem : parser.elements()) {
+      if (!divided) break;
+      const std::string_view type = elem.row != nullptr ? elem.row->oid : std::string_view();
+      found.push_back({std::wstring(type.begin(), type.end()), std::wstring(elem.value)});
+    }
+  }
+  elements.swap(found);
+  return divided;
+}
+
+bool X500NameEncoder::Encode(const std::wstring& text, IdentObj& der, bool sortByPriority) {
+  der.Clear();
+  const std::wstring_view trimmed = Trimmed(text);
+  if (trimmed.empty()) return FailWith(Status::kBadArgument);
+  NameParser parser(trimmed, options_, unfinished_);
+  const bool parsed = parser.Parse_NameElems();
+  unfinished_ = parser.unfinished();
+  if (!parsed) return false;
+  if (!sortByPriority) return EncodeElements(parser.elements(), options_, &der);
+  NameElems sorted;
+  SortByRank(parser.elements(), &sorted);
+  return EncodeElements(sorted, options_, &der);
+}
+
+bool X500NameEncoder::Encode(const std::list<SimpleRDN>& rdns, IdentObj& der,
+                             bool sortByPriority) {
+  if (rdns.empty()) return FailWith(Status::kBadArgument);
+  std::vector<const SimpleRDN*> order;
+  order.reserve(rdns.size());
+  for (const SimpleRDN& rdn : rdns) order.push_back(&rdn);
+  if (sortByPriority) {
+    std::stable_sort(order.begin(), order.end(),
+                     [](const SimpleRDN* a, const SimpleRDN* b) { return *a > *b; });
+  }
+  NameAssembler assembler(options_);
+  std::deque<std::wstring> texts;
+  for (const SimpleRDN* rdn : order) {
+    texts.emplace_back();
+    if (Widen(rdn->value.c_str(), kCodePageThreadAnsi, &texts.back()) != Conversion::kDone) {
+      return false;
+    }
+    if (!assembler.EncodeElem(rdn->key.c_str(), texts.back())) return false;
+    assembler.EndRdn();
+  }
+  return assembler.Write(&der);
+}
+
+bool X500NameEncoder::Encode(const std::list<std::list<RDNAttr>>& rdns, IdentObj& der) {
+  if (rdns.empty()) return false;
+  NameAssembler assembler(options_);
+  std::deque<std::wstring> texts;
+  for (const std::list<RDNAttr>& rdn : rdns) {
+    if (!AddRdn(rdn.begin(), rdn.end(), &assembler, &texts)) return false;
+  }
+  return assembler.Write(&der);
+}
+
+bool X500NameEncoder::Encode(const CERT_NAME_INFO& info, IdentObj& der) {
+  if (info.cRDN == 0 || info.rgRDN == nullptr) return false;
+  NameAssembler assembler(options_);
+  std::deque<std::wstring> texts;
+  for (DWORD i = 0; i < info.cRDN; ++i) {
+    const CERT_RDN& rdn = info.rgRDN[i];
+    if (rdn.rgRDNAttr == nullptr && rdn.cRDNAttr != 0) return false;
+    if (!AddRdn(rdn.rgRDNAttr, rdn.rgRDNAttr + rdn.cRDNAttr, &assembler, &texts)) return false;
+  }
+  return assembler.Write(&der);
+}
+
+}  // namespace Ortholan

@@ -1,0 +1,25 @@
+// Names between 8-bit text of the calling thread's code page and their encoding: the steps that
+// several operations of X509Name share.
+#ifndef ORTHOLAN_NAMES_MODEL_NAME_TEXT_H_
+#define ORTHOLAN_NAMES_MODEL_NAME_TEXT_H_
+
+#include <ortholan/ident_obj.h>
+#include <ortholan/platform.h>
+
+#include <string>
+#include <string_view>
+
+namespace Ortholan {
+
+// What an operation without a type of its own leaves in the last error before it throws.
+constexpr DWORD kNameFailure = ERROR_INTERNAL_DB_CORRUPTION;
+
+// Texts of this many characters, the terminator counted, are not converted.
+constexpr size_t kMaxConvertedText = 0x3FFFFFFF;
+
+// The 8-bit text of `wide` up to its first NUL; "" where it is too long or cannot be converted.
+std::string ToThreadText(std::wstring_view wide);
+
+}  // namespace Ortholan
+
+#endif  // ORTHOLAN_NAMES_MODEL_NAME_TEXT_H_
