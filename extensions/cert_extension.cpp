@@ -1,0 +1,87 @@
+#include <ortholan/cert_extension.h>
+
+#include <algorithm>
+
+#include "foundation/byte_view.h"
+#include "platform/calls.h"
+
+namespace Ortholan {
+namespace {
+
+constexpr DWORD kEncodings = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
+constexpr DWORD kLengthField = 4;
+
+// By size, then by unsigned bytes: -1, 0 or 1.
+int Order(ByteView a, ByteView b) {
+  if (a.size != b.size) return a.size < b.size ? -1 : 1;
+  const int order = a.size != 0 ? std::memcmp(a.data, b.data, a.size) : 0;
+  return static_cast<int>(order > 0) - static_cast<int>(order < 0);
+}
+
+}  // namespace
+
+CertExtension::CertExtension() : critical(0) {}
+CertExtension::CertExtension(const CertExtension& other) = default;
+CertExtension::CertExtension(CertExtension&& other) noexcept = default;
+
+CertExtension::CertExtension(const CERT_EXTENSION& extension)
+    : critical(extension.fCritical), value(extension.Value) {
+  oid = extension.pszObjId;
+}
+
+CertExtension& CertExtension::operator=(const CertExtension& other) {
+  if (this != &other) *this = CertExtension(other);
+  return *this;
+}
+
+CertExtension& CertExtension::operator=(CertExtension&& other) noexcept = default;
+
+CertExtension& CertExtension::operator=(const CERT_EXTENSION& extension) {
+  return *this = CertExtension(extension);
+}
+
+CertExtension::~CertExtension() = default;
+
+bool CertExtension::operator==(const CertExtension& other) const {
+  return oid == other.oid && critical == other.critical && value == other.value;
+}
+
+bool CertExtension::operator!=(const CertExtension& other) const {
+  return oid != other.oid && critical != other.critical && value != other.value;
+}
+
+bool CertExtension::operator<(const CertExtension& other) const {
+  return Order(ByteView(oid), ByteView(other.oid)) < 0 && critical < other.critical &&
+         Order(ByteView(value), ByteView(other.value)) < 0;
+}
+
+bool CertExtension::operator>(const CertExtension& other) const { return other < *this; }
+
+// Through a local on both ways: the structure may lie in the value that is replaced, and a decoded
+// one keeps pointers into its own buffer, which moves as a whole.
+bool CertExtension::EncodeData(void* structInfo, const char* structType) {
+  DWORD size = 0;
+  if (!CryptEncodeObject(kEncodings, structType, structInfo, nullptr, &size)) return false;
+  IdentObj encoded(nullptr, size);
+  const bool done = CryptEncodeObject(kEncodings, structType, structInfo, encoded.pbData, &size);
+  value = std::move(encoded);
+  return done;
+}
+
+bool CertExtension::DecodeData(IdentObj& out, const char* structType) {
+  DWORD size = 0;
+  if (!CryptDecodeObject(kEncodings, structType, value.pbData, value.cbData, 0, nullptr, &size)) {
+    return false;
+  }
+  IdentObj decoded(nullptr, size);
+  const bool done = CryptDecodeObject(kEncodings, structType, value.pbData, value.cbData, 0,
+                                      decoded.pbData, &size);
+  out = std::move(decoded);
+  return done;
+}
+
+DWORD CertExtension::GetObjectSize() const {
+  return oid.GetObjectSize() + value.GetObjectSize() + kLengthField;
+}
+
+}  // namespace Ortholan

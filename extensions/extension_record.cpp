@@ -1,0 +1,219 @@
+// The DER record of an extension (RFC 5280 4.1), in memory and in files.
+#include <ortholan/cert_extension.h>
+#include <ortholan/status.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "foundation/code_page.h"
+#include "foundation/element_reader.h"
+#include "foundation/element_writer.h"
+#include "foundation/oid_text.h"
+#include "foundation/status_code.h"
+
+namespace Ortholan {
+namespace {
+
+constexpr BYTE kCriticalElement[] = {kTagBoolean, 1, 0xFF};
+constexpr size_t kMaxChildren = 3;
+// Enough for the header of any record but one with a padded tag number.
+constexpr DWORD kHeaderRead = 64;
+
+// Tells the caller how it went: where it asked, or in the last error.
+void ReportCode(DWORD code, int* error) {
+  if (error != nullptr) {
+    *error = static_cast<int>(code);
+  } else {
+    SetLastError(code);
+  }
+}
+
+DWORD WinErrorOf(Status status) { return ASNTStatusToWinError(ToCode(status)); }
+
+Status WriteRecord(const CertExtension& extension, IdentObj* record) {
+  std::string_view dotted = AsText(ByteView(extension.oid));
+  SmallBuffer<BYTE, kMaxOidContent> oid;
+  const Status status = ParseOid(dotted.substr(0, dotted.find('\0')), &oid);
+  if (status != Status::kOk) return status;
+  const ByteView critical(kCriticalElement,
+                          extension.critical != 0 ? std::size(kCriticalElement) : 0);
+  const ByteView value(extension.value);
+  const uint64_t content = ElementSize(oid.size()) + critical.size + ElementSize(value.size);
+  const uint64_t size = ElementSize(content);
+  if (size > std::numeric_limits<DWORD>::max()) return Status::kNoMemory;
+  record->Allocate(static_cast<DWORD>(size));
+  BYTE* out = WriteHeader(record->pbData, kSequenceOctet, content);
+  out = WriteBytes(WriteHeader(out, kTagOid, oid.size()), {oid.data(), oid.size()});
+  out = WriteBytes(out, critical);
+  WriteBytes(WriteHeader(out, kTagOctetString, value.size), value);
+  return Status::kOk;
+}
+
+DWORD Encode(const CertExtension& extension, IdentObj* record) {
+  try {
+    return WinErrorOf(WriteRecord(extension, record));
+  } catch (const XZEPStatus& failure) {
+    return ASNTStatusToWinError(failure.GetStatus());
+  }
+}
+
+// Content of a child, read from the child's own bytes.
+Status ContentOf(const Element& child, ByteView* content) {
+  ElementHeader header;
+  const Status status = ReadHeader(child.bytes, &header);
+  if (status != Status::kOk) return Status::kCorrupt;
+  return BoundedContent(header, child.bytes.end(), content);
+}
+
+Status ReadOid(const Element& child, IdentObj* oid) {
+  ByteView content;
+  OidText text;
+  if (child.bytes[0] != kTagOid) return Status::kCorrupt;
+  if (ContentOf(child, &content) != Status::kOk) return Status::kCorrupt;
+  if (FormatOid(content, &text) != Status::kOk) return Status::kCorrupt;
+  oid->Assign(text.data(), static_cast<DWORD>(text.size()));
+  return Status::kOk;
+}
+
+// Any octet that is not zero makes the flag 1.
+Status ReadFlag(const Element& child, BOOL* flag) {
+  ByteView content;
+  if (child.bytes[0] != kTagBoolean) return Status::kCorrupt;
+  if (ContentOf(child, &content) != Status::kOk || content.empty()) return Status::kCorrupt;
+  *flag = std::any_of(content.begin(), content.end(), [](BYTE b) { return b != 0; });
+  return Status::kOk;
+}
+
+Status ReadRecord(ByteView bytes, CertExtension* extension, size_t* consumed) {
+  Element children[kMaxChildren];
+  size_t count = 0;
+  ElementReader reader(bytes);
+  for (Element child; reader.Next(&child); ++count) {
+    if (count < kMaxChildren) children[count] = child;
+  }
+  if (reader.fault()) return reader.fault().status;
+  if (count < kMaxChildren - 1 || count > kMaxChildren) return Status::kCorrupt;
+  Status status = ReadOid(children[0], &extension->oid);
+  if (status != Status::kOk) return status;
+  if (count == kMaxChildren) {
+    status = ReadFlag(children[1], &extension->critical);
+    if (status != Status::kOk) return status;
+  }
+  ByteView content;
+  status = ContentOf(children[count - 1], &content);
+  if (status != Status::kOk) return status;
+  extension->value.Assign(content.data, static_cast<DWORD>(content.size));
+  *consumed = reader.position();
+  return Status::kOk;
+}
+
+DWORD Decode(ByteView bytes, CertExtension* extension, size_t* consumed) {
+  if (bytes.empty()) return WinErrorOf(Status::kCorrupt);
+  try {
+    return WinErrorOf(ReadRecord(bytes, extension, consumed));
+  } catch (const XZEPStatus& failure) {
+    return ASNTStatusToWinError(failure.GetStatus());
+  }
+}
+
+// Bytes of the record at the front of `available` bytes of the file: all of them where the header
+// does not tell.
+Status RecordSize(ByteView front, uint64_t available, uint64_t* size) {
+  ElementHeader header;
+  *size = available;
+  const Status status = ReadHeader(front, &header);
+  if (status != Status::kOk || header.indefinite) {
+    return available > front.size ? Status::kOk : status;
+  }
+  *size = static_cast<uint64_t>(header.content - front.data) + header.length;
+  return *size <= available ? Status::kOk : Status::kCorrupt;
+}
+
+// Reads the bytes of the record at the file's position. The platform's error code, 0 on success.
+DWORD ReadRecordBytes(const CZEPFile& file, uint64_t position, DWORD limit, IdentObj* record) {
+  uint64_t end = 0;
+  if (!file.GetSize(&end)) return GetLastError();
+  const uint64_t available = end > position ? std::min<uint64_t>(limit, end - position) : 0;
+  const DWORD first = static_cast<DWORD>(std::min<uint64_t>(available, kHeaderRead));
+  record->Allocate(first);
+  DWORD read = 0;
+  if (!file.Read(record->pbData, first, &read)) return GetLastError();
+  uint64_t size = 0;
+  const Status status = RecordSize(ByteView(record->pbData, read), available, &size);
+  if (status != Status::kOk) return WinErrorOf(status);
+  const DWORD total = static_cast<DWORD>(size);
+  if (total > read) {
+    record->Resize(total);
+    DWORD rest = 0;
+    if (!file.Read(record->pbData + read, total - read, &rest)) return GetLastError();
+    if (rest != total - read) return WinErrorOf(Status::kCorrupt);
+  }
+  return ERROR_SUCCESS;
+}
+
+DWORD DecodeFrom(const CZEPFile& file, uint64_t position, DWORD limit, CertExtension* extension,
+                 size_t* consumed) {
+  IdentObj record;
+  try {
+    const DWORD code = ReadRecordBytes(file, position, limit, &record);
+    if (code != ERROR_SUCCESS) return code;
+  } catch (const XZEPStatus& failure) {
+    return ASNTStatusToWinError(failure.GetStatus());
+  }
+  const DWORD code = Decode(ByteView(record), extension, consumed);
+  if (code != ERROR_SUCCESS) return code;
+  return file.Seek(position + *consumed) ? ERROR_SUCCESS : GetLastError();
+}
+
+}  // namespace
+
+IdentObj CertExtension::WriteData(int* error) {
+  IdentObj record;
+  const DWORD code = Encode(*this, &record);
+  ReportCode(code, error);
+  return code == ERROR_SUCCESS ? std::move(record) : IdentObj();
+}
+
+DWORD CertExtension::WriteData(CZEPFile& file, int* error) const {
+  IdentObj record;
+  DWORD code = Encode(*this, &record);
+  uint64_t position = 0;
+  if (code == ERROR_SUCCESS && !file.GetPosition(&position)) code = GetLastError();
+  if (code == ERROR_SUCCESS && !file.Write(record.pbData, record.cbData)) {
+    code = GetLastError();
+    // Half a record is written over by the next one.
+    file.Seek(position);
+  }
+  ReportCode(code, error);
+  return code == ERROR_SUCCESS ? record.cbData : 0;
+}
+
+DWORD CertExtension::ReadData(const void* data, DWORD size, int* error) {
+  CertExtension read;
+  size_t consumed = 0;
+  const DWORD code = Decode(AsBytes(data, size), &read, &consumed);
+  if (code == ERROR_SUCCESS) *this = std::move(read);
+  ReportCode(code, error);
+  return code == ERROR_SUCCESS ? static_cast<DWORD>(consumed) : 0;
+}
+
+DWORD CertExtension::ReadData(const CZEPFile& file, DWORD size, int* error) {
+  CertExtension read;
+  size_t consumed = 0;
+  uint64_t position = 0;
+  DWORD code = ERROR_SUCCESS;
+  if (!file.GetPosition(&position)) {
+    code = GetLastError();
+  } else {
+    code = DecodeFrom(file, position, size, &read, &consumed);
+    if (code == ERROR_SUCCESS) {
+      *this = std::move(read);
+    } else {
+      file.Seek(position);
+    }
+  }
+  ReportCode(code, error);
+  return code == ERROR_SUCCESS ? static_cast<DWORD>(consumed) : 0;
+}
+
+}  // namespace Ortholan
