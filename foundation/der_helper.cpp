@@ -40,7 +40,8 @@ IdentObj PutPrimitive(Tag tag, ByteView value) {
 }
 
 [[noreturn]] void ThrowLastError(const char* where) {
-  throw XZEPStatus(WinErrorToStatus(GetLastError()), where);
+  const DWORD error = GetLastError();
+  throw XZEPStatus(WinErrorToStatus(error), where);
 }
 
 // Shared by both directions of conversion: too long a text is an argument fault of the first call.

@@ -116,6 +116,7 @@ Status GetOid(ByteView content, IdentObj* value) {
   OidText text;
   const Status status = FormatOid(content, &text);
   if (status != Status::kOk) return status;
+  if (text.size() > std::numeric_limits<DWORD>::max()) ThrowNoMemory();
   value->Assign(text.data(), static_cast<DWORD>(text.size()));
   return Status::kOk;
 }

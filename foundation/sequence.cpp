@@ -3,6 +3,7 @@
 #include <ortholan/status.h>
 
 #include <limits>
+#include <utility>
 
 #include "foundation/element_header.h"
 #include "foundation/element_reader.h"
@@ -84,9 +85,12 @@ DWORD ASNTGetSequence(std::list<IdentObj>& out, const void* data, DWORD size, DW
 }
 
 DWORD ASNTSplitElements(std::list<IdentObj>& out, const BYTE* data, DWORD size) {
-  out.clear();
-  const Status status = SplitElements(AsBytes(data, size), &out);
-  if (status != Status::kOk) out.clear();
+  // `data` may lie in an element of `out`.
+  std::list<IdentObj> found;
+  const bool missing = data == nullptr && size != 0;
+  const Status status = missing ? Status::kCorrupt : SplitElements(AsBytes(data, size), &found);
+  if (status != Status::kOk) found.clear();
+  out = std::move(found);
   return ToCode(status);
 }
 

@@ -1,5 +1,6 @@
 #include <ortholan/zep_string.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -31,9 +32,13 @@ bool CZEPReference::IsShared() const noexcept {
 // The text lies behind the object in the same block, so a string costs one allocation.
 class CZEPString::CZEPStringImp final : public CZEPReference {
  public:
-  static CZEPStringImp* Create(size_t capacity) {
-    // Lengths are 32 bits signed, terminator included in the buffer.
-    if (capacity >= static_cast<size_t>(std::numeric_limits<int32_t>::max())) return nullptr;
+  // Lengths are 32 bits signed, terminator included in the buffer.
+  static constexpr size_t kMaxLength = std::numeric_limits<int32_t>::max() - 1;
+
+  // Room for `length` characters and some of `spare` more.
+  static CZEPStringImp* Create(size_t length, size_t spare = 0) {
+    if (length > kMaxLength) return nullptr;
+    const size_t capacity = length + std::min(spare, kMaxLength - length);
     void* block = ::operator new(sizeof(CZEPStringImp) + capacity + 1, std::nothrow);
     return block != nullptr ? new (block) CZEPStringImp(static_cast<int32_t>(capacity)) : nullptr;
   }
@@ -154,9 +159,11 @@ void CZEPString::Format(const char* format, ...) {
   va_end(arguments);
 }
 
+// The format is loaded apart from this string, which the arguments may point into, and which is no
+// format itself where the module is not found.
 void CZEPString::FormatMessage(UINT id, ...) {
-  LoadString(id);
-  const CZEPString format = *this;
+  std::string format;
+  if (!LoadMessage(id, kOwnModuleName, &format)) return;
   std::va_list arguments;
   va_start(arguments, id);
   FormatList(format.c_str(), arguments);
@@ -164,12 +171,9 @@ void CZEPString::FormatMessage(UINT id, ...) {
 }
 
 void CZEPString::FormatMessage(const char* moduleName, UINT id, ...) {
-  if (moduleName != nullptr) {
-    LoadString(id, moduleName);
-  } else {
-    LoadString(id);
-  }
-  const CZEPString format = *this;
+  std::string format;
+  const char* name = moduleName != nullptr ? moduleName : kOwnModuleName;
+  if (!LoadMessage(id, name, &format)) return;
   std::va_list arguments;
   va_start(arguments, id);
   FormatList(format.c_str(), arguments);
@@ -204,7 +208,7 @@ void CZEPString::Append(const char* text, size_t length) {
   const std::string_view own = imp_ != nullptr ? imp_->text() : std::string_view();
   // Room to grow only where there is something to append to already: most strings never change.
   const size_t needed = own.size() + length;
-  CZEPStringImp* fresh = CZEPStringImp::Create(own.empty() ? needed : needed + needed / 2);
+  CZEPStringImp* fresh = CZEPStringImp::Create(needed, own.empty() ? 0 : needed / 2);
   if (fresh != nullptr) {
     fresh->Append(own.data(), own.size());
     fresh->Append(text, length);

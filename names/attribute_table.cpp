@@ -7,28 +7,58 @@
 
 namespace Ortholan {
 
-const AttributeRow* FindAttribute(std::string_view oid) {
-  if (oid.empty()) return nullptr;
-  for (const AttributeRow& row : kAttributes) {
-    // The last character tells most rows of one length apart.
-    if (row.oid.size() == oid.size() && row.oid.back() == oid.back() && row.oid == oid) {
-      return &row;
-    }
-  }
-  return nullptr;
-}
+namespace {
 
-const AttributeRow* FindAttributeByDer(ByteView content) {
-  if (content.empty()) return nullptr;
-  for (const AttributeRow& row : kAttributes) {
-    const ByteView own = row.oid_content();
-    if (own.size == content.size && own[own.size - 1] == content[content.size - 1] &&
-        SameBytes(own, content)) {
-      return &row;
-    }
+constexpr std::string_view TextKey(const AttributeRow& row) { return row.oid; }
+constexpr ByteView DerKey(const AttributeRow& row) { return row.oid_content(); }
+
+constexpr size_t Length(std::string_view key) { return key.size(); }
+constexpr size_t Length(ByteView key) { return key.size; }
+
+bool Same(std::string_view a, std::string_view b) { return a == b; }
+bool Same(ByteView a, ByteView b) { return SameBytes(a, b); }
+
+// A slot for each row by the size and the last item of its key, which no two rows share; the
+// factor that keeps the slots apart is found by the compiler.
+template <auto KeyOf>
+struct RowIndex {
+  static constexpr size_t kSlots = 32;
+  const AttributeRow* rows[kSlots] = {};
+  size_t factor = 0;
+
+  constexpr RowIndex() {
+    while (!Fill(++factor)) continue;
   }
-  return nullptr;
-}
+  template <typename Key>
+  static constexpr size_t Slot(const Key& key, size_t factor) {
+    const size_t length = Length(key);
+    return (length * factor + static_cast<BYTE>(key[length - 1])) % kSlots;
+  }
+  constexpr bool Fill(size_t candidate) {
+    for (const AttributeRow*& slot : rows) slot = nullptr;
+    for (const AttributeRow& row : kAttributes) {
+      const AttributeRow*& slot = rows[Slot(KeyOf(row), candidate)];
+      if (slot != nullptr) return false;
+      slot = &row;
+    }
+    return true;
+  }
+  template <typename Key>
+  const AttributeRow* Find(const Key& key) const {
+    if (key.empty()) return nullptr;
+    const AttributeRow* row = rows[Slot(key, factor)];
+    return row != nullptr && Same(KeyOf(*row), key) ? row : nullptr;
+  }
+};
+
+constexpr RowIndex<TextKey> kByText;
+constexpr RowIndex<DerKey> kByDer;
+
+}  // namespace
+
+const AttributeRow* FindAttribute(std::string_view oid) { return kByText.Find(oid); }
+
+const AttributeRow* FindAttributeByDer(ByteView content) { return kByDer.Find(content); }
 
 static int AttributePriority(std::string_view oid) {
   const AttributeRow* row = FindAttribute(oid);

@@ -21,6 +21,10 @@ static_assert(kPrintableAlphabet.size() == 75 && kIA5Alphabet.size() == 97);
 enum CharClass : uint8_t {
   kInPrintable = 1,
   kInIA5 = 2,
+  kInBoth = kInPrintable | kInIA5,
+  kIsComma = 4,
+  kIsSemicolon = 8,
+  kIsCrLf = 16,
 };
 
 constexpr size_t kAsciiCount = 0x80;
@@ -29,18 +33,24 @@ constexpr std::array<uint8_t, kAsciiCount> MakeCharClasses() {
   std::array<uint8_t, kAsciiCount> classes = {};
   for (const wchar_t c : kPrintableAlphabet) classes[static_cast<size_t>(c)] |= kInPrintable;
   for (const wchar_t c : kIA5Alphabet) classes[static_cast<size_t>(c)] |= kInIA5;
+  classes[','] |= kIsComma;
+  classes[';'] |= kIsSemicolon;
+  classes['\r'] |= kIsCrLf;
+  classes['\n'] |= kIsCrLf;
   return classes;
 }
 inline constexpr std::array<uint8_t, kAsciiCount> kCharClasses = MakeCharClasses();
 
+inline unsigned ClassesOf(wchar_t c) {
+  const auto index = static_cast<uint32_t>(c);
+  return index < kAsciiCount ? kCharClasses.begin()[index] : 0u;
+}
+
 // The alphabets that every character of `text` is in.
 inline unsigned CommonClasses(std::wstring_view text) {
-  unsigned common = kInPrintable | kInIA5;
-  for (const wchar_t c : text) {
-    const auto index = static_cast<uint32_t>(c);
-    common &= index < kAsciiCount ? kCharClasses[index] : 0u;
-  }
-  return common;
+  unsigned common = kInBoth;
+  for (const wchar_t c : text) common &= ClassesOf(c);
+  return common & kInBoth;
 }
 
 }  // namespace Ortholan

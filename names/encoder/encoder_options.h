@@ -10,8 +10,8 @@ constexpr DWORD kOptionCommaOnly = 0x04000000;
 constexpr DWORD kOptionSemicolonOnly = 0x40000000;
 constexpr DWORD kOptionCrLfOnly = 0x08000000;
 constexpr DWORD kOptionUtf8 = 0x00040000;
+// With kOptionUtf8: every value of a free-text attribute as UTF8String.
 constexpr DWORD kOptionAlways = 0x00100000;
-// Every value of a free-text attribute as UTF8String.
 constexpr DWORD kOptionAlwaysUtf8 = kOptionUtf8 | kOptionAlways;
 
 }  // namespace Ortholan

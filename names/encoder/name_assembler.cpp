@@ -5,18 +5,21 @@
 #include <limits>
 
 #include "foundation/element_writer.h"
+#include "foundation/oid_text.h"
 #include "foundation/status_code.h"
 #include "names/encoder/value_type.h"
 
 namespace Ortholan {
 
-bool NameAssembler::EncodeElem(const AttributeRow* row, std::wstring_view value) {
+bool NameAssembler::EncodeElem(const AttributeRow* row, std::wstring_view value,
+                               unsigned classes) {
   if (row == nullptr) return FailWith(Status::kNotEncodable);
-  return AddPlan(row, row->rule, row->oid_der().size, value);
+  return AddPlan(row, row->der.size, value, classes);
 }
 
 bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
-  if (const AttributeRow* row = FindAttribute(type)) return EncodeElem(row, value);
+  const unsigned classes = CommonClasses(value);
+  if (const AttributeRow* row = FindAttribute(type)) return EncodeElem(row, value, classes);
   SmallBuffer<BYTE, kMaxOidContent> content;
   const Status status = ParseOid(type, &content);
   if (status != Status::kOk) return FailWith(status);
@@ -24,21 +27,19 @@ bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
   const size_t offset = oids_.size();
   WriteBytes(WriteHeader(oids_.Extend(size), kTagOid, content.size()),
              {content.data(), content.size()});
-  if (!AddPlan(nullptr, ValueRule::kFreeText, size, value)) return false;
+  if (!AddPlan(nullptr, size, value, classes)) return false;
   plans_.back().oid_offset = offset;
   return true;
 }
 
-bool NameAssembler::AddPlan(const AttributeRow* row, ValueRule rule, size_t oidSize,
-                            std::wstring_view value) {
-  Plan plan = {};
-  plan.row = row;
-  plan.oid_size = oidSize;
-  plan.value.text = value;
-  plan.value.lines = row != nullptr && row->lines;
-  if (!DetermineTargetType(rule, value, options_, &plan.value.type)) return false;
-  MeasureValue(&plan.value);
-  plans_.push_back(plan);
+bool NameAssembler::AddPlan(const AttributeRow* row, size_t oidSize, std::wstring_view value,
+                            unsigned classes) {
+  const ValueRule rule = row != nullptr ? row->rule : ValueRule::kFreeText;
+  const bool lines = row != nullptr && row->lines;
+  DWORD type = 0;
+  if (value.empty() || !DetermineTargetType(rule, classes, options_, &type)) return false;
+  const uint64_t size = MeasureValue(value, type, lines);
+  *plans_.Extend(1) = {row, 0, oidSize, {value, type, lines, size}, false};
   return true;
 }
 
@@ -48,19 +49,21 @@ void NameAssembler::EndRdn() {
 }
 
 // Octets of the attributes of the RDN that starts at plan `first`; `*next` is the next RDN's.
-uint64_t NameAssembler::RdnContent(size_t first, size_t* next) const {
+uint64_t NameAssembler::RdnContent(const Plan* first, const Plan** next) const {
   uint64_t content = 0;
-  size_t i = first;
+  const Plan* plan = first;
   do {
-    if (plans_[i].oid_size != 0) content += ElementSize(plans_[i].content());
-  } while (!plans_[i++].ends_rdn);
-  *next = i;
+    if (plan->oid_size != 0) content += ElementSize(plan->content());
+  } while (!plan++->ends_rdn);
+  *next = plan;
   return content;
 }
 
 bool NameAssembler::Write(IdentObj* der) {
   uint64_t content = 0;
-  for (size_t i = 0; i < plans_.size();) content += ElementSize(RdnContent(i, &i));
+  for (const Plan* plan = plans_.begin(); plan != plans_.end();) {
+    content += ElementSize(RdnContent(plan, &plan));
+  }
   const uint64_t size = ElementSize(content);
   if (size > std::numeric_limits<DWORD>::max()) return FailWith(Status::kNoMemory);
   IdentObj name;
@@ -75,12 +78,12 @@ bool NameAssembler::Write(IdentObj* der) {
 }
 
 bool NameAssembler::WriteRdns(BYTE* out) {
-  for (size_t i = 0; i < plans_.size();) {
-    size_t next = i;
-    out = WriteHeader(out, kSetOctet, RdnContent(i, &next));
-    for (; i < next; ++i) {
-      if (plans_[i].oid_size == 0) continue;
-      out = WriteAttribute(plans_[i], out);
+  for (const Plan* plan = plans_.begin(); plan != plans_.end();) {
+    const Plan* next = plan;
+    out = WriteHeader(out, kSetOctet, RdnContent(plan, &next));
+    for (; plan != next; ++plan) {
+      if (plan->oid_size == 0) continue;
+      out = WriteAttribute(*plan, out);
       if (out == nullptr) return false;
     }
   }

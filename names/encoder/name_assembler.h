@@ -9,10 +9,8 @@
 #include <ortholan/ident_obj.h>
 #include <ortholan/platform.h>
 
-#include <string>
 #include <string_view>
 
-#include "foundation/oid_text.h"
 #include "foundation/small_buffer.h"
 #include "names/attribute_table.h"
 #include "names/encoder/value_encoder.h"
@@ -24,9 +22,10 @@ class NameAssembler {
  public:
   explicit NameAssembler(DWORD options) : options_(options) {}
 
-  // Adds one attribute to the current RDN. False, with the last error set where the type is no
-  // identifier, for what cannot be encoded.
-  bool EncodeElem(const AttributeRow* row, std::wstring_view value);
+  // Adds one attribute to the current RDN: a row of the table with a value whose character classes
+  // are known, or any identifier in dotted text. False, with the last error set where the type is
+  // no identifier, for what cannot be encoded.
+  bool EncodeElem(const AttributeRow* row, std::wstring_view value, unsigned classes);
   bool EncodeElem(std::string_view type, std::wstring_view value);
   void EndRdn();
 
@@ -46,10 +45,11 @@ class NameAssembler {
     uint64_t content() const { return oid_size + value.size; }
   };
 
-  bool AddPlan(const AttributeRow* row, ValueRule rule, size_t oidSize, std::wstring_view value);
-  uint64_t RdnContent(size_t first, size_t* next) const;
-  BYTE* WriteAttribute(const Plan& plan, BYTE* out);
+  bool AddPlan(const AttributeRow* row, size_t oidSize, std::wstring_view value,
+               unsigned classes);
+  uint64_t RdnContent(const Plan* first, const Plan** next) const;
   bool WriteRdns(BYTE* out);
+  BYTE* WriteAttribute(const Plan& plan, BYTE* out);
 
   DWORD options_;
   SmallBuffer<Plan, 16> plans_;

@@ -7,38 +7,38 @@
 namespace Ortholan {
 namespace {
 
-constexpr uint64_t SetOf(std::string_view characters) {
-  uint64_t set = 0;
-  for (const char c : characters) set |= uint64_t{1} << c;
-  return set;
-}
-
 // The first row whose option is set counts.
 struct DelimiterRow {
   DWORD option;
-  uint64_t characters;
+  unsigned classes;
 };
 constexpr DelimiterRow kDelimiters[] = {
-    {kOptionCommaOnly, SetOf(",")},
-    {kOptionSemicolonOnly, SetOf(";")},
-    {kOptionCrLfOnly, SetOf("\r\n")},
+    {kOptionCommaOnly, kIsComma},
+    {kOptionSemicolonOnly, kIsSemicolon},
+    {kOptionCrLfOnly, kIsCrLf},
 };
-constexpr uint64_t kAllDelimiters = SetOf("\n\r,;");
+constexpr unsigned kAllDelimiters = kIsComma | kIsSemicolon | kIsCrLf;
 
-uint64_t DelimitersFor(DWORD options) {
+unsigned DelimitersFor(DWORD options) {
   for (const DelimiterRow& row : kDelimiters) {
-    if ((options & row.option) != 0) return row.characters;
+    if ((options & row.option) != 0) return row.classes;
   }
   return kAllDelimiters;
 }
 
 constexpr wchar_t kQuote = L'"';
 
+bool HasDoubledQuote(std::wstring_view text, size_t quote) {
+  return quote + 1 < text.size() && text[quote + 1] == kQuote;
+}
+
 }  // namespace
 
 NameParser::NameParser(std::wstring_view trimmedText, DWORD options,
                        const AttributeRow* unfinished)
-    : source_(trimmedText), delimiters_(DelimitersFor(options)) {
+    : next_(trimmedText.data()),
+      end_(next_ + trimmedText.size()),
+      delimiters_(DelimitersFor(options)) {
   current_.row = unfinished;
 }
 
@@ -56,7 +56,12 @@ bool NameParser::Parse_NameElems() {
 
 bool NameParser::Parse_ElemType() { return ResolveType(Trimmed(token_), &current_.row); }
 
-void NameParser::Parse_ElemValue() { current_.value = Trimmed(token_); }
+void NameParser::Parse_ElemValue() {
+  current_.value = Trimmed(token_);
+  // Of what was cut off, a tab alone is in no alphabet.
+  const bool known = token_classes_ == kInBoth || current_.value.size() == token_.size();
+  current_.classes = known ? token_classes_ : CommonClasses(current_.value);
+}
 
 bool NameParser::Parse_ElemComponents() {
   if (!GetToken()) return true;
@@ -71,25 +76,25 @@ bool NameParser::Parse_ElemComponents() {
 bool NameParser::GetToken() {
   token_ = {};
   kind_ = TokenKind::kEnd;
-  if (AtEnd() || source_[position_] == L'\0') return true;
-  while (source_[position_] == L' ') {
-    if (++position_; AtEnd()) return true;
+  if (AtEnd() || *next_ == L'\0') return true;
+  while (*next_ == L' ') {
+    if (++next_; AtEnd()) return true;
   }
-  if (IsElementDelimiter(source_[position_])) {
+  if (IsElementDelimiter(*next_)) {
     do {
-      if (++position_; AtEnd()) return true;
-    } while (IsElementDelimiter(source_[position_]));
+      if (++next_; AtEnd()) return true;
+    } while (IsElementDelimiter(*next_));
     kind_ = TokenKind::kDelimiter;
     return true;
   }
-  if (source_[position_] == L'=') {
+  if (*next_ == L'=') {
     kind_ = TokenKind::kEquals;
-    ++position_;
+    ++next_;
     return !AtEnd();
   }
   if (current_.row == nullptr) return ReadType();
   kind_ = TokenKind::kValue;
-  if (source_[position_] == kQuote) {
+  if (*next_ == kQuote) {
     ReadQuotedValue();
   } else {
     ReadUnquotedValue();
@@ -99,52 +104,59 @@ bool NameParser::GetToken() {
 
 bool NameParser::ReadType() {
   kind_ = TokenKind::kType;
-  const size_t equals = source_.find(L'=', position_);
-  if (equals == std::wstring_view::npos) {
-    position_ = source_.size();
-    return false;
-  }
-  token_ = source_.substr(position_, equals - position_);
-  position_ = equals;
+  const wchar_t* const first = next_;
+  while (!AtEnd() && *next_ != L'=') ++next_;
+  if (AtEnd()) return false;
+  token_ = {first, static_cast<size_t>(next_ - first)};
   return true;
 }
 
+// The alphabets are found on the way: this loop is where most of a text is read.
 void NameParser::ReadUnquotedValue() {
-  const size_t start = position_;
-  while (!AtEnd() && !IsElementDelimiter(source_[position_])) ++position_;
-  token_ = source_.substr(start, position_ - start);
+  const wchar_t* at = next_;
+  unsigned common = kInBoth;
+  for (; at != end_; ++at) {
+    const unsigned classes = ClassesOf(*at);
+    if ((classes & delimiters_) != 0) break;
+    common &= classes;
+  }
+  token_ = {next_, static_cast<size_t>(at - next_)};
+  token_classes_ = common;
+  next_ = at;
 }
 
 // A missing closing quote is accepted.
 void NameParser::ReadQuotedValue() {
-  const size_t start = position_ + 1;
-  const size_t quote = source_.find(kQuote, start);
+  ++next_;
+  const std::wstring_view rest = Rest();
+  const size_t quote = rest.find(kQuote);
   if (quote == std::wstring_view::npos) {
-    token_ = source_.substr(start);
-    position_ = source_.size();
-  } else if (quote + 1 < source_.size() && source_[quote + 1] == kQuote) {
-    token_ = UnescapeFrom(start, quote);
+    token_ = rest;
+    next_ = end_;
+  } else if (HasDoubledQuote(rest, quote)) {
+    token_ = Unescape(rest, quote);
   } else {
-    token_ = source_.substr(start, quote - start);
-    position_ = quote + 1;
+    token_ = rest.substr(0, quote);
+    next_ += quote + 1;
   }
+  token_classes_ = CommonClasses(token_);
 }
 
-// Copies the quoted text from `start`, whose first doubled quote is at `quote`.
-std::wstring_view NameParser::UnescapeFrom(size_t start, size_t quote) {
-  // Views into the copy stay valid, because it can never need more than this.
-  if (unescaped_.capacity() < source_.size()) unescaped_.reserve(source_.size());
-  const size_t copy_start = unescaped_.size();
-  while (quote + 1 < source_.size() && source_[quote + 1] == kQuote) {
-    unescaped_.append(source_, start, quote + 1 - start);
-    start = quote + 2;
-    quote = source_.find(kQuote, start);
-    if (quote == std::wstring_view::npos) break;
+// Copies the quoted text at the front of `rest`, whose first doubled quote is at `quote`.
+std::wstring_view NameParser::Unescape(std::wstring_view rest, size_t quote) {
+  // Views into the copy stay valid, because all texts from here on need no more than this.
+  if (unescaped_.empty()) unescaped_.reserve(rest.size());
+  const size_t start = unescaped_.size();
+  size_t copied = 0;
+  while (quote != std::wstring_view::npos && HasDoubledQuote(rest, quote)) {
+    unescaped_.append(rest, copied, quote + 1 - copied);
+    copied = quote + 2;
+    quote = rest.find(kQuote, copied);
   }
-  const size_t end = quote == std::wstring_view::npos ? source_.size() : quote;
-  unescaped_.append(source_, start, end - start);
-  position_ = end < source_.size() ? end + 1 : end;
-  return std::wstring_view(unescaped_).substr(copy_start);
+  const size_t end = quote != std::wstring_view::npos ? quote : rest.size();
+  unescaped_.append(rest, copied, end - copied);
+  next_ = quote != std::wstring_view::npos ? next_ + quote + 1 : end_;
+  return std::wstring_view(unescaped_).substr(start);
 }
 
 }  // namespace Ortholan

@@ -4,12 +4,12 @@
 
 #include <ortholan/platform.h>
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "foundation/small_buffer.h"
 #include "names/attribute_table.h"
+#include "names/encoder/char_class.h"
 
 namespace Ortholan {
 
@@ -17,6 +17,7 @@ namespace Ortholan {
 struct NameElem {
   const AttributeRow* row = nullptr;  // null: the type text resolved to nothing
   std::wstring_view value;            // quotes removed, trimmed
+  unsigned classes = kInBoth;         // the alphabets that all of the value is in
 };
 
 using NameElems = SmallBuffer<NameElem, 16>;
@@ -36,19 +37,18 @@ class NameParser {
   const AttributeRow* unfinished() const { return current_.row; }
 
  private:
-  enum class TokenKind { kEnd, kType, kValue, kDelimiter, kEquals, kNone };
+  enum class TokenKind { kEnd, kType, kValue, kDelimiter, kEquals };
 
-  bool IsElementDelimiter(wchar_t c) const {
-    return static_cast<uint32_t>(c) < 64 && (delimiters_ >> static_cast<uint32_t>(c) & 1) != 0;
-  }
-  bool AtEnd() const { return position_ >= source_.size(); }
+  bool IsElementDelimiter(wchar_t c) const { return (ClassesOf(c) & delimiters_) != 0; }
+  bool AtEnd() const { return next_ == end_; }
+  std::wstring_view Rest() const { return {next_, static_cast<size_t>(end_ - next_)}; }
 
   // Reads the next token. False where the text breaks off: behind "=", or in a type.
   bool GetToken();
   bool ReadType();
   void ReadUnquotedValue();
   void ReadQuotedValue();
-  std::wstring_view UnescapeFrom(size_t start, size_t quote);
+  std::wstring_view Unescape(std::wstring_view rest, size_t quote);
 
   bool GetToken(TokenKind kind) { return GetToken() && kind_ == kind; }
   bool Parse_ElemType();
@@ -57,11 +57,12 @@ class NameParser {
   // the value empty.
   bool Parse_ElemComponents();
 
-  std::wstring_view source_;
-  size_t position_ = 0;
-  uint64_t delimiters_;  // a bit a character below 64
-  TokenKind kind_ = TokenKind::kNone;
+  const wchar_t* next_;
+  const wchar_t* end_;
+  unsigned delimiters_;  // the classes that end an unquoted value
+  TokenKind kind_ = TokenKind::kEnd;
   std::wstring_view token_;
+  unsigned token_classes_ = 0;  // of a value token, as far as they are known
   NameElem current_;
   NameElems elements_;
   std::wstring unescaped_;

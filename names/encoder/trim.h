@@ -6,9 +6,20 @@
 
 namespace Ortholan {
 
+constexpr bool IsTrimmed(wchar_t c) {
+  return c == L' ' || c == L'\t' || c == L'\r' || c == L'\n';
+}
+
 // The part of `text` without white space at its ends. Text of white space alone keeps its first
 // character, so a value of one blank stays a value.
-std::wstring_view Trimmed(std::wstring_view text);
+inline std::wstring_view Trimmed(std::wstring_view text) {
+  const wchar_t* first = text.data();
+  const wchar_t* end = first + text.size();
+  while (first != end && IsTrimmed(*first)) ++first;
+  if (first == end) return text.substr(0, text.empty() ? 0 : 1);
+  while (IsTrimmed(end[-1])) --end;
+  return {first, static_cast<size_t>(end - first)};
+}
 
 }  // namespace Ortholan
 

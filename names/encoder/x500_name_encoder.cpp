@@ -36,7 +36,7 @@ void SortByRank(const NameElems& elems, NameElems* sorted) {
 bool EncodeElements(const NameElems& elems, DWORD options, IdentObj* der) {
   NameAssembler assembler(options);
   for (const NameElem& elem : elems) {
-    if (!assembler.EncodeElem(elem.row, elem.value)) return false;
+    if (!assembler.EncodeElem(elem.row, elem.value, elem.classes)) return false;
     assembler.EndRdn();
   }
   return assembler.Write(der);

@@ -1,0 +1,58 @@
+# The common tasks; each first installs the Debian packages it lacks. CMakePresets.json has the builds.
+
+PRESETS ?= native sanitize windows
+
+.DEFAULT_GOAL := help
+.PHONY: help demo test fuzz bench bench-check docs format package clean
+
+help:
+	@echo 'make demo         build the example program and run it on real certificates'
+	@echo 'make test         all tests: native, sanitized, and for Windows through Wine'
+	@echo '                  (PRESETS="native" for a part of them)'
+	@echo 'make fuzz         build the fuzz targets and run each for a while'
+	@echo 'make bench        measure; make bench-check: compare with the recorded figures'
+	@echo 'make docs         reference manual into build/native/docs'
+	@echo 'make format       format the sources'
+	@echo 'make package      archives and a Debian package into build/*/packages'
+	@echo 'make clean        delete build/'
+
+demo:
+	@scripts/setup.sh native
+	@cmake --preset native
+	@cmake --build --preset native --target x509name
+	@scripts/demo.sh build/native/x509name
+
+test:
+	@scripts/setup.sh test
+	@scripts/test.sh $(PRESETS)
+
+fuzz:
+	@scripts/setup.sh fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	cmake --build --preset fuzz --target fuzz
+
+bench bench-check:
+	@scripts/setup.sh bench
+	cmake --preset bench
+	cmake --build --preset bench
+	cmake --build --preset bench --target $@
+
+docs:
+	@scripts/setup.sh docs
+	cmake --preset native
+	cmake --build --preset native --target docs
+
+format:
+	@scripts/setup.sh test
+	scripts/format.sh
+
+package:
+	@scripts/setup.sh package
+	cmake --preset native
+	cmake --build --preset native --target package
+	cmake --preset windows
+	cmake --build --preset windows --target package
+
+clean:
+	rm -rf build

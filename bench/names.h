@@ -1,0 +1,59 @@
+// The names that every library is measured on, as attributes, text and DER. The DER is built here
+// by X.690 alone, so that it can judge all of them.
+#ifndef ORTHOLAN_BENCH_NAMES_H_
+#define ORTHOLAN_BENCH_NAMES_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Bench {
+
+struct Attribute {
+  std::string keyword;  // as the platform calls the type
+  std::string oid;      // dotted
+  std::string value;    // UTF-8
+};
+using Attributes = std::vector<Attribute>;
+
+// C=RU, S=Moscow, L=Moscow, O=Example Organisation, OU=Department of Names, CN=Ivan Petrov
+Attributes SixAttributes();
+// The six over and over, with a number of six digits in each value but the country's.
+Attributes ManyAttributes(size_t count);
+// One description of `size` letters.
+Attributes LargeValue(size_t size);
+// The same in Cyrillic, `size` octets in UTF-8.
+Attributes LargeCyrillicValue(size_t size);
+
+// Universal tags of values.
+inline constexpr char kUtf8String = 12;
+inline constexpr char kPrintableString = 19;
+
+// The Name with one attribute an RDN; countries are PrintableStrings whatever `tag`.
+std::string ToDer(const Attributes& attributes, char tag = kPrintableString);
+
+struct TextForm {
+  std::string_view equals = "=";
+  std::string_view separator = ",";
+  std::string_view state = "S";  // keyword of the state or province
+  bool reversed = false;
+  bool dotted = false;  // identifiers in place of keywords
+};
+std::string ToText(const Attributes& attributes, const TextForm& form);
+
+using Pairs = std::vector<std::pair<std::string, std::string>>;  // dotted type, value
+Pairs ToPairs(const Attributes& attributes);
+
+// Bytes of one element: identifier octet, length, content.
+std::string Element(char tag, std::string_view content);
+// An OBJECT IDENTIFIER from dotted text.
+std::string OidElement(std::string_view dotted);
+
+// Characters of UTF-8 text below U+10000, one a wchar_t.
+std::wstring Widen(std::string_view text);
+
+}  // namespace Bench
+
+#endif  // ORTHOLAN_BENCH_NAMES_H_

@@ -1,0 +1,38 @@
+// General names and an extension record that every library is measured on.
+#ifndef ORTHOLAN_BENCH_SAMPLES_H_
+#define ORTHOLAN_BENCH_SAMPLES_H_
+
+#include <string>
+
+#include "bench/names.h"
+
+namespace Bench {
+
+inline constexpr char kDnsName[] = "www.department.example.org";
+inline constexpr char kRegisteredOid[] = "1.2.840.113556.1.2.141";
+inline constexpr char kExtensionOid[] = "2.5.29.19";
+
+// [2] IMPLICIT IA5String
+inline std::string DnsNameDer() { return Element('\x82', kDnsName); }
+
+// [8] IMPLICIT OBJECT IDENTIFIER
+inline std::string RegisteredIdDer() {
+  std::string der = OidElement(kRegisteredOid);
+  der[0] = '\x88';
+  return der;
+}
+
+// The value of basicConstraints with cA and a path length of 0.
+inline std::string ExtensionValue() {
+  return Element('\x30', Element('\x01', "\xFF") + Element('\x02', std::string(1, '\0')));
+}
+
+// That extension, critical, as a record.
+inline std::string ExtensionRecord() {
+  return Element('\x30', OidElement(kExtensionOid) + Element('\x01', "\xFF") +
+                             Element('\x04', ExtensionValue()));
+}
+
+}  // namespace Bench
+
+#endif  // ORTHOLAN_BENCH_SAMPLES_H_

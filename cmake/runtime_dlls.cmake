@@ -1,0 +1,36 @@
+# The compiler's runtime as DLLs. Exceptions and containers cross ortholan.dll's border, so that it
+# and its programs share one runtime instead of each carrying a copy.
+set(ORTHOLAN_RUNTIME_DLL_NAMES libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+
+# Sets `out` to the paths of the DLLs that the compiler at hand comes with.
+function(ortholan_find_runtime_dlls out)
+  set(found)
+  foreach(name IN LISTS ORTHOLAN_RUNTIME_DLL_NAMES)
+    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
+      OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT IS_ABSOLUTE "${path}")
+      message(FATAL_ERROR "${CMAKE_CXX_COMPILER} does not say where its ${name} is")
+    endif()
+    cmake_path(NORMAL_PATH path)
+    list(APPEND found "${path}")
+  endforeach()
+  set(${out} "${found}" PARENT_SCOPE)
+endfunction()
+
+# Puts the DLLs beside the programs in `directory`; one that was deleted comes back with the next
+# build.
+function(ortholan_copy_runtime_dlls directory)
+  ortholan_find_runtime_dlls(dlls)
+  set(copies)
+  foreach(dll IN LISTS dlls)
+    cmake_path(GET dll FILENAME name)
+    add_custom_command(OUTPUT "${directory}/${name}"
+      COMMAND "${CMAKE_COMMAND}" -E copy "${dll}" "${directory}/${name}"
+      DEPENDS "${dll}"
+      VERBATIM)
+    list(APPEND copies "${directory}/${name}")
+  endforeach()
+  add_custom_target(ortholan_runtime_dlls ALL DEPENDS ${copies})
+  add_dependencies(ortholan ortholan_runtime_dlls)
+  add_dependencies(ortholan_static ortholan_runtime_dlls)
+endfunction()

@@ -1,0 +1,17 @@
+# The DLL: entry point, version resource, string table and the system libraries it calls.
+target_sources(ortholan PRIVATE platform/windows/dll_main.cpp platform/windows/ortholan.rc)
+set_target_properties(ortholan PROPERTIES PREFIX "")
+target_link_libraries(ortholan PRIVATE crypt32)
+target_link_libraries(ortholan_static PUBLIC crypt32)
+
+# The resource compiler reports no dependencies of its own.
+file(GLOB ORTHOLAN_RESOURCE_INPUTS CONFIGURE_DEPENDS
+  "${PROJECT_SOURCE_DIR}/platform/*.inc")
+set_source_files_properties(platform/windows/ortholan.rc PROPERTIES
+  COMPILE_DEFINITIONS
+    "ORTHOLAN_VERSION_MAJOR=${PROJECT_VERSION_MAJOR};ORTHOLAN_VERSION_MINOR=${PROJECT_VERSION_MINOR};ORTHOLAN_VERSION_PATCH=${PROJECT_VERSION_PATCH}"
+  OBJECT_DEPENDS "${ORTHOLAN_RESOURCE_INPUTS}")
+
+if(PROJECT_IS_TOP_LEVEL)
+  ortholan_copy_runtime_dlls("${PROJECT_BINARY_DIR}")
+endif()

@@ -1,0 +1,24 @@
+// The codec of X509_NAME_VALUE: one string value as CERT_NAME_VALUE holds it and as DER.
+
+#ifndef ORTHOLAN_PLATFORM_POSIX_NAME_VALUE_H_
+#define ORTHOLAN_PLATFORM_POSIX_NAME_VALUE_H_
+
+#include <ortholan/platform.h>
+
+namespace Ortholan::posix {
+
+// Writes the element. Sizes as for CryptEncodeObject: with a null `out` only the size is stored.
+// Fails: 87 (octets counted but not there), 234, 0x80070057 (type 0), 0x8009310C (a type that has
+// no form here), 0x80093104 (the element would pass 32 bits).
+BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) noexcept;
+
+// Reads a primitive UTF8String, PrintableString, TeletexString, IA5String, VisibleString or
+// BMPString at the front of `encoded`; what follows it is not looked at. `out` receives a
+// CERT_NAME_VALUE and behind it the value octets, UTF-16LE for UTF8String and BMPString; `pbData`
+// is null where there are none.
+// Fails: 0x8009310B (another tag), 0x80093103 (cut short; half a character), 234.
+BOOL DecodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* outBytes) noexcept;
+
+}  // namespace Ortholan::posix
+
+#endif  // ORTHOLAN_PLATFORM_POSIX_NAME_VALUE_H_

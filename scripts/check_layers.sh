@@ -1,0 +1,92 @@
+#!/usr/bin/env bash
+# Checks that includes point downwards and that platforms are told apart in two headers only.
+#
+# A file may include its own layer, the layers named for it below and, as <ortholan/...>, the public
+# headers. Tests, fuzz targets and benchmarks reach into any layer; programs that stand for
+# applications into none.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+# shellcheck source=scripts/sources.sh
+source scripts/sources.sh
+
+any="platform foundation names names/encoder names/decoder names/model generalname extensions tests"
+
+declare -A allowed=(
+  [include]=""
+  [platform]=""
+  [foundation]="platform"
+  [names]="foundation platform"
+  [names/encoder]="names foundation platform"
+  [names/decoder]="names foundation platform"
+  [names/model]="names/encoder names/decoder names foundation platform"
+  [generalname]="names/decoder names foundation platform"
+  [extensions]="foundation platform"
+  [examples]=""
+  [tests/boundary]="tests"
+  [tests/cli]="tests"
+  [tests]="$any"
+  [fuzz]="$any"
+  [bench]="$any"
+)
+
+# Prints the layer of a path: the longest of its directories that has a rule, or nothing.
+layer_of() {
+  local directory=$1
+  while [[ $directory == */* ]]; do
+    directory=${directory%/*}
+    if [[ -v allowed[$directory] ]]; then
+      echo "$directory"
+      return
+    fi
+  done
+}
+
+platform_macros='_WIN32|_WIN64|WIN32|_MSC_VER|__MINGW(32|64)__|__CYGWIN__|__linux__|__unix__|__APPLE__'
+faults=0
+
+fault() {
+  echo "$1" >&2
+  faults=$((faults + 1))
+}
+
+check_include() {
+  local file=$1 line=$2 target=$3 layer target_layer
+  layer=$(layer_of "$file")
+  target_layer=$(layer_of "$target")
+  # What the build picks for tests by platform is named without its directory.
+  if [[ $layer == tests* && -f tests/support/posix/$target && -f tests/support/windows/$target ]]; then
+    return
+  fi
+  if [[ -z $target_layer ]]; then
+    fault "$file:$line: \"$target\" is not relative to the root or belongs to no layer"
+  elif [[ $target_layer != "$layer" && " ${allowed[$layer]} " != *" $target_layer "* ]]; then
+    fault "$file:$line: $layer may not include \"$target\""
+  fi
+}
+
+files=()
+while IFS= read -r -d '' file; do
+  if [[ -z $(layer_of "$file") ]]; then
+    fault "$file: belongs to no layer"
+  else
+    files+=("$file")
+  fi
+done < <(list_sources)
+
+while IFS=: read -r file line text; do
+  target=${text#*\"}
+  check_include "$file" "$line" "${target%%\"*}"
+done < <(grep -nHE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' "${files[@]}" /dev/null)
+
+while IFS=: read -r file line _; do
+  case $file in
+    include/ortholan/platform.h | include/ortholan/export.h) ;;
+    *) fault "$file:$line: tells platforms apart; the build picks platform/ instead" ;;
+  esac
+done < <(grep -nHE "^[[:space:]]*#[[:space:]]*(el)?if.*\<($platform_macros)\>" "${files[@]}" /dev/null)
+
+if ((faults > 0)); then
+  echo "check_layers: $faults fault(s) in ${#files[@]} files" >&2
+  exit 1
+fi
+echo "check_layers: ${#files[@]} files in order"

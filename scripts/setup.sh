@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
+#
+#   setup.sh native|test|fuzz|bench|docs|package
+set -euo pipefail
+
+native=(g++ cmake ninja-build ca-certificates libgtest-dev)
+# The sanitizers' runtime goes with the release of Debian's default clang.
+clang=(clang libclang-rt-14-dev)
+windows=(g++-mingw-w64-x86-64-posix googletest wine64)
+
+case ${1-} in
+  native) packages=("${native[@]}") ;;
+  test) packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format) ;;
+  fuzz) packages=("${native[@]}" "${clang[@]}") ;;
+  bench)
+    packages=("${native[@]}" libbenchmark-dev libssl-dev libgnutls28-dev libbotan-2-dev
+      libmbedtls-dev valgrind)
+    ;;
+  docs) packages=("${native[@]}" doxygen graphviz) ;;
+  package) packages=("${native[@]}" "${windows[@]}" dpkg-dev file) ;;
+  *)
+    echo "usage: setup.sh native|test|fuzz|bench|docs|package" >&2
+    exit 2
+    ;;
+esac
+
+if ! command -v dpkg-query >/dev/null; then
+  echo "setup.sh: not a Debian system; expected here: ${packages[*]}" >&2
+  exit 0
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  state=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null || true)
+  if [[ $state != installed ]]; then
+    missing+=("$package")
+  fi
+done
+if ((${#missing[@]} == 0)); then
+  exit 0
+fi
+echo "setup.sh: installing ${missing[*]}"
+
+as_root=()
+if ((EUID != 0)); then
+  if ! command -v sudo >/dev/null; then
+    echo "setup.sh: neither root nor sudo; install these first: ${missing[*]}" >&2
+    exit 1
+  fi
+  as_root=(sudo)
+fi
+
+apt_get() {
+  ${as_root[@]+"${as_root[@]}"} env DEBIAN_FRONTEND=noninteractive apt-get \
+    -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3 -q "$@" </dev/null
+}
+apt_get update
+apt_get install --yes --no-install-recommends "${missing[@]}"
