@@ -1,6 +1,7 @@
 # The shared object: its own symbols alone are visible, and nothing stays undefined.
 set(ORTHOLAN_EXPORTS "${PROJECT_SOURCE_DIR}/cmake/exports.map")
-target_link_options(ortholan PRIVATE "LINKER:--version-script=${ORTHOLAN_EXPORTS}")
+target_link_options(ortholan PRIVATE
+  "LINKER:--version-script=${ORTHOLAN_EXPORTS}" "LINKER:-Bsymbolic-functions")
 set_target_properties(ortholan PROPERTIES LINK_DEPENDS "${ORTHOLAN_EXPORTS}")
 
 # A sanitizer's runtime comes with the program, so that its symbols are undefined here.

@@ -205,7 +205,7 @@ void CZEPString::Append(const char* text, size_t length) {
     imp_->Append(text, length);
     return;
   }
-  const std::string_view own = imp_ != nullptr ? imp_->text() : std::string_view();
+  const std::string_view own = imp_ != nullptr ? imp_->text() : "";
   // Room to grow only where there is something to append to already: most strings never change.
   const size_t needed = own.size() + length;
   CZEPStringImp* fresh = CZEPStringImp::Create(needed, own.empty() ? 0 : needed / 2);

@@ -402,6 +402,7 @@ inline constexpr DWORD CRYPT_E_ASN1_CONSTRAINT = 0x80093105;
 inline constexpr DWORD CRYPT_E_ASN1_MEMORY = 0x80093106;
 inline constexpr DWORD CRYPT_E_ASN1_BADTAG = 0x8009310B;
 inline constexpr DWORD CRYPT_E_ASN1_CHOICE = 0x8009310C;
+inline constexpr DWORD CRYPT_E_ASN1_RULE = 0x8009310D;
 
 ORTHOLAN_EXPORT void SetLastError(DWORD code) noexcept;
 ORTHOLAN_EXPORT DWORD GetLastError() noexcept;

@@ -15,6 +15,10 @@ struct AttributeElements {
 
 inline bool IsType(const Element& child) { return child.header.tag == kTagOid; }
 
+// The shape that nearly every RDN has: one attribute, its type first, every length in one octet.
+// False for any other, well-formed or not.
+bool SplitPlainRdn(ByteView rdn, AttributeElements* out);
+
 // Splits an RDN. False with a status for bytes that are no such structure, false with kOk for an
 // RDN without exactly one attribute and an attribute without exactly one type and one value.
 bool SplitRdn(ByteView rdn, AttributeElements* out, Status* status);

@@ -3,34 +3,23 @@
 #include <ortholan/name_decoder.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <string_view>
 
 namespace Ortholan {
 namespace {
 
-constexpr std::wstring_view kAuxSymbols = L"#;,+\"\\=<>\n\r";
-constexpr wchar_t kQuote = L'"';
-constexpr wchar_t kApostrophe = L'\'';
-
-constexpr std::array<bool, 0x80> MakeQuotedCharacters() {
-  std::array<bool, 0x80> quoted = {};
-  for (const wchar_t c : kAuxSymbols) quoted[static_cast<size_t>(c)] = true;
-  quoted[static_cast<size_t>(kApostrophe)] = true;
-  return quoted;
-}
-constexpr std::array<bool, 0x80> kQuotedCharacters = MakeQuotedCharacters();
+constexpr char kQuote = '"';
 
 bool CallsForQuotes(wchar_t c) {
   const auto index = static_cast<uint32_t>(c);
-  return index < kQuotedCharacters.size() && kQuotedCharacters[index];
+  return index < kQuoteClasses.size() && (kQuoteClasses[index] & kQuotedAnywhere) != 0;
 }
 
 // The Unicode white space that both platforms agree on, whatever the locale.
 bool IsWhiteSpace(wchar_t character) {
   const auto c = static_cast<uint32_t>(character);
-  if (c < 0x80) return c == 0x20 || (c >= 0x09 && c <= 0x0D);
+  if (c < 0x80) return (kQuoteClasses[c] & kQuotedAtEnds) != 0;
   switch (c) {
     case 0x00A0:
     case 0x1680:
@@ -50,6 +39,20 @@ bool IsPlain(std::wstring_view value) {
   return std::none_of(value.begin(), value.end(), CallsForQuotes);
 }
 
+// From the back, so that nothing is overwritten before it is read.
+template <typename Char>
+void Quote(Char* value, size_t size, size_t quotedSize) {
+  Char* from = value + size;
+  Char* to = value + quotedSize;
+  *--to = Char(kQuote);
+  while (from != value) {
+    const Char c = *--from;
+    *--to = c;
+    if (c == Char(kQuote)) *--to = c;
+  }
+  *value = Char(kQuote);
+}
+
 }  // namespace
 
 const std::wstring X500NameDecoder::AuxSymbols(kAuxSymbols);
@@ -58,20 +61,18 @@ void EscapeAttrAuxSym(size_t start, std::wstring* text) {
   if (!IsPlain(std::wstring_view(*text).substr(start))) QuoteAttr(start, text);
 }
 
+size_t QuotedSize(const char* value, size_t size) {
+  return size + static_cast<size_t>(std::count(value, value + size, kQuote)) + 2;
+}
+
+void QuoteAttr(char* value, size_t size) { Quote(value, size, QuotedSize(value, size)); }
+
 void QuoteAttr(size_t start, std::wstring* text) {
-  const auto value = text->begin() + static_cast<std::ptrdiff_t>(start);
-  const auto quotes = static_cast<size_t>(std::count(value, text->end(), kQuote));
-  size_t from = text->size();
+  const size_t size = text->size() - start;
+  const auto quotes = static_cast<size_t>(
+      std::count(text->begin() + static_cast<std::ptrdiff_t>(start), text->end(), wchar_t{kQuote}));
   text->resize(text->size() + quotes + 2);
-  size_t to = text->size();
-  // From the back, so that nothing is overwritten before it is read.
-  (*text)[--to] = kQuote;
-  while (from > start) {
-    const wchar_t c = (*text)[--from];
-    (*text)[--to] = c;
-    if (c == kQuote) (*text)[--to] = kQuote;
-  }
-  (*text)[start] = kQuote;
+  Quote(text->data() + start, size, size + quotes + 2);
 }
 
 }  // namespace Ortholan

@@ -26,11 +26,17 @@ bool DecodeAttrOid(const Element& element, TypeText* type) {
 std::wstring_view GetX500KeyFromOid(const TypeText& type) {
   const CRYPT_OID_INFO* info = FindAttributeInfo(CRYPT_OID_INFO_OID_KEY, type.dotted().data());
   if (info != nullptr && info->pwszName != nullptr) return info->pwszName;
-  return type.row() != nullptr ? type.row()->key : std::wstring_view();
+  // An arc padded with 80 octets has other octets than the row's, and the same text.
+  const AttributeRow* row = type.row() != nullptr ? type.row() : FindAttribute(type.dotted());
+  return row != nullptr ? row->key : std::wstring_view();
+}
+
+std::wstring_view KeyFor(const TypeText& type, unsigned style) {
+  return style == kStyleKeys ? GetX500KeyFromOid(type) : std::wstring_view();
 }
 
 void AppendType(const TypeText& type, unsigned style, std::wstring* text) {
-  const std::wstring_view key = style == kStyleKeys ? GetX500KeyFromOid(type) : std::wstring_view();
+  const std::wstring_view key = KeyFor(type, style);
   if (!key.empty()) {
     text->append(key);
   } else {

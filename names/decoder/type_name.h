@@ -20,7 +20,7 @@ class TypeText {
  private:
   friend bool DecodeAttrOid(const Element& element, TypeText* type);
 
-  const AttributeRow* row_ = nullptr;  // null for a type that the table has not
+  const AttributeRow* row_ = nullptr;  // null for octets that the table has not
   std::string_view dotted_;            // into the row or `formatted_`
   OidText formatted_;
 };
@@ -36,6 +36,9 @@ std::wstring_view GetX500KeyFromOid(const TypeText& type);
 // Name styles: what of a type is shown.
 constexpr unsigned kStyleValuesOnly = 1;
 constexpr unsigned kStyleKeys = 3;
+
+// The key that the style shows; empty where it shows the dotted identifier.
+std::wstring_view KeyFor(const TypeText& type, unsigned style);
 
 // Appends the type as the style shows it: key or dotted identifier.
 void AppendType(const TypeText& type, unsigned style, std::wstring* text);

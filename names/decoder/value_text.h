@@ -9,6 +9,14 @@
 
 namespace Ortholan {
 
+// Tag numbers of the strings whose characters are shown.
+inline bool IsDecodedString(const Element& value) {
+  constexpr DWORD kTags = 1u << kTagUtf8String | 1u << kTagPrintableString |
+                          1u << kTagTeletexString | 1u << kTagIA5String |
+                          1u << kTagVisibleString | 1u << kTagBmpString;
+  return value.header.tag < 32 && (kTags >> value.header.tag & 1) != 0;
+}
+
 // Appends the value's text, by tag number alone:
 //   12, 30          the platform's UTF-16 of the string
 //   19, 20, 22, 26  the string's octets in the thread's code page

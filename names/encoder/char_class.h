@@ -45,12 +45,15 @@ inline unsigned ClassesOf(wchar_t c) {
   const auto index = static_cast<uint32_t>(c);
   return index < kAsciiCount ? kCharClasses.begin()[index] : 0u;
 }
+// 8-bit text of the encoder is ASCII.
+inline unsigned ClassesOf(char c) { return kCharClasses.begin()[c & 0x7F]; }
 
 // The alphabets that every character of `text` is in.
-inline unsigned CommonClasses(std::wstring_view text) {
+template <typename Char>
+unsigned CommonClasses(std::basic_string_view<Char> text) {
   unsigned common = kInBoth;
-  for (const wchar_t c : text) common &= ClassesOf(c);
-  return common & kInBoth;
+  for (const Char c : text) common &= ClassesOf(c);
+  return common;
 }
 
 }  // namespace Ortholan

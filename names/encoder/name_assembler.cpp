@@ -11,40 +11,49 @@
 
 namespace Ortholan {
 
-bool NameAssembler::EncodeElem(const AttributeRow* row, std::wstring_view value,
-                               unsigned classes) {
-  if (row == nullptr) return FailWith(Status::kNotEncodable);
-  return AddPlan(row, row->der.size, value, classes);
-}
-
 bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
-  const unsigned classes = CommonClasses(value);
-  if (const AttributeRow* row = FindAttribute(type)) return EncodeElem(row, value, classes);
+  const AttributeRow* row = FindAttribute(type);
+  if (row != nullptr) return EncodeElem(row, value, CommonClasses(value));
   SmallBuffer<BYTE, kMaxOidContent> content;
   const Status status = ParseOid(type, &content);
   if (status != Status::kOk) return FailWith(status);
+  DWORD value_type = 0;
+  if (value.empty() || !DetermineTargetType(ValueRule::kFreeText, CommonClasses(value), options_,
+                                            &value_type)) {
+    return false;
+  }
   const size_t size = static_cast<size_t>(ElementSize(content.size()));
-  const size_t offset = oids_.size();
+  Plan* const plan = plans_.Extend(1);
+  *plan = {nullptr, oids_.size(), size, {value, value_type, false, 0}, false};
+  plan->value.size = MeasureValue(plan->value.text, value_type, false);
   WriteBytes(WriteHeader(oids_.Extend(size), kTagOid, content.size()),
              {content.data(), content.size()});
-  if (!AddPlan(nullptr, size, value, classes)) return false;
-  plans_.back().oid_offset = offset;
   return true;
 }
 
-bool NameAssembler::AddPlan(const AttributeRow* row, size_t oidSize, std::wstring_view value,
-                            unsigned classes) {
-  const ValueRule rule = row != nullptr ? row->rule : ValueRule::kFreeText;
-  const bool lines = row != nullptr && row->lines;
+// Stored member by member: what was just stored singly is slow to read back as a whole.
+bool NameAssembler::AddPlan(const AttributeRow* row, const char* ascii, const wchar_t* wide,
+                            size_t size, unsigned classes) {
+  if (row == nullptr) return FailWith(Status::kNotEncodable);
   DWORD type = 0;
-  if (value.empty() || !DetermineTargetType(rule, classes, options_, &type)) return false;
-  const uint64_t size = MeasureValue(value, type, lines);
-  *plans_.Extend(1) = {row, 0, oidSize, {value, type, lines, size}, false};
+  if (size == 0 || !DetermineTargetType(row->rule, classes, options_, &type)) return false;
+  Plan* const plan = plans_.Extend(1);
+  plan->row = row;
+  plan->oid_size = row->der.size;
+  plan->ends_rdn = false;
+  plan->value.text.ascii = ascii;
+  plan->value.text.wide = wide;
+  plan->value.text.size = size;
+  plan->value.type = type;
+  plan->value.lines = row->lines;
+  plan->value.size = MeasureValue(plan->value.text, type, row->lines);
   return true;
 }
 
 void NameAssembler::EndRdn() {
-  if (plans_.empty() || plans_.back().ends_rdn) plans_.push_back(Plan{});
+  if (plans_.empty() || plans_.back().ends_rdn) {
+    plans_.push_back({nullptr, 0, 0, {{}, 0, false, 0}, false});
+  }
   plans_.back().ends_rdn = true;
 }
 
@@ -97,7 +106,7 @@ BYTE* NameAssembler::WriteAttribute(const Plan& plan, BYTE* out) {
                            ? plan.row->oid_der()
                            : ByteView(oids_.data() + plan.oid_offset, plan.oid_size);
   out = WriteBytes(out, oid);
-  return values_.EncodeElemData(plan.value, out) ? out + plan.value.size : nullptr;
+  return EncodeElemData(plan.value, out) ? out + plan.value.size : nullptr;
 }
 
 }  // namespace Ortholan

@@ -25,8 +25,14 @@ class NameAssembler {
   // Adds one attribute to the current RDN: a row of the table with a value whose character classes
   // are known, or any identifier in dotted text. False, with the last error set where the type is
   // no identifier, for what cannot be encoded.
-  bool EncodeElem(const AttributeRow* row, std::wstring_view value, unsigned classes);
+  bool EncodeElem(const AttributeRow* row, std::string_view ascii, unsigned classes) {
+    return AddPlan(row, ascii.data(), nullptr, ascii.size(), classes);
+  }
+  bool EncodeElem(const AttributeRow* row, std::wstring_view wide, unsigned classes) {
+    return AddPlan(row, nullptr, wide.data(), wide.size(), classes);
+  }
   bool EncodeElem(std::string_view type, std::wstring_view value);
+  // Ends the current RDN, which may be empty.
   void EndRdn();
 
   // Writes the name. `der` is unchanged on failure: false, with last error 8 where memory ran out
@@ -45,7 +51,7 @@ class NameAssembler {
     uint64_t content() const { return oid_size + value.size; }
   };
 
-  bool AddPlan(const AttributeRow* row, size_t oidSize, std::wstring_view value,
+  bool AddPlan(const AttributeRow* row, const char* ascii, const wchar_t* wide, size_t size,
                unsigned classes);
   uint64_t RdnContent(const Plan* first, const Plan** next) const;
   bool WriteRdns(BYTE* out);
@@ -54,7 +60,6 @@ class NameAssembler {
   DWORD options_;
   SmallBuffer<Plan, 16> plans_;
   SmallBuffer<BYTE, 64> oids_;
-  ValueEncoder values_;
 };
 
 }  // namespace Ortholan

@@ -26,27 +26,27 @@ unsigned DelimitersFor(DWORD options) {
   return kAllDelimiters;
 }
 
-constexpr wchar_t kQuote = L'"';
+constexpr char kQuote = '"';
 
-bool HasDoubledQuote(std::wstring_view text, size_t quote) {
-  return quote + 1 < text.size() && text[quote + 1] == kQuote;
+template <typename Char>
+bool HasDoubledQuote(std::basic_string_view<Char> text, size_t quote) {
+  return quote + 1 < text.size() && text[quote + 1] == Char(kQuote);
 }
 
 }  // namespace
 
-NameParser::NameParser(std::wstring_view trimmedText, DWORD options,
-                       const AttributeRow* unfinished)
+template <typename Char>
+NameParser<Char>::NameParser(View trimmedText, DWORD options, const AttributeRow* unfinished)
     : next_(trimmedText.data()),
       end_(next_ + trimmedText.size()),
-      delimiters_(DelimitersFor(options)) {
-  current_.row = unfinished;
-}
+      delimiters_(DelimitersFor(options)),
+      row_(unfinished) {}
 
-bool NameParser::Parse_NameElems() {
+template <typename Char>
+bool NameParser<Char>::Parse_NameElems() {
   if (!GetToken(TokenKind::kType) || !Parse_ElemType() || !Parse_ElemComponents()) return false;
   for (;;) {
-    elements_.push_back(current_);
-    current_ = {};
+    AppendElem();
     if (!GetToken()) return false;
     if (kind_ == TokenKind::kEnd) return true;
     if (kind_ != TokenKind::kDelimiter) return false;
@@ -54,16 +54,31 @@ bool NameParser::Parse_NameElems() {
   }
 }
 
-bool NameParser::Parse_ElemType() { return ResolveType(Trimmed(token_), &current_.row); }
-
-void NameParser::Parse_ElemValue() {
-  current_.value = Trimmed(token_);
-  // Of what was cut off, a tab alone is in no alphabet.
-  const bool known = token_classes_ == kInBoth || current_.value.size() == token_.size();
-  current_.classes = known ? token_classes_ : CommonClasses(current_.value);
+// Member by member: what was just stored singly is slow to read back as a whole.
+template <typename Char>
+void NameParser<Char>::AppendElem() {
+  NameElem<Char>* const elem = elements_.Extend(1);
+  elem->row = row_;
+  elem->value = View(value_.data(), value_.size());
+  elem->classes = value_classes_;
+  row_ = nullptr;
+  value_ = {};
+  value_classes_ = kInBoth;
 }
 
-bool NameParser::Parse_ElemComponents() {
+template <typename Char>
+bool NameParser<Char>::Parse_ElemType() { return ResolveType(Trimmed(token_), &row_); }
+
+template <typename Char>
+void NameParser<Char>::Parse_ElemValue() {
+  value_ = Trimmed(token_);
+  // Of what was cut off, a tab alone is in no alphabet.
+  const bool known = token_classes_ == kInBoth || value_.size() == token_.size();
+  value_classes_ = known ? token_classes_ : CommonClasses(value_);
+}
+
+template <typename Char>
+bool NameParser<Char>::Parse_ElemComponents() {
   if (!GetToken()) return true;
   if (kind_ != TokenKind::kEquals) return false;
   // Where the type was not resolved this reads another type, which is no value either.
@@ -73,11 +88,12 @@ bool NameParser::Parse_ElemComponents() {
   return true;
 }
 
-bool NameParser::GetToken() {
+template <typename Char>
+bool NameParser<Char>::GetToken() {
   token_ = {};
   kind_ = TokenKind::kEnd;
-  if (AtEnd() || *next_ == L'\0') return true;
-  while (*next_ == L' ') {
+  if (AtEnd() || *next_ == Char(0)) return true;
+  while (*next_ == Char(' ')) {
     if (++next_; AtEnd()) return true;
   }
   if (IsElementDelimiter(*next_)) {
@@ -87,14 +103,14 @@ bool NameParser::GetToken() {
     kind_ = TokenKind::kDelimiter;
     return true;
   }
-  if (*next_ == L'=') {
+  if (*next_ == Char('=')) {
     kind_ = TokenKind::kEquals;
     ++next_;
     return !AtEnd();
   }
-  if (current_.row == nullptr) return ReadType();
+  if (row_ == nullptr) return ReadType();
   kind_ = TokenKind::kValue;
-  if (*next_ == kQuote) {
+  if (*next_ == Char(kQuote)) {
     ReadQuotedValue();
   } else {
     ReadUnquotedValue();
@@ -102,18 +118,20 @@ bool NameParser::GetToken() {
   return true;
 }
 
-bool NameParser::ReadType() {
+template <typename Char>
+bool NameParser<Char>::ReadType() {
   kind_ = TokenKind::kType;
-  const wchar_t* const first = next_;
-  while (!AtEnd() && *next_ != L'=') ++next_;
+  const Char* const first = next_;
+  while (!AtEnd() && *next_ != Char('=')) ++next_;
   if (AtEnd()) return false;
   token_ = {first, static_cast<size_t>(next_ - first)};
   return true;
 }
 
 // The alphabets are found on the way: this loop is where most of a text is read.
-void NameParser::ReadUnquotedValue() {
-  const wchar_t* at = next_;
+template <typename Char>
+void NameParser<Char>::ReadUnquotedValue() {
+  const Char* at = next_;
   unsigned common = kInBoth;
   for (; at != end_; ++at) {
     const unsigned classes = ClassesOf(*at);
@@ -126,11 +144,12 @@ void NameParser::ReadUnquotedValue() {
 }
 
 // A missing closing quote is accepted.
-void NameParser::ReadQuotedValue() {
+template <typename Char>
+void NameParser<Char>::ReadQuotedValue() {
   ++next_;
-  const std::wstring_view rest = Rest();
-  const size_t quote = rest.find(kQuote);
-  if (quote == std::wstring_view::npos) {
+  const View rest = Rest();
+  const size_t quote = rest.find(Char(kQuote));
+  if (quote == View::npos) {
     token_ = rest;
     next_ = end_;
   } else if (HasDoubledQuote(rest, quote)) {
@@ -143,20 +162,24 @@ void NameParser::ReadQuotedValue() {
 }
 
 // Copies the quoted text at the front of `rest`, whose first doubled quote is at `quote`.
-std::wstring_view NameParser::Unescape(std::wstring_view rest, size_t quote) {
+template <typename Char>
+auto NameParser<Char>::Unescape(View rest, size_t quote) -> View {
   // Views into the copy stay valid, because all texts from here on need no more than this.
   if (unescaped_.empty()) unescaped_.reserve(rest.size());
   const size_t start = unescaped_.size();
   size_t copied = 0;
-  while (quote != std::wstring_view::npos && HasDoubledQuote(rest, quote)) {
+  while (quote != View::npos && HasDoubledQuote(rest, quote)) {
     unescaped_.append(rest, copied, quote + 1 - copied);
     copied = quote + 2;
-    quote = rest.find(kQuote, copied);
+    quote = rest.find(Char(kQuote), copied);
   }
-  const size_t end = quote != std::wstring_view::npos ? quote : rest.size();
+  const size_t end = quote != View::npos ? quote : rest.size();
   unescaped_.append(rest, copied, end - copied);
-  next_ = quote != std::wstring_view::npos ? next_ + quote + 1 : end_;
-  return std::wstring_view(unescaped_).substr(start);
+  next_ = quote != View::npos ? next_ + quote + 1 : end_;
+  return View(unescaped_).substr(start);
 }
+
+template class NameParser<char>;
+template class NameParser<wchar_t>;
 
 }  // namespace Ortholan

@@ -7,7 +7,7 @@
 namespace Ortholan {
 
 void TrimLeftRight(std::wstring& s) {
-  const std::wstring_view kept = Trimmed(s);
+  const std::wstring_view kept = Trimmed(std::wstring_view(s));
   const size_t offset = static_cast<size_t>(kept.data() - s.data());
   s.erase(offset + kept.size());
   s.erase(0, offset);

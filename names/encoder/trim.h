@@ -6,15 +6,17 @@
 
 namespace Ortholan {
 
-constexpr bool IsTrimmed(wchar_t c) {
-  return c == L' ' || c == L'\t' || c == L'\r' || c == L'\n';
+template <typename Char>
+constexpr bool IsTrimmed(Char c) {
+  return c == Char(' ') || c == Char('\t') || c == Char('\r') || c == Char('\n');
 }
 
 // The part of `text` without white space at its ends. Text of white space alone keeps its first
 // character, so a value of one blank stays a value.
-inline std::wstring_view Trimmed(std::wstring_view text) {
-  const wchar_t* first = text.data();
-  const wchar_t* end = first + text.size();
+template <typename Char>
+std::basic_string_view<Char> Trimmed(std::basic_string_view<Char> text) {
+  const Char* first = text.data();
+  const Char* end = first + text.size();
   while (first != end && IsTrimmed(*first)) ++first;
   if (first == end) return text.substr(0, text.empty() ? 0 : 1);
   while (IsTrimmed(end[-1])) --end;

@@ -1,7 +1,7 @@
 #include "names/encoder/type_resolver.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <type_traits>
 
 #include "foundation/ascii.h"
 #include "platform/calls.h"
@@ -67,35 +67,46 @@ bool MatchForm(std::string_view form, const AttributeRow** row) {
   return true;
 }
 
-// The identifier that the platform has for the name, as the caller wrote it; null without one.
-const char* PlatformIdentifier(std::wstring_view name) {
-  wchar_t key[kTypeTextLimit];
-  *std::copy(name.begin(), name.end(), key) = L'\0';
-  const CRYPT_OID_INFO* info = FindAttributeInfo(CRYPT_OID_INFO_NAME_KEY, key);
-  return info != nullptr ? info->pszOID : nullptr;
+// The key of a look-up: the text as the caller wrote it, terminated. False for a text with a NUL.
+template <typename Char>
+bool ToKey(std::basic_string_view<Char> text, wchar_t* key) {
+  for (const Char c : text) {
+    if (c == Char(0)) return false;
+    *key++ = static_cast<wchar_t>(c);
+  }
+  *key = L'\0';
+  return true;
 }
 
-// Upper-cased; a character above 0x7F becomes one that is in no form.
-void ToForm(std::wstring_view text, char* form) {
-  for (const wchar_t c : text) {
-    *form++ = static_cast<uint32_t>(c) < 0x80 ? static_cast<char>(ToAsciiUpper(c)) : '?';
+// The upper-cased text; a character above 0x7F becomes one that is in no form.
+template <typename Char>
+std::string_view ToForm(std::basic_string_view<Char> text, char* form) {
+  char* end = form;
+  for (const Char c : text) {
+    const bool ascii = static_cast<std::make_unsigned_t<Char>>(c) < 0x80;
+    *end++ = ascii ? static_cast<char>(ToAsciiUpper(c)) : '?';
   }
+  return {form, text.size()};
+}
+
+template <typename Char>
+bool Resolve(std::basic_string_view<Char> text, const AttributeRow** row) {
+  *row = nullptr;
+  wchar_t key[kTypeTextLimit];
+  if (text.empty() || text.size() >= kTypeTextLimit || !ToKey(text, key)) return false;
+  char form[kTypeTextLimit];
+  if (text.size() == kBarePrefix.size() && ToForm(text, form) == kBarePrefix) return false;
+  if (IsAsciiLetter(text.front())) {
+    const CRYPT_OID_INFO* info = FindAttributeInfo(CRYPT_OID_INFO_NAME_KEY, key);
+    if (info != nullptr && info->pszOID != nullptr) return MatchForm(info->pszOID, row);
+  }
+  return MatchForm(ToForm(text, form), row);
 }
 
 }  // namespace
 
-bool ResolveType(std::wstring_view text, const AttributeRow** row) {
-  *row = nullptr;
-  if (text.empty() || text.size() >= kTypeTextLimit) return false;
-  if (text.find(L'\0') != std::wstring_view::npos) return false;
-  char form[kTypeTextLimit];
-  ToForm(text, form);
-  const std::string_view upper(form, text.size());
-  if (upper == kBarePrefix) return false;
-  if (IsAsciiLetter(text[0])) {
-    if (const char* identifier = PlatformIdentifier(text)) return MatchForm(identifier, row);
-  }
-  return MatchForm(upper, row);
-}
+bool ResolveType(std::wstring_view text, const AttributeRow** row) { return Resolve(text, row); }
+
+bool ResolveType(std::string_view text, const AttributeRow** row) { return Resolve(text, row); }
 
 }  // namespace Ortholan

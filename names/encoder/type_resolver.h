@@ -10,8 +10,10 @@ namespace Ortholan {
 
 // Resolves trimmed type text: a name that the platform knows, then a keyword in any letter case or
 // the dotted identifier of a row of kAttributes. False: refused. True with a null row: not
-// resolved, which the length of the text alone decides. The last error is left alone.
+// resolved, which the length of the text alone decides. The last error is left alone. 8-bit text is
+// ASCII.
 bool ResolveType(std::wstring_view text, const AttributeRow** row);
+bool ResolveType(std::string_view text, const AttributeRow** row);
 
 }  // namespace Ortholan
 

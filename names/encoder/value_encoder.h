@@ -7,37 +7,46 @@
 #include <cstdint>
 #include <string_view>
 
-#include "foundation/small_buffer.h"
+#include "foundation/element_writer.h"
 
 namespace Ortholan {
 
+// The characters of a value, not owned: ASCII in bytes, or UTF-16 in wide characters.
+struct Characters {
+  const char* ascii = nullptr;    // null where they are wide
+  const wchar_t* wide = nullptr;  // null where they are ASCII
+  size_t size = 0;
+
+  Characters() = default;
+  Characters(std::string_view text) : ascii(text.data()), size(text.size()) {}
+  Characters(std::wstring_view text) : wide(text.data()), size(text.size()) {}
+};
+
 // The value of one attribute, ready to be written.
 struct ValuePlan {
-  std::wstring_view text;  // in the type's alphabet
-  DWORD type;              // CERT_RDN_*: 4, 7, 12 or 13
-  bool lines;              // a SEQUENCE of one string a line
-  uint64_t size;           // octets of the whole encoding
+  Characters text;  // in the type's alphabet
+  DWORD type;       // CERT_RDN_*: 4, 7, 12 or 13
+  bool lines;       // a SEQUENCE of one string a line
+  uint64_t size;    // octets of the whole encoding
 };
 
-// Takes the next line off the front of `*text`: lines end at CR and LF, empty ones are passed
-// over, nothing is trimmed. False when no line is left.
-bool NextLine(std::wstring_view* text, std::wstring_view* line);
+uint64_t MeasureWide(std::wstring_view text, DWORD type);
+uint64_t MeasureLines(const Characters& text, DWORD type);
 
-// Octets of the encoding.
-uint64_t MeasureValue(std::wstring_view text, DWORD type, bool lines);
+// Octets of one string. Sized here rather than by a query of the platform: the content is the text
+// in the type's encoding, and the length field is definite and minimal.
+inline uint64_t MeasureString(const Characters& text, DWORD type) {
+  if (text.ascii == nullptr) return MeasureWide({text.wide, text.size}, type);
+  return ElementSize(type == CERT_RDN_BMP_STRING ? 2 * text.size : text.size);
+}
 
-// Writes values with the platform's codec; keeps the scratch space that this takes.
-class ValueEncoder {
- public:
-  // Writes plan.size octets to `out`. False where the platform refuses; its last error stands.
-  bool EncodeElemData(const ValuePlan& plan, BYTE* out);
+inline uint64_t MeasureValue(const Characters& text, DWORD type, bool lines) {
+  return lines ? ElementSize(MeasureLines(text, type)) : MeasureString(text, type);
+}
 
- private:
-  bool EncodeLines(const ValuePlan& plan, BYTE* out);
-  bool EncodeString(std::wstring_view text, DWORD type, uint64_t size, BYTE* out);
-
-  SmallBuffer<BYTE, 512> bytes_;
-};
+// Writes plan.size octets to `out` with the platform's codec. False where the platform refuses; its
+// last error stands.
+bool EncodeElemData(const ValuePlan& plan, BYTE* out);
 
 }  // namespace Ortholan
 

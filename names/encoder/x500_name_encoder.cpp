@@ -10,37 +10,11 @@
 #include "names/encoder/char_class.h"
 #include "names/encoder/name_assembler.h"
 #include "names/encoder/name_parser.h"
+#include "names/encoder/text_encoder.h"
 #include "names/encoder/trim.h"
 
 namespace Ortholan {
 namespace {
-
-constexpr int kHighestRank = 11;
-// A place for each rank and one for what has none, which goes first.
-constexpr size_t kRankPlaces = kHighestRank + 2;
-
-size_t PlaceOf(const NameElem& elem) {
-  const int rank = elem.row != nullptr ? elem.row->rank : kUnrankedAttribute;
-  return static_cast<size_t>(kHighestRank + 1 - std::min(rank, kHighestRank + 1));
-}
-
-// By falling rank, equal ranks in their order: a counting sort, because ranks are few.
-void SortByRank(const NameElems& elems, NameElems* sorted) {
-  size_t starts[kRankPlaces + 1] = {};
-  for (const NameElem& elem : elems) ++starts[PlaceOf(elem) + 1];
-  for (size_t place = 1; place <= kRankPlaces; ++place) starts[place] += starts[place - 1];
-  NameElem* out = sorted->Take(elems.size());
-  for (const NameElem& elem : elems) out[starts[PlaceOf(elem)]++] = elem;
-}
-
-bool EncodeElements(const NameElems& elems, DWORD options, IdentObj* der) {
-  NameAssembler assembler(options);
-  for (const NameElem& elem : elems) {
-    if (!assembler.EncodeElem(elem.row, elem.value, elem.classes)) return false;
-    assembler.EndRdn();
-  }
-  return assembler.Write(der);
-}
 
 // Adds one RDN of structured attributes; their texts are kept in `texts`.
 template <typename Attributes>
@@ -84,13 +58,13 @@ bool X500NameEncoder::DevideIntoElements(const std::wstring& text,
                                          std::list<X500NAME_ELEM>& elements) {
   // The text may be a member of the list that it replaces.
   std::list<X500NAME_ELEM> found;
-  const std::wstring_view trimmed = Trimmed(text);
+  const std::wstring_view trimmed = Trimmed(std::wstring_view(text));
   bool divided = true;
   if (!trimmed.empty()) {
-    NameParser parser(trimmed, options_, unfinished_);
+    NameParser<wchar_t> parser(trimmed, options_, unfinished_);
     divided = parser.Parse_NameElems();
     unfinished_ = parser.unfinished();
-    for (const NameElem& elem : parser.elements()) {
+    for (const NameElem<wchar_t>& elem : parser.elements()) {
       if (!divided) break;
       const std::string_view type = elem.row != nullptr ? elem.row->oid : std::string_view();
       found.push_back({std::wstring(type.begin(), type.end()), std::wstring(elem.value)});
@@ -102,16 +76,7 @@ bool X500NameEncoder::DevideIntoElements(const std::wstring& text,
 
 bool X500NameEncoder::Encode(const std::wstring& text, IdentObj& der, bool sortByPriority) {
   der.Clear();
-  const std::wstring_view trimmed = Trimmed(text);
-  if (trimmed.empty()) return FailWith(Status::kBadArgument);
-  NameParser parser(trimmed, options_, unfinished_);
-  const bool parsed = parser.Parse_NameElems();
-  unfinished_ = parser.unfinished();
-  if (!parsed) return false;
-  if (!sortByPriority) return EncodeElements(parser.elements(), options_, &der);
-  NameElems sorted;
-  SortByRank(parser.elements(), &sorted);
-  return EncodeElements(sorted, options_, &der);
+  return EncodeNameText(text, options_, sortByPriority, &unfinished_, &der);
 }
 
 bool X500NameEncoder::Encode(const std::list<SimpleRDN>& rdns, IdentObj& der,

@@ -8,7 +8,9 @@
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "foundation/untyped_failure.h"
+#include "names/decoder/name_renderer.h"
 #include "names/encoder/encoder_options.h"
+#include "names/encoder/text_encoder.h"
 #include "names/model/name_text.h"
 
 namespace Ortholan {
@@ -27,6 +29,8 @@ bool EncodeInto(X509Name* name, DWORD options, const Form&... form) {
   *name = std::move(der);
   return true;
 }
+
+constexpr DWORD kNameStyleMask = 0x0000FFFF;
 
 DWORD StructureOptions(bool flag) { return flag ? kOptionAlwaysUtf8 : 0; }
 
@@ -50,12 +54,18 @@ bool Render(const X509Name& name, unsigned long options, std::wstring* text) {
   return decoder.Decode(name, *text, word);
 }
 
-// The 8-bit readers: `out` changes on success alone.
-template <typename Text>
-bool RenderNarrow(const X509Name& name, unsigned long options, Text* out) {
-  std::wstring wide;
-  if (!Render(name, options, &wide)) return false;
-  *out = ToThreadText(wide).c_str();
+// The 8-bit readers: `out` changes on success alone. ASCII needs no conversion.
+bool RenderNarrow(const X509Name& name, unsigned long options, std::string* out) {
+  const DWORD word = static_cast<DWORD>(options);
+  NameRenderer renderer(word & kNameStyleMask, word);
+  if (name.cbData != 0 && !renderer.Render(ByteView(name))) return false;
+  const std::string_view ascii = renderer.ascii();
+  if (ascii.data() != nullptr) {
+    const std::string_view text = ascii.substr(0, ascii.find('\0'));
+    *out = text.size() + 1 <= kMaxConvertedText ? text : std::string_view();
+  } else {
+    *out = ToThreadText(renderer.wide());
+  }
   return true;
 }
 
@@ -134,6 +144,14 @@ bool X509Name::TrySetBy(const char* text, unsigned long options, bool sort) {
   if (text == nullptr) return FailWith(Status::kBadArgument);
   const size_t length = std::strlen(text);
   if (length + 1 > kMaxConvertedText) return FailWith(Status::kBadArgument);
+  if (IsAscii(std::string_view(text, length))) {
+    const AttributeRow* fresh = nullptr;
+    IdentObj der;
+    const std::string_view ascii(text, length);
+    if (!EncodeNameText(ascii, TextOptions(options), sort, &fresh, &der)) return false;
+    *this = std::move(der);
+    return true;
+  }
   std::wstring wide;
   if (Widen({text, length}, kCodePageThreadAnsi, &wide) != Conversion::kDone) return false;
   return EncodeInto(this, TextOptions(options), wide, sort);
@@ -165,7 +183,10 @@ bool X509Name::TryGetX500String(std::string& out, unsigned long options) const {
 }
 
 bool X509Name::TryGetX500String(CZEPString& out, unsigned long options) const {
-  return RenderNarrow(*this, options, &out);
+  std::string text;
+  if (!RenderNarrow(*this, options, &text)) return false;
+  out = text.c_str();
+  return true;
 }
 
 void X509Name::GetNameInfo(std::list<std::list<RDNAttr>>& out) const {

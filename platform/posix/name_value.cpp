@@ -5,15 +5,13 @@
 #include <cstring>
 #include <iterator>
 
-#include "platform/posix/der.h"
-#include "platform/posix/fail.h"
+#include "platform/posix/codec.h"
 #include "platform/posix/utf8.h"
 
 namespace Ortholan::posix {
 namespace {
 
 constexpr DWORD kInvalidArgument = 0x80070057;
-constexpr std::size_t kLargest = 0xFFFFFFFF;
 
 enum class Form : BYTE {
   kRefused,
@@ -70,18 +68,10 @@ void CopyOctets(Bytes from, BYTE* to) {
   if (from.size != 0) std::memcpy(to, from.data, from.size);
 }
 
-// Exchanges the octets of each UTF-16 unit: big-endian to little-endian and back.
-void CopySwapped(const BYTE* from, std::size_t size, BYTE* to) {
-  for (std::size_t i = 0; i + 1 < size; i += 2) {
-    to[i] = from[i + 1];
-    to[i + 1] = from[i];
-  }
-}
-
 void WriteContent(Form form, Bytes value, std::size_t contentSize, BYTE* out) {
   switch (form) {
     case Form::kBigEndianUtf16:
-      CopySwapped(value.data, contentSize, out);
+      SwapUnits(value.data, contentSize, out);
       break;
     case Form::kUtf8:
       ToUtf8(LittleEndianSource{value.data}, value.size / 2, ByteWriter{out, contentSize});
@@ -100,7 +90,7 @@ void WriteValue(DWORD type, Bytes content, BYTE* out) {
   if (type == CERT_RDN_UTF8_STRING) {
     FromUtf8(content.data, content.size, LittleEndianWriter{out});
   } else if (type == CERT_RDN_BMP_STRING) {
-    CopySwapped(content.data, content.size, out);
+    SwapUnits(content.data, content.size, out);
   } else {
     CopyOctets(content, out);
   }
@@ -118,11 +108,8 @@ BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) n
 
   const std::size_t contentSize = ContentSize(row.form, octets);
   const std::size_t size = row.form == Form::kWhole ? contentSize : ElementSize(contentSize);
-  if (size > kLargest) return Fail(CRYPT_E_ASN1_LARGE);
-  const DWORD room = *outBytes;
-  *outBytes = static_cast<DWORD>(size);
-  if (out == nullptr) return TRUE;
-  if (room < size) return Fail(ERROR_MORE_DATA);
+  BOOL result;
+  if (!WantsContent(size, out, outBytes, &result)) return result;
 
   if (row.form != Form::kWhole) out = WriteHeader(row.tag, contentSize, out);
   WriteContent(row.form, octets, contentSize, out);
@@ -133,17 +120,15 @@ BOOL DecodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* 
   if (encodedBytes == 0) return Fail(CRYPT_E_ASN1_CORRUPT);
   const DWORD type = kTags.type[encoded[0]];
   if (type == 0) return Fail(CRYPT_E_ASN1_BADTAG);
-  Bytes content;
-  if (!ReadContent({encoded, encodedBytes}, &content)) return Fail(CRYPT_E_ASN1_CORRUPT);
+  Element element;
+  if (!ReadElement({encoded, encodedBytes}, &element)) return Fail(CRYPT_E_ASN1_CORRUPT);
+  const Bytes content = element.content;
   if (type == CERT_RDN_BMP_STRING && content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT);
 
   const std::size_t valueSize = ValueSize(type, content);
   const std::size_t size = sizeof(CERT_NAME_VALUE) + valueSize;
-  if (size > kLargest) return Fail(CRYPT_E_ASN1_LARGE);
-  const DWORD room = *outBytes;
-  *outBytes = static_cast<DWORD>(size);
-  if (out == nullptr) return TRUE;
-  if (room < size) return Fail(ERROR_MORE_DATA);
+  BOOL result;
+  if (!WantsContent(size, out, outBytes, &result)) return result;
 
   auto* bytes = static_cast<BYTE*>(out) + sizeof(CERT_NAME_VALUE);
   WriteValue(type, content, bytes);

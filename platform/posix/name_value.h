@@ -1,4 +1,5 @@
-// The codec of X509_NAME_VALUE: one string value as CERT_NAME_VALUE holds it and as DER.
+// The codecs of X509_NAME_VALUE and X509_UNICODE_NAME_VALUE: one string value as CERT_NAME_VALUE
+// holds it and as DER.
 
 #ifndef ORTHOLAN_PLATFORM_POSIX_NAME_VALUE_H_
 #define ORTHOLAN_PLATFORM_POSIX_NAME_VALUE_H_
@@ -18,6 +19,15 @@ BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) n
 // is null where there are none.
 // Fails: 0x8009310B (another tag), 0x80093103 (cut short; half a character), 234.
 BOOL DecodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* outBytes) noexcept;
+
+// The same for text: whatever the type, the value is UTF-16LE octets. Written text is checked
+// against its type, with 0x80092020 to 0x80092023 for what the type does not take and the position
+// of the first such unit stored as the size, 0x80092024 for types that are no text. Every string
+// tag is read, 8-bit octets as the units of their value; the text is followed by U+0000, which
+// `cbData` does not count.
+BOOL EncodeUnicodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) noexcept;
+BOOL DecodeUnicodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out,
+                            DWORD* outBytes) noexcept;
 
 }  // namespace Ortholan::posix
 

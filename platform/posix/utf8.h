@@ -41,6 +41,14 @@ struct LittleEndianSource {
   }
 };
 
+// Exchanges the octets of each whole UTF-16 unit: big-endian to little-endian and back.
+inline void SwapUnits(const BYTE* from, std::size_t size, BYTE* to) {
+  for (std::size_t i = 0; i + 1 < size; i += 2) {
+    to[i] = from[i + 1];
+    to[i + 1] = from[i];
+  }
+}
+
 template <class Source>
 bool IsAsciiRun(Source text, std::size_t at) {
   std::uint32_t bits = 0;

@@ -1,0 +1,33 @@
+#include <ortholan/name_decoder.h>
+
+#include "names/decoder/name_renderer.h"
+#include "names/decoder/type_name.h"
+
+namespace Ortholan {
+namespace {
+
+constexpr DWORD kStyleMask = 0x0000FFFF;
+constexpr DWORD kOptionMask = 0xFFFF0000;
+
+}  // namespace
+
+X500NameDecoder::X500NameDecoder() noexcept : nameStyle_(kStyleKeys), decoderOptions_(0) {}
+X500NameDecoder::X500NameDecoder(const X500NameDecoder&) noexcept = default;
+X500NameDecoder& X500NameDecoder::operator=(const X500NameDecoder&) noexcept = default;
+X500NameDecoder::~X500NameDecoder() = default;
+
+void X500NameDecoder::SetDecoderOptions(DWORD options) { decoderOptions_ = options & kOptionMask; }
+
+DWORD X500NameDecoder::GetDecoderOptions() const { return decoderOptions_; }
+
+bool X500NameDecoder::Decode(const IdentObj& name, std::wstring& text, DWORD options) {
+  const ByteView bytes(name);
+  if (bytes.empty()) return false;
+  nameStyle_ = options & kStyleMask;
+  NameRenderer renderer(nameStyle_, decoderOptions_);
+  const bool rendered = renderer.Render(bytes);
+  renderer.MoveTo(&text);
+  return rendered;
+}
+
+}  // namespace Ortholan
