@@ -78,6 +78,8 @@ CZEPString::CZEPString(const char* text) : imp_(nullptr) {
 
 CZEPString::CZEPString(char character) : imp_(nullptr) { Assign(&character, 1); }
 
+CZEPString::CZEPString(const char* text, size_t length) : imp_(nullptr) { Assign(text, length); }
+
 CZEPString::CZEPString(const CZEPString& other) noexcept : imp_(other.imp_) {
   if (imp_ != nullptr) imp_->AddRef();
 }

@@ -2,8 +2,8 @@
 
 #include <ortholan/name_encoder.h>
 
+#include <cstdint>
 #include <string>
-
 
 namespace Ortholan {
 
@@ -72,7 +72,7 @@ int GetAttrPriority(const std::wstring& oid) {
   std::string narrow;
   for (const wchar_t c : oid) {
     if (c == L'\0') break;
-    if (c > 0x7F) return kUnrankedAttribute;
+    if (static_cast<uint32_t>(c) > 0x7F) return kUnrankedAttribute;
     narrow.push_back(static_cast<char>(c));
   }
   return AttributePriority(narrow);

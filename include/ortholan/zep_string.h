@@ -48,6 +48,8 @@ class ORTHOLAN_EXPORT CZEPString {
   CZEPString() noexcept;
   CZEPString(const char* text);
   CZEPString(char character);
+  // The first `length` bytes of `text`, NULs included.
+  CZEPString(const char* text, size_t length);
   CZEPString(const CZEPString& other) noexcept;
   CZEPString(CZEPString&& other) noexcept;
   CZEPString& operator=(const CZEPString& other) noexcept;

@@ -1,6 +1,7 @@
 // A name as the platform's CERT_NAME_INFO tree.
 #include <ortholan/name_decoder.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "foundation/status_code.h"
@@ -40,13 +41,34 @@ bool FillType(const Element& child, CERT_RDN_ATTR* attr) {
   return true;
 }
 
-bool FillText(std::wstring_view text, CERT_RDN_ATTR* attr) {
-  const uint64_t size = 2 * static_cast<uint64_t>(text.size()) + kPaddingBytes;
-  if (size > std::numeric_limits<DWORD>::max()) return FailWith(Status::kNoMemory);
-  BYTE* bytes = new BYTE[size];
-  std::fill_n(WriteUtf16Le(text, bytes), kPaddingBytes, BYTE{0});
+// Room for `units` and the padding behind them, which is zeroed; null, with the last error set,
+// where that passes 32 bits.
+BYTE* NewText(size_t units, CERT_RDN_ATTR* attr) {
+  const uint64_t size = 2 * static_cast<uint64_t>(units) + kPaddingBytes;
+  if (size > std::numeric_limits<DWORD>::max()) {
+    FailWith(Status::kNoMemory);
+    return nullptr;
+  }
+  BYTE* const bytes = new BYTE[size];
+  std::fill_n(bytes + 2 * units, kPaddingBytes, BYTE{0});
   attr->dwValueType = CERT_RDN_UNICODE_STRING;
   attr->Value = {static_cast<DWORD>(size), bytes};
+  return bytes;
+}
+
+bool FillText(std::wstring_view text, CERT_RDN_ATTR* attr) {
+  BYTE* const bytes = NewText(text.size(), attr);
+  if (bytes != nullptr) WriteUtf16Le(text, bytes);
+  return bytes != nullptr;
+}
+
+bool FillAscii(std::string_view text, CERT_RDN_ATTR* attr) {
+  BYTE* const bytes = NewText(text.size(), attr);
+  if (bytes == nullptr) return false;
+  for (size_t i = 0; i < text.size(); ++i) {
+    bytes[2 * i] = static_cast<BYTE>(text[i]);
+    bytes[2 * i + 1] = 0;
+  }
   return true;
 }
 
@@ -57,7 +79,10 @@ void FillEncoding(ByteView element, CERT_RDN_ATTR* attr) {
   attr->Value = {static_cast<DWORD>(element.size), bytes};
 }
 
+// Most values are ASCII and need no wide text between.
 bool FillValue(const Element& child, std::wstring* scratch, CERT_RDN_ATTR* attr) {
+  AsciiValue ascii;
+  if (ascii.Decode(child)) return FillAscii(ascii.text(), attr);
   scratch->clear();
   if (DecodeAttrData(child, scratch)) return FillText(*scratch, attr);
   FillEncoding(child.bytes, attr);

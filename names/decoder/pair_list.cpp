@@ -45,9 +45,11 @@ bool X500NameDecoder::Decode(const IdentObj& name,
   if (status != Status::kOk) return FailWith(status);
   ElementReader reader(bytes);
   for (Element rdn; reader.Next(&rdn);) {
-    Pair pair;
-    if (!DecodeElem(rdn.bytes, style, &pair)) return false;
-    pairs.push_back(std::move(pair));
+    pairs.emplace_back();
+    if (!DecodeElem(rdn.bytes, style, &pairs.back())) {
+      pairs.pop_back();
+      return false;
+    }
   }
   return true;
 }

@@ -5,7 +5,6 @@
 #include "foundation/utf16.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/hex_text.h"
-#include "platform/string_value.h"
 
 namespace Ortholan {
 namespace {
@@ -59,6 +58,13 @@ bool AppendValue(const Element& value, unsigned depth, std::wstring* text) {
 }
 
 }  // namespace
+
+bool AsciiValue::Decode(const Element& value) {
+  if (!IsDecodedString(value)) return false;
+  if (!decoded_.Decode(value.bytes.data, value.bytes.size) || decoded_.is_utf16()) return false;
+  text_ = AsText(ByteView(decoded_.data(), decoded_.size()));
+  return IsAscii(text_);
+}
 
 bool DecodeAttrData(const Element& value, std::wstring* text) {
   return AppendValue(value, 0, text);

@@ -4,8 +4,10 @@
 
 #include <list>
 #include <string>
+#include <string_view>
 
 #include "foundation/element_reader.h"
+#include "platform/string_value.h"
 
 namespace Ortholan {
 
@@ -16,6 +18,18 @@ inline bool IsDecodedString(const Element& value) {
                           1u << kTagVisibleString | 1u << kTagBmpString;
   return value.header.tag < 32 && (kTags >> value.header.tag & 1) != 0;
 }
+
+// The text of a string value in ASCII, as most values are.
+class AsciiValue {
+ public:
+  // False for any other value. The last error is then left to whoever decodes it in full.
+  bool Decode(const Element& value);
+  std::string_view text() const { return text_; }
+
+ private:
+  StringValue decoded_;
+  std::string_view text_;
+};
 
 // Appends the value's text, by tag number alone:
 //   12, 30          the platform's UTF-16 of the string

@@ -8,48 +8,26 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "foundation/code_page.h"
+#include "foundation/small_buffer.h"
 #include "foundation/untyped_failure.h"
 #include "names/decoder/attribute_elements.h"
-#include "names/decoder/type_name.h"
+#include "names/decoder/attribute_walk.h"
 #include "names/decoder/value_text.h"
 #include "names/model/name_text.h"
 
 namespace Ortholan {
 namespace {
 
-// Type and value of one RDN, checked as far as every decoder checks them.
-struct Attribute {
-  TypeText type;
-  Element value;
-
-  bool Read(ByteView rdn) {
-    Status status = Status::kOk;
-    AttributeElements elements;
-    if (!SplitRdn(rdn, &elements, &status)) return false;
-    for (const Element& child : elements.child) {
-      if (StandsAlone(child) != Status::kOk) return false;
-      if (!IsType(child)) {
-        value = child;
-      } else if (!DecodeAttrOid(child, &type)) {
-        return false;
-      }
-    }
-    return true;
-  }
-};
-
-// Calls `use` with each attribute of a name; false where the bytes are no name.
+// Calls `use` with the bytes of each RDN until it returns false; false then, and where the bytes
+// are no name. The empty object has none.
 template <typename Use>
-bool ForEachAttribute(const X509Name& name, Use use) {
+bool ForEachRdn(const X509Name& name, Use use) {
   if (name.cbData == 0) return true;
   ElementReader reader{ByteView(name)};
   for (Element rdn; reader.Next(&rdn);) {
-    Attribute attribute;
-    if (!attribute.Read(rdn.bytes)) return false;
-    use(attribute);
+    if (!use(rdn.bytes)) return false;
   }
   return !reader.fault();
 }
@@ -58,18 +36,23 @@ class Keys {
  public:
   bool Read(const X509Name& name) {
     text_.reserve(name.cbData);
-    return ForEachAttribute(name, [this](const Attribute& attribute) { Add(attribute); });
+    return ForEachRdn(name, [this](ByteView rdn) {
+      DecodedAttribute attribute;
+      if (!ReadAttribute(rdn, &attribute)) return false;
+      Add(attribute);
+      return true;
+    });
   }
 
   void Sort() {
-    std::sort(ends_.begin(), ends_.end(), [this](const Span& a, const Span& b) {
+    std::sort(spans_.begin(), spans_.end(), [this](const Span& a, const Span& b) {
       return View(a) < View(b);
     });
   }
 
   friend bool operator==(const Keys& a, const Keys& b) {
     return std::equal(
-        a.ends_.begin(), a.ends_.end(), b.ends_.begin(), b.ends_.end(),
+        a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
         [&](const Span& x, const Span& y) { return a.View(x) == b.View(y); });
   }
 
@@ -79,18 +62,21 @@ class Keys {
     size_t length;
   };
 
-  void Add(const Attribute& attribute) {
+  void Add(const DecodedAttribute& attribute) {
     const size_t start = text_.size();
     AppendAscii(attribute.type.dotted(), &text_);
     const size_t value = text_.size();
     text_.push_back(L'=');
-    if (!DecodeAttrData(attribute.value, &text_)) {
+    AsciiValue ascii;
+    if (ascii.Decode(attribute.value)) {
+      AppendAscii(ascii.text(), &text_);
+    } else if (!DecodeAttrData(attribute.value, &text_)) {
       text_.resize(value);
       text_.push_back(L'#');
       const ByteView octets = attribute.value.bytes;
       text_.append(octets.begin(), octets.end());
     }
-    ends_.push_back({start, text_.size() - start});
+    *spans_.Extend(1) = {start, text_.size() - start};
   }
 
   std::wstring_view View(const Span& span) const {
@@ -98,11 +84,20 @@ class Keys {
   }
 
   std::wstring text_;
-  std::vector<Span> ends_;
+  SmallBuffer<Span, 32> spans_;
 };
 
+// An RDN of the usual shape with a type of the table can be read without looking further.
 bool IsReadable(const X509Name& name) {
-  return ForEachAttribute(name, [](const Attribute&) {});
+  return ForEachRdn(name, [](ByteView rdn) {
+    AttributeElements plain;
+    if (SplitPlainRdn(rdn, &plain)) {
+      const Element& type = plain.child[0];
+      if (FindAttributeByDer({type.header.content, type.header.length}) != nullptr) return true;
+    }
+    DecodedAttribute attribute;
+    return ReadAttribute(rdn, &attribute);
+  });
 }
 
 // False in the result's stead is left to the caller where a name cannot be read.

@@ -8,6 +8,10 @@
 
 #include "foundation/ascii.h"
 #include "foundation/untyped_failure.h"
+#include "foundation/utf16.h"
+#include "names/decoder/attribute_elements.h"
+#include "names/decoder/attribute_walk.h"
+#include "names/decoder/value_text.h"
 #include "names/model/name_text.h"
 
 namespace Ortholan {
@@ -55,25 +59,48 @@ bool ReadSimpleRdn(const X509Name& name, const char* oid, Text* out) {
   return attr != nullptr;
 }
 
-SimpleRDN PairOf(const CERT_RDN_ATTR& attr) {
-  SimpleRDN pair;
-  pair.key = attr.pszObjId;
-  X509Name::GetRDNAttrValueString(attr, pair.value);
-  return pair;
+// The value's text as the platform renders it from the tree's form. ASCII is itself in every code
+// page and is not handed over.
+void ReadPairValue(const Element& value, CZEPString* out) {
+  AsciiValue ascii;
+  if (ascii.Decode(value)) {
+    const std::string_view text = ascii.text();
+    *out = CZEPString(text.data(), text.substr(0, text.find('\0')).size());
+    return;
+  }
+  std::wstring wide;
+  CERT_RDN_ATTR attr = {};
+  std::vector<BYTE> bytes;
+  if (DecodeAttrData(value, &wide)) {
+    // A terminator, which the platform looks for.
+    bytes.resize(2 * wide.size() + 2);
+    WriteUtf16Le(wide, bytes.data());
+    attr.dwValueType = CERT_RDN_UNICODE_STRING;
+  } else {
+    bytes.assign(value.bytes.begin(), value.bytes.end());
+    attr.dwValueType = CERT_RDN_ENCODED_BLOB;
+  }
+  attr.Value = {static_cast<DWORD>(bytes.size()), bytes.data()};
+  X509Name::GetRDNAttrValueString(attr, *out);
 }
 
 // Replaces `pairs` by the name's; unchanged where the bytes are no name.
 template <typename Pairs>
 bool ReadPairs(const X509Name& name, Pairs* pairs) {
   Pairs found;
-  if (name.cbData != 0) {
-    FirstAttributes attributes;
-    if (!attributes.Decode(name)) return false;
-    if constexpr (std::is_same_v<Pairs, std::vector<SimpleRDN>>) {
-      found.reserve(attributes.info().cRDN);
-    }
-    attributes.ForEach([&](const CERT_RDN_ATTR& attr) { found.push_back(PairOf(attr)); });
+  Fault fault;
+  const auto append = [&found](const DecodedAttribute& attribute) {
+    found.emplace_back();
+    const std::string_view oid = attribute.type.dotted();
+    found.back().key = CZEPString(oid.data(), oid.size());
+    ReadPairValue(attribute.value, &found.back().value);
+    return true;
+  };
+  if constexpr (std::is_same_v<Pairs, std::vector<SimpleRDN>>) {
+    size_t count = 0;
+    if (CountChildren(ByteView(name), &count) == Status::kOk) found.reserve(count);
   }
+  if (name.cbData != 0 && !ForEachAttribute(ByteView(name), &fault, append)) return false;
   pairs->swap(found);
   return true;
 }
