@@ -27,6 +27,19 @@ ElementReader::ElementReader(ByteView buffer) : buffer_(buffer) {
   indefinite_ = true;
 }
 
+ElementReader::ElementReader(const Element& element) : buffer_(element.bytes) {
+  const ElementHeader& header = element.header;
+  if (header.constructed == 0) {
+    // The terminator of a primitive indefinite form is no part of its own bytes.
+    const bool alone = !header.indefinite;
+    Fail(alone ? Status::kBadTag : Status::kCorrupt, alone ? kSplitFault : kHeaderFault);
+    return;
+  }
+  position_ = static_cast<size_t>(header.content - buffer_.data);
+  end_ = buffer_.size;
+  indefinite_ = header.indefinite;
+}
+
 bool ElementReader::AddIndefiniteContent(ByteView rest, size_t* size) {
   size_t length = 0;
   if (const Fault fault = MeasureIndefinite(rest.From(*size), true, &length)) {

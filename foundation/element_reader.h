@@ -25,6 +25,8 @@ class ElementReader {
   // follows the element is not looked at, except that a child's header may be read from there
   // before the child is refused for passing its parent's end.
   explicit ElementReader(ByteView buffer);
+  // The same for a child that another reader found: its header is known and its size measured.
+  explicit ElementReader(const Element& element);
 
   // The next child; false after the last one and on failure.
   bool Next(Element* child) {

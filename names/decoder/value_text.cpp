@@ -25,10 +25,10 @@ bool AppendValue(const Element& value, unsigned depth, std::wstring* text);
 // Calls `use` with each child. All children are found before the first one is decoded.
 template <typename Use>
 bool ForEachChild(const Element& sequence, Use use) {
-  size_t count = 0;
-  const Status status = CountChildren(sequence.bytes, &count);
-  if (status != Status::kOk) return FailWith(status);
-  ElementReader reader(sequence.bytes);
+  ElementReader scan(sequence);
+  for (Element child; scan.Next(&child);) continue;
+  if (scan.fault()) return FailWith(scan.fault().status);
+  ElementReader reader(sequence);
   for (Element child; reader.Next(&child);) {
     const Status alone = StandsAlone(child);
     if (alone != Status::kOk) return FailWith(alone);

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/required_text.h"
 #include "foundation/small_buffer.h"
 #include "foundation/untyped_failure.h"
 #include "names/model/name_text.h"
@@ -51,7 +52,9 @@ void ReadValueText(DWORD valueType, CERT_RDN_VALUE_BLOB value, CZEPString* out) 
   const DWORD size = TextSize(valueType, &value);
   if (size == 0) return;
   SmallBuffer<char, 256> text;
-  if (CertRDNValueToStrA(valueType, &value, text.Take(size), size) != 0) *out = text.data();
+  if (CertRDNValueToStrA(valueType, &value, text.Take(size), size) != 0) {
+    *out = RequiredText(text.data());
+  }
 }
 
 }  // namespace
@@ -59,13 +62,13 @@ void ReadValueText(DWORD valueType, CERT_RDN_VALUE_BLOB value, CZEPString* out) 
 void X509Name::QuoteString(const char* src, CZEPString& out) {
   std::string quoted;
   AppendQuoted(TextOf(src), &quoted);
-  out = quoted.c_str();
+  out = RequiredText(quoted);
 }
 
 void X509Name::QuoteString(CZEPString& s) { QuoteString(s.c_str(), s); }
 
 void X509Name::UnquoteString(const char* src, CZEPString& out) {
-  out = Unquoted(TextOf(src)).c_str();
+  out = RequiredText(Unquoted(TextOf(src)));
 }
 
 void X509Name::UnquoteString(CZEPString& s) { UnquoteString(s.c_str(), s); }
@@ -74,7 +77,7 @@ void X509Name::FormatRDNAttr(const char* key, const char* value, CZEPString& out
   std::string text(TextOf(key));
   text.push_back('=');
   AppendQuoted(TextOf(value), &text);
-  out = text.c_str();
+  out = RequiredText(text);
 }
 
 void X509Name::MakeRDNAttr(const char* key, const char* value, RDNAttr& out) {

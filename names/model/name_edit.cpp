@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "foundation/ascii.h"
+#include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
 #include "foundation/utf16.h"
 #include "names/decoder/attribute_elements.h"
@@ -65,7 +66,7 @@ void ReadPairValue(const Element& value, CZEPString* out) {
   AsciiValue ascii;
   if (ascii.Decode(value)) {
     const std::string_view text = ascii.text();
-    *out = CZEPString(text.data(), text.substr(0, text.find('\0')).size());
+    *out = RequiredText(text.substr(0, text.find('\0')));
     return;
   }
   std::wstring wide;
@@ -91,8 +92,7 @@ bool ReadPairs(const X509Name& name, Pairs* pairs) {
   Fault fault;
   const auto append = [&found](const DecodedAttribute& attribute) {
     found.emplace_back();
-    const std::string_view oid = attribute.type.dotted();
-    found.back().key = CZEPString(oid.data(), oid.size());
+    found.back().key = RequiredText(attribute.type.dotted());
     ReadPairValue(attribute.value, &found.back().value);
     return true;
   };

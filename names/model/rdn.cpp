@@ -1,6 +1,8 @@
 #include <ortholan/name_encoder.h>
 #include <ortholan/rdn.h>
 
+#include "foundation/required_text.h"
+
 namespace Ortholan {
 
 RDNAttr::RDNAttr() = default;
@@ -11,10 +13,14 @@ RDNAttr& RDNAttr::operator=(RDNAttr&&) noexcept = default;
 RDNAttr::~RDNAttr() = default;
 
 RDNAttr::RDNAttr(const CERT_RDN_ATTR& attr)
-    : oid(attr.pszObjId), valueType(attr.dwValueType), value(attr.Value) {}
+    : oid(RequiredText(attr.pszObjId != nullptr ? attr.pszObjId : "")),
+      valueType(attr.dwValueType),
+      value(attr.Value) {}
 
 RDNAttr::RDNAttr(const char* attrOid, unsigned long attrValueType, const IdentObj& attrValue)
-    : oid(attrOid), valueType(static_cast<DWORD>(attrValueType)), value(attrValue) {}
+    : oid(RequiredText(attrOid != nullptr ? attrOid : "")),
+      valueType(static_cast<DWORD>(attrValueType)),
+      value(attrValue) {}
 
 RDNAttr& RDNAttr::operator=(const CERT_RDN_ATTR& attr) {
   SetBy(attr);
@@ -25,7 +31,8 @@ void RDNAttr::SetBy(const CERT_RDN_ATTR& attr) { *this = RDNAttr(attr); }
 
 SimpleRDN::SimpleRDN() = default;
 SimpleRDN::SimpleRDN(const char* keyText, const char* valueText)
-    : key(keyText), value(valueText) {}
+    : key(RequiredText(keyText != nullptr ? keyText : "")),
+      value(RequiredText(valueText != nullptr ? valueText : "")) {}
 SimpleRDN::SimpleRDN(const SimpleRDN&) = default;
 SimpleRDN::SimpleRDN(SimpleRDN&&) noexcept = default;
 SimpleRDN& SimpleRDN::operator=(const SimpleRDN&) = default;

@@ -6,6 +6,7 @@
 #include <ortholan/name_encoder.h>
 
 #include "foundation/code_page.h"
+#include "foundation/required_text.h"
 #include "foundation/status_code.h"
 #include "foundation/untyped_failure.h"
 #include "names/decoder/name_renderer.h"
@@ -185,7 +186,7 @@ bool X509Name::TryGetX500String(std::string& out, unsigned long options) const {
 bool X509Name::TryGetX500String(CZEPString& out, unsigned long options) const {
   std::string text;
   if (!RenderNarrow(*this, options, &text)) return false;
-  out = text.c_str();
+  out = RequiredText(text);
   return true;
 }
 
