@@ -1,0 +1,61 @@
+#include "examples/arguments.h"
+
+#include "examples/failure.h"
+#include "examples/text.h"
+
+namespace Example {
+namespace {
+
+const Option& FindOption(const std::string& name, const Option* options) {
+  for (; options->name != nullptr; ++options) {
+    if (name == options->name) return *options;
+  }
+  throw UsageError{"there is no option " + name};
+}
+
+}  // namespace
+
+Arguments::Arguments(const std::vector<std::string>& all, std::size_t first,
+                     const Option* options) {
+  bool optionsEnded = false;
+  for (std::size_t i = first; i < all.size(); ++i) {
+    const std::string& argument = all[i];
+    if (optionsEnded || argument.compare(0, 2, "--") != 0) {
+      operands.push_back(argument);
+    } else if (argument.size() == 2) {
+      optionsEnded = true;
+    } else {
+      const std::size_t equals = argument.find('=');
+      const std::string name = argument.substr(0, equals);
+      const Option& option = FindOption(name, options);
+      if (equals != std::string::npos) {
+        if (!option.takesValue) throw UsageError{name + " takes no value"};
+        values_[name] = argument.substr(equals + 1);
+      } else if (!option.takesValue) {
+        values_[name].clear();
+      } else if (++i < all.size()) {
+        values_[name] = all[i];
+      } else {
+        throw UsageError{name + " needs a value"};
+      }
+    }
+  }
+}
+
+bool Arguments::Has(const char* option) const { return values_.count(option) != 0; }
+
+std::optional<std::string> Arguments::Value(const char* option) const {
+  const auto found = values_.find(option);
+  if (found == values_.end()) return std::nullopt;
+  return found->second;
+}
+
+Ortholan::DWORD Arguments::Number(const char* option, Ortholan::DWORD byDefault) const {
+  const std::optional<std::string> text = Value(option);
+  if (!text) return byDefault;
+  const std::optional<Ortholan::DWORD> number = ParseNumber(*text);
+  if (!number) throw UsageError{std::string(option) + " needs a number below 2^32, not " + *text};
+  return *number;
+}
+
+}  // namespace Example

@@ -1,0 +1,37 @@
+// Taking certificates out of files and apart, with the library's ASN.1 routines alone.
+#ifndef ORTHOLAN_EXAMPLES_CERTIFICATE_H_
+#define ORTHOLAN_EXAMPLES_CERTIFICATE_H_
+
+#include <ortholan/ident_obj.h>
+
+#include <cstddef>
+#include <functional>
+#include <list>
+#include <string>
+
+namespace Example {
+
+// What RFC 5280 4.1 puts into a certificate and this program shows.
+struct Certificate {
+  Ortholan::IdentObj issuer;
+  Ortholan::IdentObj subject;
+  std::list<Ortholan::IdentObj> extensions;  // one record each
+};
+
+// Calls `found` with the number, from 1, and the octets of each certificate in a file: PEM blocks,
+// other blocks and the text around them left out, or DER, one certificate behind the other. A place
+// that cannot be read as either goes to `bad` with its number and a description, and the next
+// follows. Returns how many there were, good and bad.
+std::size_t ForEachCertificate(const std::string& file,
+                               const std::function<void(std::size_t, const std::string&)>& found,
+                               const std::function<void(std::size_t, const std::string&)>& bad);
+
+// Throws Failure for octets that are no certificate.
+Certificate ReadCertificate(const std::string& der);
+
+// The children of a constructed element; throws Failure, with `what`, where it is none.
+std::list<Ortholan::IdentObj> Children(const Ortholan::IdentObj& element, const char* what);
+
+}  // namespace Example
+
+#endif  // ORTHOLAN_EXAMPLES_CERTIFICATE_H_

@@ -1,0 +1,166 @@
+// survey: what becomes of real names on the way from DER to text to DER to text.
+
+#include <ortholan/name_decoder.h>
+#include <ortholan/name_encoder.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <list>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "examples/certificate.h"
+#include "examples/commands.h"
+#include "examples/failure.h"
+#include "examples/input.h"
+#include "examples/name_view.h"
+#include "examples/text.h"
+
+namespace Example {
+
+using namespace Ortholan;
+
+namespace {
+
+constexpr DWORD kShortKeys = CERT_X500_NAME_STR;
+constexpr DWORD kIdentifiers = CERT_OID_NAME_STR;
+
+bool EncodeText(const std::wstring& text, IdentObj& der) {
+  X500NameEncoder encoder;
+  encoder.SetEncoderOptions(CERT_NAME_STR_ENABLE_UTF8_UNICODE_FLAG);
+  return encoder.Encode(text, der, false);
+}
+
+bool DecodeText(const IdentObj& der, std::wstring& text) {
+  X500NameDecoder decoder;
+  return decoder.Decode(der, text, kShortKeys);
+}
+
+std::wstring Quoted(const std::wstring& value) {
+  std::wstring quoted = L"\"";
+  for (const wchar_t unit : value) {
+    if (unit == L'"') quoted += unit;
+    quoted += unit;
+  }
+  return quoted + L"\"";
+}
+
+// Whether the encoder writes an attribute with that type and value.
+bool Takes(const std::wstring& type, const std::wstring& value) {
+  IdentObj der;
+  return EncodeText(type + L"=" + Quoted(value), der);
+}
+
+// The first attribute of a decoded name that the encoder does not write, and why: it is asked for
+// each, first with a value that suits every type, then with the attribute's own.
+std::string WhyNotEncoded(const IdentObj& name) {
+  X500NameDecoder decoder;
+  std::list<std::pair<std::wstring, std::list<std::wstring>>> pairs;
+  if (!decoder.Decode(name, pairs, kIdentifiers)) return "values that have no list of texts";
+  if (pairs.empty()) return "a name without attributes";
+  for (const auto& [type, values] : pairs) {
+    if (!Takes(type, L"x")) return "an attribute type that the encoder does not write";
+    std::wstring value;
+    for (const std::wstring& line : values) value += (value.empty() ? L"" : L"\n") + line;
+    if (value.empty()) return "an empty value";
+    if (!Takes(type, value)) return "a value outside the alphabet of its type";
+  }
+  return "the form of the text";
+}
+
+class Survey {
+ public:
+  void CountName(const IdentObj& name);
+  void CountCertificate(const std::string& der);
+  void CountBad() { ++bad_; }
+  void PrintResult() const;
+
+ private:
+  using Reasons = std::map<std::string, std::size_t>;
+
+  static void PrintCount(const char* indent, const std::string& what, std::size_t count);
+  static void PrintReasons(const char* title, const Reasons& reasons);
+
+  std::size_t certificates_ = 0;
+  std::size_t bad_ = 0;
+  std::size_t names_ = 0;
+  std::size_t decoded_ = 0;
+  std::size_t unchanged_ = 0;
+  std::size_t changed_ = 0;
+  Reasons refusedText_;
+  Reasons refusedDer_;
+};
+
+void Survey::CountName(const IdentObj& name) {
+  ++names_;
+  const NameText original = ReadNameText(name);
+  if (!original.accepted) {
+    ++refusedDer_[original.reason];
+    return;
+  }
+  ++decoded_;
+  IdentObj der;
+  std::wstring again;
+  if (!EncodeText(original.text, der)) {
+    ++refusedText_[WhyNotEncoded(name)];
+  } else if (DecodeText(der, again) && again == original.text) {
+    ++unchanged_;
+  } else {
+    ++changed_;
+  }
+}
+
+void Survey::CountCertificate(const std::string& der) {
+  Certificate certificate;
+  try {
+    certificate = ReadCertificate(der);
+  } catch (const Failure&) {
+    CountBad();
+    return;
+  }
+  ++certificates_;
+  CountName(certificate.subject);
+  CountName(certificate.issuer);
+}
+
+void Survey::PrintCount(const char* indent, const std::string& what, std::size_t count) {
+  char line[128];
+  const int width = 60 - static_cast<int>(std::string(indent).size());
+  std::snprintf(line, sizeof line, "%s%-*s %7zu\n", indent, width, what.c_str(), count);
+  Print(line);
+}
+
+void Survey::PrintReasons(const char* title, const Reasons& reasons) {
+  std::size_t total = 0;
+  for (const auto& [reason, count] : reasons) total += count;
+  PrintCount("  ", title, total);
+  for (const auto& [reason, count] : reasons) PrintCount("      ", reason, count);
+}
+
+void Survey::PrintResult() const {
+  PrintCount("", "certificates", certificates_);
+  if (bad_ != 0) PrintCount("", "  and such that cannot be read", bad_);
+  PrintCount("", "names (subjects and issuers)", names_);
+  PrintCount("  ", "decoded", decoded_);
+  PrintCount("  ", "went text to DER to text unchanged", unchanged_);
+  PrintCount("  ", "came back as another text", changed_);
+  PrintReasons("decoded, but the encoder refused the text:", refusedText_);
+  PrintReasons("refused by the decoder:", refusedDer_);
+}
+
+}  // namespace
+
+int RunSurvey(const Arguments& arguments) {
+  Survey survey;
+  for (const std::string& path : arguments.operands) {
+    ForEachCertificate(
+        ReadOctets(path),
+        [&survey](std::size_t, const std::string& der) { survey.CountCertificate(der); },
+        [&survey](std::size_t, const std::string&) { survey.CountBad(); });
+  }
+  survey.PrintResult();
+  return 0;
+}
+
+}  // namespace Example

@@ -1,0 +1,127 @@
+#include "examples/text.h"
+
+#include <ortholan/der_helper.h>
+#include <ortholan/name_decoder.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+#include "examples/failure.h"
+
+namespace Example {
+
+using namespace Ortholan;
+
+std::wstring FromUtf8(const std::string& text) {
+  if (text.empty()) return {};
+  if (text.size() > std::numeric_limits<int>::max()) Fail(ERROR_INVALID_PARAMETER, "text too long");
+  if (MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), static_cast<int>(text.size()),
+                          nullptr, 0) == 0) {
+    Fail(GetLastError(), "the text is not UTF-8");
+  }
+  return DerHelper::ToWString(text, CP_UTF8);
+}
+
+std::string ToUtf8(const std::wstring& text) { return DerHelper::ToString(text, CP_UTF8); }
+
+namespace {
+
+struct Range {
+  wchar_t first, last;
+};
+// Controls, line and paragraph separators, embeddings, overrides and isolates.
+constexpr Range kHidden[] = {
+    {0x0000, 0x001F}, {0x007F, 0x009F}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
+
+bool IsHidden(wchar_t unit) {
+  return std::any_of(std::begin(kHidden), std::end(kHidden), [unit](const Range& range) {
+    return unit >= range.first && unit <= range.last;
+  });
+}
+
+}  // namespace
+
+std::string Visible(const std::wstring& text) {
+  std::wstring shown;
+  shown.reserve(text.size());
+  for (const wchar_t unit : text) {
+    if (IsHidden(unit)) {
+      const auto value = static_cast<unsigned>(unit);
+      shown += L"\\u" + X500NameDecoder::ToHex(static_cast<unsigned char>(value >> 8)) +
+               X500NameDecoder::ToHex(static_cast<unsigned char>(value & 0xFF));
+    } else {
+      shown += unit;
+    }
+  }
+  return ToUtf8(shown);
+}
+
+std::string Hex(const IdentObj& bytes) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string text;
+  text.reserve(std::size_t{2} * bytes.cbData);
+  for (DWORD i = 0; i < bytes.cbData; ++i) {
+    text += kDigits[bytes.pbData[i] >> 4];
+    text += kDigits[bytes.pbData[i] & 0x0F];
+  }
+  return text;
+}
+
+std::string SpacedHex(const IdentObj& bytes) {
+  std::wstring text;
+  X500NameDecoder::BlobToString(bytes, text);
+  return ToUtf8(text);
+}
+
+bool IsBlank(char character) {
+  return character == ' ' || (character >= '\t' && character <= '\r');
+}
+
+namespace {
+
+// The value of a hexadecimal digit, -1 for any other character.
+int DigitValue(char character) {
+  if (character >= '0' && character <= '9') return character - '0';
+  if (character >= 'A' && character <= 'F') return character - 'A' + 10;
+  if (character >= 'a' && character <= 'f') return character - 'a' + 10;
+  return -1;
+}
+
+}  // namespace
+
+bool IsHexDigit(char character) { return DigitValue(character) >= 0; }
+
+std::optional<std::string> FromHex(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size() / 2);
+  int high = -1;
+  for (const char character : text) {
+    if (IsBlank(character)) continue;
+    const int value = DigitValue(character);
+    if (value < 0) return std::nullopt;
+    if (high < 0) {
+      high = value;
+    } else {
+      bytes += static_cast<char>(high * 16 + value);
+      high = -1;
+    }
+  }
+  if (high >= 0) return std::nullopt;
+  return bytes;
+}
+
+std::optional<DWORD> ParseNumber(const std::string& text) {
+  // strtoul would take white space and a sign.
+  if (text.empty() || text[0] < '0' || text[0] > '9') return std::nullopt;
+  char* end = nullptr;
+  errno = 0;
+  const unsigned long value = std::strtoul(text.c_str(), &end, 0);
+  if (errno != 0 || end != text.c_str() + text.size()) return std::nullopt;
+  if (value > std::numeric_limits<DWORD>::max()) return std::nullopt;
+  return static_cast<DWORD>(value);
+}
+
+}  // namespace Example

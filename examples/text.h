@@ -1,0 +1,39 @@
+// Text as the command line has it (UTF-8) and as the library has it (UTF-16, a unit a wchar_t).
+#ifndef ORTHOLAN_EXAMPLES_TEXT_H_
+#define ORTHOLAN_EXAMPLES_TEXT_H_
+
+#include <ortholan/ident_obj.h>
+#include <ortholan/platform.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Example {
+
+// Fails with the platform's code for text that is not UTF-8, where a plain conversion would put
+// U+FFFD into a name.
+std::wstring FromUtf8(const std::string& text);
+// A surrogate without its partner becomes U+FFFD.
+std::string ToUtf8(const std::wstring& text);
+
+// For a person's eyes, in UTF-8: control characters, line ends among them, and those that turn the
+// direction of writing are shown as \uXXXX, so that no certificate can forge a line of the output.
+std::string Visible(const std::wstring& text);
+
+// Upper-case hexadecimal digits, without and with blanks between the octets.
+std::string Hex(const Ortholan::IdentObj& bytes);
+std::string SpacedHex(const Ortholan::IdentObj& bytes);
+
+// The octets of an even number of hexadecimal digits with white space anywhere among them; nothing
+// for any other text.
+std::optional<std::string> FromHex(std::string_view text);
+bool IsHexDigit(char character);
+bool IsBlank(char character);
+
+// A number below 2^32 in C notation: decimal, 0x or octal.
+std::optional<Ortholan::DWORD> ParseNumber(const std::string& text);
+
+}  // namespace Example
+
+#endif  // ORTHOLAN_EXAMPLES_TEXT_H_

@@ -1,0 +1,64 @@
+# shellcheck shell=bash
+# Text to DER. Expected octets are worked out by hand from X.690, or cut out of what OpenSSL made.
+
+alpha=3010310E300C06035504031305416C706861
+given=302B310E300C06035504031305416C706861310C300A060355040A13034F7267310B3009060355040613025255
+sorted=302B310B3009060355040613025255310C300A060355040A13034F7267310E300C06035504031305416C706861
+line=$'\n'
+
+row "one attribute" 0 "$alpha$line" "" encode 'CN=Alpha'
+row "order as given" 0 "$given$line" "" encode 'CN=Alpha, O=Org, C=RU'
+row "canonical order" 0 "$sorted$line" "" encode --sort 'CN=Alpha, O=Org, C=RU'
+row "options behind the text" 0 "$sorted$line" "" encode 'CN=Alpha, O=Org, C=RU' --sort
+row "text behind --" 0 "$alpha$line" "" encode -- 'CN=Alpha'
+row "type as dotted identifier" 0 "$alpha$line" "" encode '2.5.4.3 = Alpha'
+row "keyword in another letter case" 0 "$alpha$line" "" encode 'cn=Alpha'
+
+# OpenSSL's subjects of bmp.pem and cyrillic.pem.
+row "Cyrillic, BMPString" 0 \
+  "3022310B30090603550406130252553113301106035504031E0A0410043B044C04440430$line" "" \
+  encode 'C=RU,CN=Альфа'
+row "Cyrillic, UTF8String, quotes and a comma" 0 \
+  "3074310B30090603550406130252553115301306035504070C0CD09CD0BED181D0BAD0B2D0B0312E302C060355040A0C25D09ED09ED09E2022D0A0D0BED0BCD0B0D188D0BAD0B0222C20D09CD0BED181D0BAD0B2D0B0311E301C06035504030C15D098D0B2D0B0D0BDD0BED0B220D098D0B2D0B0D0BD$line" "" \
+  encode --options 0x40000 'C=RU,L=Москва,O="ООО ""Ромашка"", Москва",CN=Иванов Иван'
+row "outside the basic plane, surrogates" 0 "300F310D300B06035504031E04D83DDE00$line" "" \
+  encode 'CN=😀'
+row "outside the basic plane, UTF-8" 0 "300F310D300B06035504030C04F09F9880$line" "" \
+  encode --options 0x40000 'CN=😀'
+
+# The two bits of free text: 30 10 31 0E 30 0C 06 03 55 04 03 0C 05 ...
+row "UTF8String for all free text" 0 "3010310E300C06035504030C05416C706861$line" "" \
+  encode --options 0x140000 'CN=Alpha'
+row "options in decimal" 0 "3010310E300C06035504030C05416C706861$line" "" \
+  encode --options=1310720 'CN=Alpha'
+row "options in octal" 0 "3010310E300C06035504030C05416C706861$line" "" \
+  encode --options 05000000 'CN=Alpha'
+# «a,b» is printable: 30 0E 31 0C 30 0A 06 03 55 04 03 13 03 61 2C 62
+row "semicolon separates alone" 0 "300E310C300A06035504031303612C62$line" "" \
+  encode --options 0x40000000 'CN=a,b'
+# 06 03 55 04 10, then 30 06 of 13 01 61 and 13 01 62
+row "postal address, a string a line" 0 "3011310F300D06035504103006130161130162$line" "" \
+  encode $'POSTALADDRESS="a\nb"'
+
+# Refusals.
+prefix="x509name: encode: the text cannot be encoded"
+form="$prefix \\(not a list of type=value, .+\\)$(code 0)"
+value="$prefix \\(a value that is empty or .+\\)$(code 0)"
+row "empty" 1 "" "$prefix$(code 160)" encode ''
+row "blanks" 1 "" "$form" encode '   '
+row "no equals sign" 1 "" "$form" encode 'CN'
+row "unknown keyword" 1 "" "$form" encode 'XYZ=a'
+row "unknown type of known length, last" 1 "" "$prefix$(code 1326)" encode '2.5.4.42=a'
+row "OID. prefix" 1 "" "$form" encode 'OID.2.5.4.3=a'
+row "backslash does not escape" 1 "" "$form" encode 'CN=a\,b, O=c'
+row "country outside PrintableString" 1 "" "$value" encode 'C=Ru_s'
+row "e-mail outside IA5String" 1 "" "$value" encode 'E=почта'
+row "empty value" 1 "" "$value" encode 'CN='
+
+# Files.
+row "octets into a file" 0 "" "" encode --out alpha.der 'CN=Alpha'
+row "and back" 0 "CN=Alpha$line" "" decode alpha.der
+row "file that cannot be made" 1 "" \
+  "x509name: encode: cannot create nowhere/a\.der$(code 82)" encode --out nowhere/a.der 'CN=Alpha'
+row "file with a Cyrillic name" 0 "" "" encode --out имя.der 'CN=Alpha'
+row "the same file read" 0 "CN=Alpha$line" "" decode имя.der

@@ -1,0 +1,19 @@
+# shellcheck shell=bash
+# The command line itself.
+
+row "help" 0 '~usage: x509name COMMAND .*' "" --help
+row "help of a command" 0 '~usage: x509name COMMAND .*' "" encode --help
+row "no command" 2 "" "x509name: a command is needed; .*"
+row "unknown command" 2 "" "x509name: there is no command frob; .*" frob
+row "unknown option" 2 "" "x509name: there is no option --frob" decode --frob 3000
+row "option of another command" 2 "" "x509name: there is no option --sort" decode --sort 3000
+row "no operand" 2 "" "x509name: usage: x509name encode .*" encode
+row "too many operands" 2 "" "x509name: usage: x509name decode .*" decode 3000 3000
+row "option without a value" 2 "" "x509name: --options needs a value" decode 3000 --options
+row "value where none belongs" 2 "" "x509name: --sort takes no value" encode --sort=yes CN=a
+for number in '' 3x -1 +3 ' 3' 0x 09 0x100000000 99999999999999999999; do
+  row "number «$number»" 2 "" "x509name: --options needs a number below 2\^32, not .*" \
+    decode --options "$number" 3000
+done
+row "largest number" 0 $'\n' "" decode --options 0xFFFFFFFF 3000
+row "line end in a message" 1 "" 'x509name: decode: cannot open a\\u000Ab: .*' decode $'a\nb'

@@ -1,0 +1,21 @@
+# The calls that tests/faults replaces by stand-ins, as the linker knows them.
+set(ORTHOLAN_WRAPPED_CALLS
+  _ZN8Ortholan19MultiByteToWideCharEjjPKciPwi
+  _ZN8Ortholan19WideCharToMultiByteEjjPKwiPciPKcPi
+  _ZN8Ortholan17CryptEncodeObjectEjPKcPKvPhPj
+  _ZN8Ortholan17CryptDecodeObjectEjPKcPKhjjPvPj
+  _ZN8Ortholan18CertRDNValueToStrAEjPNS_15_CRYPTOAPI_BLOBEPcj
+  _ZN8Ortholan18CertRDNValueToStrWEjPNS_15_CRYPTOAPI_BLOBEPwj
+  _ZN8Ortholan20FileTimeToSystemTimeEPKNS_8FILETIMEEPNS_10SYSTEMTIMEE
+  _ZN8Ortholan20SystemTimeToFileTimeEPKNS_10SYSTEMTIMEEPNS_8FILETIMEE
+  _ZN8Ortholan11LoadStringAEPvjPci
+  _ZN8Ortholan17FindAttributeInfoEjPKv
+  _ZN8Ortholan17EncodeStringValueEjPKcmPhm
+  _ZN8Ortholan11StringValue6DecodeEPKhm
+  _ZN8Ortholan8FileOpenEPKcbb
+  _ZN8Ortholan9FileCloseEPv
+  _ZN8Ortholan8FileReadEPvS0_jPj
+  _ZN8Ortholan9FileWriteEPvPKvjPj
+  _ZN8Ortholan8FileSeekEPvm
+  _ZN8Ortholan8FileSizeEPvPm)
+list(TRANSFORM ORTHOLAN_WRAPPED_CALLS PREPEND "LINKER:--wrap=")
