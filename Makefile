@@ -3,14 +3,17 @@
 PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test fuzz bench bench-check docs format package clean
+.PHONY: help demo test fuzz bench bench-check bench-baseline docs format package clean
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
 	@echo 'make test         all tests: native, sanitized, and for Windows through Wine'
 	@echo '                  (PRESETS="native" for a part of them)'
 	@echo 'make fuzz         build the fuzz targets and run each for a while'
-	@echo 'make bench        measure; make bench-check: compare with the recorded figures'
+	@echo 'make bench        measure beside other libraries, some minutes (RECORD=yes: and note it in'
+	@echo '                  docs/performance.md)'
+	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
+	@echo '                  make bench-baseline records anew'
 	@echo 'make docs         reference manual into build/native/docs'
 	@echo 'make format       format the sources'
 	@echo 'make package      archives and a Debian package into build/*/packages'
@@ -32,11 +35,14 @@ fuzz:
 	cmake --build --preset fuzz
 	cmake --build --preset fuzz --target fuzz
 
-bench bench-check:
+bench:
 	@scripts/setup.sh bench
-	cmake --preset bench
-	cmake --build --preset bench
-	cmake --build --preset bench --target $@
+	@scripts/bench.sh $(if $(RECORD),--record)
+
+bench-check bench-baseline:
+	@scripts/setup.sh test
+	@cmake --preset native
+	@cmake --build --preset native --target $@
 
 docs:
 	@scripts/setup.sh docs

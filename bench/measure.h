@@ -60,9 +60,8 @@ void Add(const Case& c, Operation operation) {
         }
         const uint64_t before = AllocationCount();
         for (auto _ : state) benchmark::DoNotOptimize(operation());
-        state.counters["allocs"] =
-            benchmark::Counter(static_cast<double>(AllocationCount() - before),
-                               benchmark::Counter::kAvgIterations);
+        state.counters["allocs"] = benchmark::Counter(
+            static_cast<double>(AllocationCount() - before), benchmark::Counter::kAvgIterations);
         state.SetItemsProcessed(static_cast<int64_t>(state.iterations()));
       });
   if (c.threads) added->Threads(1)->Threads(2)->UseRealTime();
@@ -88,6 +87,7 @@ inline constexpr char kLargeToText[] = "value of 1 MB, DER to text";
 inline constexpr char kManyToDer[] = "10,000 attributes, text to DER";
 inline constexpr char kManyToText[] = "10,000 attributes, DER to text";
 inline constexpr char kGeneralName[] = "DNS general name to text";
+inline constexpr char kGeneralNameDer[] = "DNS general name, DER to text";
 inline constexpr char kRegisteredId[] = "registered ID general name to text";
 inline constexpr char kReadExtension[] = "extension record, read";
 inline constexpr char kWriteExtension[] = "extension record, write";

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 
 namespace Bench {
 namespace {
@@ -13,6 +12,12 @@ std::string Base128(uint32_t arc) {
   std::string octets(1, static_cast<char>(arc & 0x7F));
   while ((arc >>= 7) != 0) octets.insert(octets.begin(), static_cast<char>(0x80 | (arc & 0x7F)));
   return octets;
+}
+
+std::string_view KeywordOf(const Attribute& attribute, const TextForm& form) {
+  if (attribute.keyword == "S") return form.state;
+  if (attribute.keyword == "L") return form.locality;
+  return attribute.keyword;
 }
 
 }  // namespace
@@ -33,9 +38,8 @@ Attributes ManyAttributes(size_t count) {
   for (size_t i = 0; i < count; ++i) {
     many.push_back(six[i % six.size()]);
     if (many.back().oid == kCountryOid) continue;
-    char number[16];
-    std::snprintf(number, sizeof(number), " %06zu", i);
-    many.back().value += number;
+    const std::string number = std::to_string(i);
+    many.back().value += ' ' + std::string(6 - number.size(), '0') + number;
   }
   return many;
 }
@@ -43,7 +47,7 @@ Attributes ManyAttributes(size_t count) {
 Attributes LargeValue(size_t size) {
   std::string value(size, ' ');
   for (size_t i = 0; i < size; ++i) value[i] = static_cast<char>('a' + i % 26);
-  return {{"description", "2.5.4.13", value}};
+  return {{"O", "2.5.4.10", value}};
 }
 
 Attributes LargeCyrillicValue(size_t size) {
@@ -53,7 +57,7 @@ Attributes LargeCyrillicValue(size_t size) {
     value += '\xD0';
     value += static_cast<char>(0xB0 + i % 16);
   }
-  return {{"description", "2.5.4.13", value}};
+  return {{"O", "2.5.4.10", value}};
 }
 
 std::string Element(char tag, std::string_view content) {
@@ -99,13 +103,9 @@ std::string ToText(const Attributes& attributes, const TextForm& form) {
   std::string text;
   const auto append = [&](const Attribute& attribute) {
     if (!text.empty()) text += form.separator;
-    if (form.dotted) {
-      text += attribute.oid;
-    } else {
-      text += attribute.keyword == "S" ? form.state : attribute.keyword;
-    }
+    text += KeywordOf(attribute, form);
     text += form.equals;
-    text += attribute.value;
+    text += form.quoted ? '"' + attribute.value + '"' : attribute.value;
   };
   if (form.reversed) {
     std::for_each(attributes.rbegin(), attributes.rend(), append);

@@ -20,9 +20,10 @@ using Attributes = std::vector<Attribute>;
 
 // C=RU, S=Moscow, L=Moscow, O=Example Organisation, OU=Department of Names, CN=Ivan Petrov
 Attributes SixAttributes();
-// The six over and over, with a number of six digits in each value but the country's.
+// The six over and over, with a number of six digits in each value but the country's; below a
+// million.
 Attributes ManyAttributes(size_t count);
-// One description of `size` letters.
+// One organisation of `size` letters, past every limit that X.520 sets.
 Attributes LargeValue(size_t size);
 // The same in Cyrillic, `size` octets in UTF-8.
 Attributes LargeCyrillicValue(size_t size);
@@ -37,9 +38,11 @@ std::string ToDer(const Attributes& attributes, char tag = kPrintableString);
 struct TextForm {
   std::string_view equals = "=";
   std::string_view separator = ",";
-  std::string_view state = "S";  // keyword of the state or province
+  // Keywords that not everybody writes alike.
+  std::string_view state = "S";
+  std::string_view locality = "L";
   bool reversed = false;
-  bool dotted = false;  // identifiers in place of keywords
+  bool quoted = false;
 };
 std::string ToText(const Attributes& attributes, const TextForm& form);
 

@@ -1,7 +1,7 @@
 // The library on what its peers do as well.
 #include <ortholan/ortholan.h>
 
-#include <list>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -22,7 +22,7 @@ constexpr char kTree[] = "Ortholan tree";
 constexpr char kSimpleList[] = "Ortholan simple RDNs";
 
 void AddTextToDer(const char* work, const Attributes& attributes) {
-  const std::string text = ToText(attributes, {"=", ", ", "S", false, attributes.size() == 1});
+  const std::string text = ToText(attributes, {"=", ", "});
   const std::wstring wide = Widen(text);
   const std::string der = ToDer(attributes);
   Add({work, kWide, [=] { return Bytes(EncodeText(wide)) == der; }, der.size()},
@@ -34,7 +34,6 @@ void AddTextToDer(const char* work, const Attributes& attributes) {
 void AddDerToText(const char* work, const Attributes& attributes) {
   const IdentObj der = Blob(ToDer(attributes));
   const X509Name name(der);
-  // The platform's name for the type, where a single large value is.
   const std::string text = ToText(attributes, {});
   const std::wstring wide = Widen(text);
   Add({work, kWide, [=] { return DecodeText(der) == wide; }, wide.size() * sizeof(wchar_t)},
@@ -77,24 +76,27 @@ void AddGeneralNames() {
   } rows[] = {{kGeneralName, DnsNameDer(), kDnsName},
               {kRegisteredId, RegisteredIdDer(), kRegisteredOid}};
   for (const auto& row : rows) {
-    const GeneralName name = GeneralName::DerDecode(Blob(row.der));
+    const auto name = std::make_shared<GeneralName>(GeneralName::DerDecode(Blob(row.der)));
     const std::wstring text = Widen(row.text);
-    Add({row.work, kWide, [=] { return GeneralName(name).ToString(0, 0) == text; }},
-        [=]() mutable { return name.ToString(0, 0); });
+    Add({row.work, kWide, [=] { return name->ToString(0, 0) == text; }},
+        [=] { return name->ToString(0, 0); });
   }
+  const IdentObj der = Blob(DnsNameDer());
+  const auto print = [der] { return GeneralName::DerDecode(der).ToString(0, 0); };
+  Add({kGeneralNameDer, kWide, [=] { return print() == Widen(kDnsName); }}, print);
 }
 
 void AddExtension() {
   const std::string record = ExtensionRecord();
-  const CertExtension extension = ReadExtension(record);
+  const auto extension = std::make_shared<CertExtension>(ReadExtension(record));
   Add({kReadExtension, kWide,
        [=] {
-         return Bytes(extension.oid) == kExtensionOid && extension.critical &&
-                Bytes(extension.value) == ExtensionValue();
+         return Bytes(extension->oid) == kExtensionOid && extension->critical &&
+                Bytes(extension->value) == ExtensionValue();
        }},
       [=] { return ReadExtension(record); });
-  Add({kWriteExtension, kWide, [=] { return Bytes(CertExtension(extension).WriteData(nullptr)) == record; }},
-      [=]() mutable { return extension.WriteData(nullptr); });
+  Add({kWriteExtension, kWide, [=] { return Bytes(extension->WriteData(nullptr)) == record; }},
+      [=] { return extension->WriteData(nullptr); });
 }
 
 void AddThreads() {

@@ -11,11 +11,11 @@ windows=(g++-mingw-w64-x86-64-posix googletest wine64)
 
 case ${1-} in
   native) packages=("${native[@]}") ;;
-  test) packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format) ;;
+  test) packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format valgrind) ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)
-    packages=("${native[@]}" libbenchmark-dev libssl-dev libgnutls28-dev libbotan-2-dev
-      libmbedtls-dev valgrind)
+    packages=("${native[@]}" "${windows[@]}" libbenchmark-dev libssl-dev libgnutls28-dev
+      libbotan-2-dev libmbedtls-dev)
     ;;
   docs) packages=("${native[@]}" doxygen graphviz) ;;
   package) packages=("${native[@]}" "${windows[@]}" dpkg-dev file) ;;
