@@ -28,7 +28,9 @@ void ReportCode(DWORD code, int* error) {
   }
 }
 
-DWORD WinErrorOf(Status status) { return ASNTStatusToWinError(ToCode(status)); }
+DWORD WinErrorOf(Status status) {
+  return status == Status::kOk ? ERROR_SUCCESS : ASNTStatusToWinError(ToCode(status));
+}
 
 Status WriteRecord(const CertExtension& extension, IdentObj* record) {
   std::string_view dotted = AsText(ByteView(extension.oid));

@@ -42,8 +42,8 @@ Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out) {
   }
   if (!FitsTheCalls(text.size())) return Conversion::kSizeFailed;
   const int length = static_cast<int>(text.size());
-  const int size = WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr,
-                                       nullptr);
+  const int size =
+      WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
   if (size <= 0) return Conversion::kSizeFailed;
   std::string converted(static_cast<size_t>(size), '\0');
   const int written = WideCharToMultiByte(codePage, 0, text.data(), length, converted.data(), size,

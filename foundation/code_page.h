@@ -18,7 +18,7 @@ constexpr UINT kCodePageUsAscii = 20127;
 constexpr UINT kCodePageUtf8 = 65001;
 
 // Which of a conversion's two calls failed; the thread's last error is the platform's.
-enum class [[nodiscard]] Conversion { kDone, kSizeFailed, kFillFailed };
+enum class [[nodiscard]] Conversion{kDone, kSizeFailed, kFillFailed};
 
 // Replace `out`, unchanged on failure. Text of more than 0x7FFFFFFF units fails with last error
 // 87 (ERROR_INVALID_PARAMETER).

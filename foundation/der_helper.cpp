@@ -118,15 +118,15 @@ std::wstring DecodeUtf8String(const IdentObj& value, bool anyTag) {
 }
 
 std::string ToString(const std::wstring& text, UINT codePage) {
-  return Convert<std::wstring, std::string>(
-      text, codePage, "DerHelper::ToString WideCharToMultiByte(1)",
-      "DerHelper::ToString WideCharToMultiByte(2)", &Narrow);
+  return Convert<std::wstring, std::string>(text, codePage,
+                                            "DerHelper::ToString WideCharToMultiByte(1)",
+                                            "DerHelper::ToString WideCharToMultiByte(2)", &Narrow);
 }
 
 std::wstring ToWString(const std::string& text, UINT codePage) {
-  return Convert<std::string, std::wstring>(
-      text, codePage, "DerHelper::ToWString MultiByteToWideChar(1)",
-      "DerHelper::ToWString MultiByteToWideChar(2)", &Widen);
+  return Convert<std::string, std::wstring>(text, codePage,
+                                            "DerHelper::ToWString MultiByteToWideChar(1)",
+                                            "DerHelper::ToWString MultiByteToWideChar(2)", &Widen);
 }
 
 char ToPrintableChar(char character) noexcept {

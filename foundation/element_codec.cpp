@@ -18,7 +18,16 @@ constexpr const char* kPutElement = "ASNTPutElement";
 constexpr BYTE kTrue = 0xFF;
 constexpr BYTE kSignBit = 0x80;
 
-enum class Form { kNone, kBoolean, kInteger, kAsItStands, kEmpty, kOid, kUtcTime, kGeneralizedTime };
+enum class Form {
+  kNone,
+  kBoolean,
+  kInteger,
+  kAsItStands,
+  kEmpty,
+  kOid,
+  kUtcTime,
+  kGeneralizedTime
+};
 
 struct FormRow {
   DWORD tag;

@@ -74,7 +74,9 @@ Status ReadLength(ByteView in, size_t position, ElementHeader* header) {
   return Status::kOk;
 }
 
-bool StartsWithZeroPair(ByteView bytes) { return bytes.size >= 2 && bytes[0] == 0 && bytes[1] == 0; }
+bool StartsWithZeroPair(ByteView bytes) {
+  return bytes.size >= 2 && bytes[0] == 0 && bytes[1] == 0;
+}
 
 Fault MeasurePrimitive(ByteView rest, size_t* length) {
   const void* zero = rest.empty() ? nullptr : std::memchr(rest.data, 0, rest.size);

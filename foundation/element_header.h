@@ -53,8 +53,7 @@ Status ReadAnyHeader(ByteView in, ElementHeader* header);
 // Reads the header at the front of `in`. The content may reach past the end of `in`. Fails with
 // kBadTag or kCorrupt; `content` is then null.
 inline Status ReadHeader(ByteView in, ElementHeader* header) {
-  const bool short_form =
-      in.size >= 2 && (in[0] & kTagMask) != kHighTagNumber && in[1] < kLongForm;
+  const bool short_form = in.size >= 2 && (in[0] & kTagMask) != kHighTagNumber && in[1] < kLongForm;
   if (!short_form) return ReadAnyHeader(in, header);
   header->cls = in[0] & kClassMask;
   header->constructed = in[0] & kConstructed;

@@ -7,14 +7,9 @@
 
 namespace Ortholan {
 
-enum class [[nodiscard]] Status : DWORD {
-  kOk = 0,
-  kNotEncodable = 1,
-  kNoMemory = 16,
-  kBadArgument = 28,
-  kWrongType = 131,
-  kBadTag = 205,
-  kCorrupt = 206,
+enum class [[nodiscard]] Status : DWORD{
+    kOk = 0,          kNotEncodable = 1, kNoMemory = 16, kBadArgument = 28,
+    kWrongType = 131, kBadTag = 205,     kCorrupt = 206,
 };
 
 inline DWORD ToCode(Status status) { return static_cast<DWORD>(status); }

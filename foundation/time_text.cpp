@@ -48,9 +48,9 @@ Status FormatTime(ByteView fileTime, TimeForm form, char (&text)[kMaxTimeText + 
   const bool two_digits = form == TimeForm::kUtc;
   std::snprintf(year_text, sizeof(year_text), two_digits ? "%02u" : "%04u",
                 (two_digits ? year % 100 : year) % 10000);
-  const int written = std::snprintf(text, sizeof(text), "%s%02d%02d%02d%02d%02dZ", year_text,
-                                    parts.wMonth, parts.wDay, parts.wHour, parts.wMinute,
-                                    parts.wSecond);
+  const int written =
+      std::snprintf(text, sizeof(text), "%s%02d%02d%02d%02d%02dZ", year_text, parts.wMonth,
+                    parts.wDay, parts.wHour, parts.wMinute, parts.wSecond);
   *length = static_cast<size_t>(written);
   return Status::kOk;
 }

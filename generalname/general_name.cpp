@@ -1,7 +1,6 @@
-#include <ortholan/general_name.h>
-
 #include <ortholan/asn1.h>
 #include <ortholan/der_helper.h>
+#include <ortholan/general_name.h>
 
 #include <list>
 #include <new>
@@ -51,7 +50,8 @@ GeneralName GeneralName::CreateX400Address(const IdentObj& der) { return {x400Ad
 GeneralName GeneralName::CreateDirectoryName(const IdentObj& der) { return {directoryName, der}; }
 
 GeneralName GeneralName::CreateEdiPartyName(const EdiPartyName& name) {
-  return {directoryName, Sequence({TaggedUtf8(name.nameAssigner, 0), TaggedUtf8(name.partyName, 1)})};
+  return {directoryName,
+          Sequence({TaggedUtf8(name.nameAssigner, 0), TaggedUtf8(name.partyName, 1)})};
 }
 
 // Reading the address never comes to an end; what an application sees of that is the failure that

@@ -59,7 +59,8 @@ constexpr OidDer::OidDer(std::string_view dotted) {
   for (size_t i = 2; i < count; ++i) {
     unsigned shift = 0;
     while ((arcs[i] >> shift) >= 0x80) shift += 7;
-    for (; shift != 0; shift -= 7) bytes[size++] = static_cast<BYTE>(0x80 | (arcs[i] >> shift & 0x7F));
+    for (; shift != 0; shift -= 7)
+      bytes[size++] = static_cast<BYTE>(0x80 | (arcs[i] >> shift & 0x7F));
     bytes[size++] = static_cast<BYTE>(arcs[i] & 0x7F);
   }
   bytes[0] = 6;

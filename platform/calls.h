@@ -37,7 +37,12 @@
 //     X509_NAME_VALUE over CERT_NAME_VALUE: `Value` holds 8-bit text for the types 3 to 10, any
 //     octets for 2, a whole element for 1, UTF-16LE octets for 12 and 13. Encoding writes the
 //     octets unchecked (12: big-endian; 13: as UTF-8; an odd last octet is dropped). The value type
-//     that decoding reports follows the tag.
+//     that decoding reports follows the tag. Natively six string tags alone are read: 12, 19, 20,
+//     22, 26, 30.
+//     Extensions go through both calls with the caller's structure type, a constant or the
+//     identifier of an extension. Natively X509_BASIC_CONSTRAINTS2, _KEY_USAGE, _BITS,
+//     _OCTET_STRING, _ENHANCED_KEY_USAGE, _ALTERNATE_NAME, _AUTHORITY_KEY_ID2 and
+//     _UNICODE_NAME_VALUE have codecs; posix/codecs.h and posix/name_value.h give their codes.
 //
 // CryptFindOIDInfo(keyType, key, groupId)
 //     Called through FindAttributeInfo only. The record lives as long as the process.
@@ -67,6 +72,8 @@
 
 #include <ortholan/platform.h>
 
+#include <cstdint>
+
 namespace Ortholan {
 
 // The module whose string resources are this library's messages by status code: on Windows the DLL
@@ -81,6 +88,10 @@ HMODULE OwnModule() noexcept;
 // Null when the platform knows no such attribute. The last error is left as it was. Answers may be
 // remembered: what is registered while the process runs is not promised to be seen.
 const CRYPT_OID_INFO* FindAttributeInfo(DWORD keyType, const void* key) noexcept;
+
+// Changes whenever FindAttributeInfo may answer otherwise than before: what is derived from its
+// answers may be remembered together with this number. Constant on Windows.
+uint16_t AttributeInfoVersion() noexcept;
 
 }  // namespace Ortholan
 

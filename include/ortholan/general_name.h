@@ -69,7 +69,8 @@ class ORTHOLAN_EXPORT GeneralName {
   // The content with its identifier octets replaced by the context-specific tag, constructed for
   // every alternative. Content that is no element is returned as it is.
   IdentObj DerEncode();
-  // Keeps the whole of `der`, its identifier octets included. Throws XZEPStatus, "DerHelper::GetTag".
+  // Keeps the whole of `der`, its identifier octets included. Throws XZEPStatus,
+  // "DerHelper::GetTag".
   static GeneralName DerDecode(const IdentObj& der);
 
   // The name as text for display, by its tag alone; the arguments are ignored.

@@ -12,7 +12,8 @@
 // strangers wrote.
 //
 // 8-bit text is in the calling thread's code page (UTF-8 where there is none) and ends at its first
-// NUL, also where the name's value goes on behind one. Only wide text is fit for decisions.
+// NUL, also where the name's value goes on behind one; so does a single value, wide or not. Only
+// comparison and the wide text of the whole name are fit for decisions.
 #ifndef ORTHOLAN_X509_NAME_H_
 #define ORTHOLAN_X509_NAME_H_
 
@@ -71,7 +72,7 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   bool TrySetBy(const char* text, unsigned long options, bool sort);
 
   // The name as text; "" for the empty object. Wide text of 0x3FFFFFFF units or more has no 8-bit
-  // form: "".
+  // form: "". A plain reader that fails leaves "" or, if wide, the RDNs before the one refused.
   void GetX500String(std::wstring& out, unsigned long options) const;
   void GetX500String(std::string& out, unsigned long options) const;
   void GetX500String(CZEPString& out, unsigned long options) const;
@@ -111,7 +112,8 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   bool operator!=(const X509Name& other) const;
 
   // Text between double quotes, its double quotes doubled; and back, where a lone double quote is
-  // dropped wherever it stands.
+  // dropped wherever it stands. What was quoted comes back, but for text of double quotes alone
+  // and the empty text, which come back with one quote more.
   static void QuoteString(const char* src, CZEPString& out);
   static void QuoteString(CZEPString& s);
   static void UnquoteString(const char* src, CZEPString& out);

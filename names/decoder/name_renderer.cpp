@@ -58,25 +58,29 @@ bool QuotesAnEnd(char c) {
 NameRenderer::NameRenderer(DWORD style, DWORD options)
     : style_(style), separator_(SeparatorFor(options, style)) {}
 
+// In one pass: a fault of the sequence itself, also one behind an RDN that cannot be rendered,
+// counts before everything else and leaves no text.
 bool NameRenderer::Render(ByteView name) {
-  size_t count = 0;
-  const Status status = CountChildren(name, &count);
-  if (status != Status::kOk) return FailWith(status);
-  return RenderRdns(name);
-}
-
-bool NameRenderer::RenderRdns(ByteView name) {
+  bool rendered = true;
   ElementReader reader(name);
   for (Element rdn; reader.Next(&rdn);) {
-    if (!is_wide_) {
-      if (RenderAscii(rdn.bytes)) continue;
-      SwitchToWide();
-      // About what the rest needs: an RDN's octets beside its text are as many as its key.
-      wide_.reserve(wide_.size() + name.size - (reader.position() - rdn.bytes.size));
-    }
-    if (!RenderWide(rdn.bytes)) return false;
+    rendered = rendered && RenderRdn(rdn.bytes, name.size - reader.position());
   }
-  return true;
+  if (!reader.fault()) return rendered;
+  ascii_.clear();
+  wide_.clear();
+  return FailWith(reader.fault().status);
+}
+
+// `left` is the number of octets behind the RDN.
+bool NameRenderer::RenderRdn(ByteView rdn, size_t left) {
+  if (!is_wide_) {
+    if (RenderAscii(rdn)) return true;
+    SwitchToWide();
+    // About what the rest needs: an RDN's octets beside its text are as many as its key.
+    wide_.reserve(wide_.size() + rdn.size + left);
+  }
+  return RenderWide(rdn);
 }
 
 void NameRenderer::MoveTo(std::wstring* out) {

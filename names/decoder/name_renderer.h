@@ -32,7 +32,7 @@ class NameRenderer {
   const std::wstring& wide() const { return wide_; }
 
  private:
-  bool RenderRdns(ByteView name);
+  bool RenderRdn(ByteView rdn, size_t left);
   bool RenderWide(ByteView rdn);
   bool RenderAscii(ByteView rdn);
   bool AppendAsciiType(const Element& child);

@@ -40,18 +40,18 @@ bool X500NameDecoder::Decode(const IdentObj& name,
   if (bytes.empty()) return false;
   pairs.clear();
   nameStyle_ = style;
-  size_t count = 0;
-  const Status status = CountChildren(bytes, &count);
-  if (status != Status::kOk) return FailWith(status);
+  bool decoded = true;
   ElementReader reader(bytes);
   for (Element rdn; reader.Next(&rdn);) {
+    if (!decoded) continue;
     pairs.emplace_back();
-    if (!DecodeElem(rdn.bytes, style, &pairs.back())) {
-      pairs.pop_back();
-      return false;
-    }
+    decoded = DecodeElem(rdn.bytes, style, &pairs.back());
+    if (!decoded) pairs.pop_back();
   }
-  return true;
+  if (!reader.fault()) return decoded;
+  // A fault of the sequence itself counts before everything else and leaves no pairs.
+  pairs.clear();
+  return FailWith(reader.fault().status);
 }
 
 }  // namespace Ortholan

@@ -14,8 +14,8 @@ namespace Ortholan {
 // Tag numbers of the strings whose characters are shown.
 inline bool IsDecodedString(const Element& value) {
   constexpr DWORD kTags = 1u << kTagUtf8String | 1u << kTagPrintableString |
-                          1u << kTagTeletexString | 1u << kTagIA5String |
-                          1u << kTagVisibleString | 1u << kTagBmpString;
+                          1u << kTagTeletexString | 1u << kTagIA5String | 1u << kTagVisibleString |
+                          1u << kTagBmpString;
   return value.header.tag < 32 && (kTags >> value.header.tag & 1) != 0;
 }
 

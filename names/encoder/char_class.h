@@ -8,8 +8,7 @@
 
 namespace Ortholan {
 
-#define ORTHOLAN_ALPHANUMERIC \
-  L"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"
+#define ORTHOLAN_ALPHANUMERIC L"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"
 // CR and LF are in, "=" is out, unlike X.680's PrintableString: lines of an address are printable,
 // and an "=" stays recognisable.
 inline constexpr std::wstring_view kPrintableAlphabet = ORTHOLAN_ALPHANUMERIC L"()+,-./:? '\r\n";

@@ -13,13 +13,15 @@ namespace Ortholan {
 
 bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
   const AttributeRow* row = FindAttribute(type);
-  if (row != nullptr) return EncodeElem(row, value, CommonClasses(value));
+  if (row != nullptr) {
+    return AddPlan(row, nullptr, value.data(), value.size(), CommonClasses(value), false);
+  }
   SmallBuffer<BYTE, kMaxOidContent> content;
   const Status status = ParseOid(type, &content);
   if (status != Status::kOk) return FailWith(status);
   DWORD value_type = 0;
-  if (value.empty() || !DetermineTargetType(ValueRule::kFreeText, CommonClasses(value), options_,
-                                            &value_type)) {
+  if (value.empty() ||
+      !DetermineTargetType(ValueRule::kFreeText, CommonClasses(value), options_, &value_type)) {
     return false;
   }
   const size_t size = static_cast<size_t>(ElementSize(content.size()));
@@ -33,14 +35,14 @@ bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
 
 // Stored member by member: what was just stored singly is slow to read back as a whole.
 bool NameAssembler::AddPlan(const AttributeRow* row, const char* ascii, const wchar_t* wide,
-                            size_t size, unsigned classes) {
+                            size_t size, unsigned classes, bool endsRdn) {
   if (row == nullptr) return FailWith(Status::kNotEncodable);
   DWORD type = 0;
   if (size == 0 || !DetermineTargetType(row->rule, classes, options_, &type)) return false;
   Plan* const plan = plans_.Extend(1);
   plan->row = row;
   plan->oid_size = row->der.size;
-  plan->ends_rdn = false;
+  plan->ends_rdn = endsRdn;
   plan->value.text.ascii = ascii;
   plan->value.text.wide = wide;
   plan->value.text.size = size;

@@ -22,15 +22,16 @@ class NameAssembler {
  public:
   explicit NameAssembler(DWORD options) : options_(options) {}
 
-  // Adds one attribute to the current RDN: a row of the table with a value whose character classes
-  // are known, or any identifier in dotted text. False, with the last error set where the type is
-  // no identifier, for what cannot be encoded.
-  bool EncodeElem(const AttributeRow* row, std::string_view ascii, unsigned classes) {
-    return AddPlan(row, ascii.data(), nullptr, ascii.size(), classes);
+  // Adds one attribute, a row of the table with a value whose character classes are known, as an
+  // RDN of its own. False, with the last error set where the type is no identifier, for what cannot
+  // be encoded.
+  bool EncodeRdn(const AttributeRow* row, std::string_view ascii, unsigned classes) {
+    return AddPlan(row, ascii.data(), nullptr, ascii.size(), classes, true);
   }
-  bool EncodeElem(const AttributeRow* row, std::wstring_view wide, unsigned classes) {
-    return AddPlan(row, nullptr, wide.data(), wide.size(), classes);
+  bool EncodeRdn(const AttributeRow* row, std::wstring_view wide, unsigned classes) {
+    return AddPlan(row, nullptr, wide.data(), wide.size(), classes, true);
   }
+  // Adds one attribute with any identifier, in dotted text, to the current RDN. The same results.
   bool EncodeElem(std::string_view type, std::wstring_view value);
   // Ends the current RDN, which may be empty.
   void EndRdn();
@@ -52,7 +53,7 @@ class NameAssembler {
   };
 
   bool AddPlan(const AttributeRow* row, const char* ascii, const wchar_t* wide, size_t size,
-               unsigned classes);
+               unsigned classes, bool endsRdn);
   uint64_t RdnContent(const Plan* first, const Plan** next) const;
   bool WriteRdns(BYTE* out);
   BYTE* WriteAttribute(const Plan& plan, BYTE* out);

@@ -67,7 +67,9 @@ void NameParser<Char>::AppendElem() {
 }
 
 template <typename Char>
-bool NameParser<Char>::Parse_ElemType() { return ResolveType(Trimmed(token_), &row_); }
+bool NameParser<Char>::Parse_ElemType() {
+  return ResolveType(Trimmed(token_), &row_);
+}
 
 template <typename Char>
 void NameParser<Char>::Parse_ElemValue() {
@@ -133,6 +135,14 @@ template <typename Char>
 void NameParser<Char>::ReadUnquotedValue() {
   const Char* at = next_;
   unsigned common = kInBoth;
+  for (; end_ - at >= 4; at += 4) {
+    const unsigned a = ClassesOf(at[0]);
+    const unsigned b = ClassesOf(at[1]);
+    const unsigned c = ClassesOf(at[2]);
+    const unsigned d = ClassesOf(at[3]);
+    if (((a | b | c | d) & delimiters_) != 0) break;
+    common &= a & b & c & d;
+  }
   for (; at != end_; ++at) {
     const unsigned classes = ClassesOf(*at);
     if ((classes & delimiters_) != 0) break;

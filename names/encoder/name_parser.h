@@ -16,9 +16,9 @@ namespace Ortholan {
 // One `type = value` of the text.
 template <typename Char>
 struct NameElem {
-  const AttributeRow* row;              // null: the type text resolved to nothing
-  std::basic_string_view<Char> value;   // quotes removed, trimmed
-  unsigned classes;                     // the alphabets that all of the value is in
+  const AttributeRow* row;             // null: the type text resolved to nothing
+  std::basic_string_view<Char> value;  // quotes removed, trimmed
+  unsigned classes;                    // the alphabets that all of the value is in
 };
 
 template <typename Char>

@@ -36,8 +36,7 @@ template <typename Elems>
 bool EncodeElements(const Elems& elems, DWORD options, IdentObj* der) {
   NameAssembler assembler(options);
   for (const auto& elem : elems) {
-    if (!assembler.EncodeElem(elem.row, elem.value, elem.classes)) return false;
-    assembler.EndRdn();
+    if (!assembler.EncodeRdn(elem.row, elem.value, elem.classes)) return false;
   }
   return assembler.Write(der);
 }

@@ -13,8 +13,7 @@ namespace Ortholan {
 // The platform's number of the string type that a value of these character classes is written in:
 // CERT_RDN_PRINTABLE_STRING, _IA5_STRING, _BMP_STRING or _UTF8_STRING. False for a value outside
 // the alphabet of the type that the attribute prescribes.
-inline bool DetermineTargetType(ValueRule rule, unsigned classes, DWORD options,
-                                DWORD* valueType) {
+inline bool DetermineTargetType(ValueRule rule, unsigned classes, DWORD options, DWORD* valueType) {
   if (rule == ValueRule::kIA5) {
     *valueType = CERT_RDN_IA5_STRING;
     return (classes & kInIA5) != 0;

@@ -46,9 +46,7 @@ void X500NameEncoder::SetEncoderOptions(unsigned long options) {
 
 unsigned long X500NameEncoder::GetEncoderOptions(unsigned long) const { return options_; }
 
-void X500NameEncoder::AddEncoderOption(unsigned long bits) {
-  options_ |= static_cast<DWORD>(bits);
-}
+void X500NameEncoder::AddEncoderOption(unsigned long bits) { options_ |= static_cast<DWORD>(bits); }
 
 void X500NameEncoder::RemoveEncoderOption(unsigned long bits) {
   options_ &= ~static_cast<DWORD>(bits);
@@ -79,8 +77,7 @@ bool X500NameEncoder::Encode(const std::wstring& text, IdentObj& der, bool sortB
   return EncodeNameText(text, options_, sortByPriority, &unfinished_, &der);
 }
 
-bool X500NameEncoder::Encode(const std::list<SimpleRDN>& rdns, IdentObj& der,
-                             bool sortByPriority) {
+bool X500NameEncoder::Encode(const std::list<SimpleRDN>& rdns, IdentObj& der, bool sortByPriority) {
   if (rdns.empty()) return FailWith(Status::kBadArgument);
   std::vector<const SimpleRDN*> order;
   order.reserve(rdns.size());

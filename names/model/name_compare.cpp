@@ -45,15 +45,13 @@ class Keys {
   }
 
   void Sort() {
-    std::sort(spans_.begin(), spans_.end(), [this](const Span& a, const Span& b) {
-      return View(a) < View(b);
-    });
+    std::sort(spans_.begin(), spans_.end(),
+              [this](const Span& a, const Span& b) { return View(a) < View(b); });
   }
 
   friend bool operator==(const Keys& a, const Keys& b) {
-    return std::equal(
-        a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
-        [&](const Span& x, const Span& y) { return a.View(x) == b.View(y); });
+    return std::equal(a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
+                      [&](const Span& x, const Span& y) { return a.View(x) == b.View(y); });
   }
 
  private:

@@ -1,9 +1,8 @@
+#include <ortholan/name_decoder.h>
+#include <ortholan/name_encoder.h>
 #include <ortholan/x509_name.h>
 
 #include <cstring>
-
-#include <ortholan/name_decoder.h>
-#include <ortholan/name_encoder.h>
 
 #include "foundation/code_page.h"
 #include "foundation/required_text.h"
@@ -59,7 +58,8 @@ bool Render(const X509Name& name, unsigned long options, std::wstring* text) {
 bool RenderNarrow(const X509Name& name, unsigned long options, std::string* out) {
   const DWORD word = static_cast<DWORD>(options);
   NameRenderer renderer(word & kNameStyleMask, word);
-  if (name.cbData != 0 && !renderer.Render(ByteView(name))) return false;
+  const ByteView bytes(name);
+  if (name.cbData != 0 && (bytes.empty() || !renderer.Render(bytes))) return false;
   const std::string_view ascii = renderer.ascii();
   if (ascii.data() != nullptr) {
     const std::string_view text = ascii.substr(0, ascii.find('\0'));

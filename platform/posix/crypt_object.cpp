@@ -3,10 +3,8 @@
 
 #include <ortholan/platform.h>
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 
 #include "platform/posix/codecs.h"
 #include "platform/posix/fail.h"
@@ -42,10 +40,10 @@ constexpr Codec MakeCodec(std::uintptr_t constant) {
   return {constant, posix::EncodeWith<Info, Write>, posix::DecodeWith<Info, Read>};
 }
 
-// By the constants' values; the most wanted first.
+// By the values of the constants, which are no constant expressions; the most wanted first.
 constexpr Codec kCodecs[] = {
-    {6, EncodeValue, posix::DecodeNameValue},
-    {24, EncodeUnicodeValue, posix::DecodeUnicodeNameValue},
+    {6, EncodeValue, posix::DecodeNameValue},                 // X509_NAME_VALUE
+    {24, EncodeUnicodeValue, posix::DecodeUnicodeNameValue},  // X509_UNICODE_NAME_VALUE
     MakeCodec<CERT_ALT_NAME_INFO, posix::WriteAlternateName, posix::ReadAlternateName>(12),
     MakeCodec<CRYPT_BIT_BLOB, posix::WriteBits, posix::ReadBits>(14),
     MakeCodec<CERT_BASIC_CONSTRAINTS2_INFO, posix::WriteBasicConstraints,

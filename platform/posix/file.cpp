@@ -18,9 +18,10 @@ struct ErrorRow {
 
 constexpr DWORD kOtherFailure = 31;  // ERROR_GEN_FAILURE
 
+// EBADF: the descriptor is open, but not for writing.
 constexpr ErrorRow kErrors[] = {
     {ENOENT, 2},  {ENOTDIR, 3}, {EMFILE, 4},   {ENFILE, 4},   {EACCES, 5},         {EPERM, 5},
-    {EISDIR, 5},  {EBADF, 6},   {ENOMEM, 8},   {EROFS, 19},   {EIO, 1117},         {EEXIST, 80},
+    {EISDIR, 5},  {EBADF, 5},   {ENOMEM, 8},   {EROFS, 19},   {EIO, 1117},         {EEXIST, 80},
     {EINVAL, 87}, {ESPIPE, 87}, {ENOSPC, 112}, {EDQUOT, 112}, {ENAMETOOLONG, 206}, {EFBIG, 223},
 };
 
@@ -52,13 +53,23 @@ bool Run(Transfer transfer, DWORD* moved) {
   return true;
 }
 
+// Opens for reading like a file, but cannot be read.
+bool IsDirectory(int descriptor) {
+  struct stat about;
+  return fstat(descriptor, &about) == 0 && S_ISDIR(about.st_mode);
+}
+
 }  // namespace
 
 void* FileOpen(const char* path, bool write, bool create) noexcept {
   const int access = write ? O_RDWR : O_RDONLY;
   const int made = create ? O_CREAT | O_TRUNC : 0;
   const int descriptor = open(path, access | made | O_CLOEXEC, 0666);
-  if (descriptor >= 0) return ToHandle(descriptor);
+  if (descriptor >= 0 && !IsDirectory(descriptor)) return ToHandle(descriptor);
+  if (descriptor >= 0) {
+    close(descriptor);
+    errno = EISDIR;
+  }
   FailWithErrno();
   return nullptr;
 }
@@ -75,7 +86,7 @@ bool FileWrite(void* file, const void* data, DWORD size, DWORD* moved) noexcept 
 
 bool FileSeek(void* file, uint64_t position) noexcept {
   if (position > static_cast<uint64_t>(std::numeric_limits<off_t>::max())) {
-    SetLastError(ERROR_INVALID_PARAMETER);
+    SetLastError(ERROR_NEGATIVE_SEEK);
     return false;
   }
   return lseek(ToDescriptor(file), static_cast<off_t>(position), SEEK_SET) >= 0 || FailWithErrno();

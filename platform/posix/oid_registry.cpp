@@ -109,6 +109,7 @@ struct ArcIndex {
 constexpr ArcIndex kByArc;
 
 std::atomic<bool> enabled{true};
+std::atomic<std::uint16_t> version{0};
 
 const CRYPT_OID_INFO* FindByIdentifier(const char* oid) {
   if (IsX520(oid)) {
@@ -156,6 +157,9 @@ PCCRYPT_OID_INFO CryptFindOIDInfo(DWORD keyType, void* key, DWORD groupId) noexc
 
 void SetAttributeRegistryEnabled(bool isEnabled) noexcept {
   enabled.store(isEnabled, std::memory_order_relaxed);
+  version.fetch_add(1, std::memory_order_relaxed);
 }
+
+std::uint16_t AttributeInfoVersion() noexcept { return version.load(std::memory_order_relaxed); }
 
 }  // namespace Ortholan

@@ -71,8 +71,7 @@ bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* o
   return true;
 }
 
-bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out,
-                       size_t size) {
+bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out, size_t size) {
   const size_t content = ContentSize(size);
   out = posix::WriteHeader(TagOf(valueType), content, out);
   if (valueType == CERT_RDN_BMP_STRING) {

@@ -11,7 +11,6 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <cwchar>
 #include <type_traits>
 
 #include "platform/calls.h"
@@ -27,17 +26,13 @@ constexpr int kMostUnknown = 128;
 
 enum SlotState : std::uint32_t { kEmpty, kWriting, kReady };
 
-struct Key {
-  DWORD type;
-  std::uint32_t length;  // characters
-  std::uint32_t hash;
-  wchar_t text[kLongestKey];
-};
-
 struct Slot {
   std::atomic<std::uint32_t> state;
-  Key key;
+  std::uint32_t hash;
+  DWORD keyType;
+  std::uint32_t length;  // characters
   const CRYPT_OID_INFO* info;
+  wchar_t text[kLongestKey];
 };
 
 // Zero before any code runs, so that the order of start-up does not matter.
@@ -46,55 +41,70 @@ std::atomic<int> unknown_kept;
 
 static_assert(std::atomic<std::uint32_t>::is_always_lock_free);
 
-// False for a key that is too long to be kept. FNV-1a over the characters.
+// An octet above 7F is the number that it is, whatever the sign of char.
 template <class Char>
-bool MakeKey(DWORD type, const Char* text, Key* key) {
-  std::uint32_t hash = 2166136261u ^ type;
-  std::size_t length = 0;
-  for (; text[length] != 0; ++length) {
-    if (length == kLongestKey) return false;
-    // An octet above 7F stays the number that it is, whatever the sign of char.
-    const auto unit = static_cast<wchar_t>(static_cast<std::make_unsigned_t<Char>>(text[length]));
-    key->text[length] = unit;
-    hash = (hash ^ unit) * 16777619u;
+wchar_t UnitOf(Char c) {
+  return static_cast<wchar_t>(static_cast<std::make_unsigned_t<Char>>(c));
+}
+
+// A key as the caller holds it.
+template <class Char>
+struct Key {
+  DWORD type;
+  const Char* text;
+  std::uint32_t length = 0;
+  std::uint32_t hash = 2166136261;
+
+  // False for a key that is too long to be kept. The hash is FNV-1a over the characters.
+  bool Measure() {
+    hash ^= type;
+    for (; text[length] != 0; ++length) {
+      if (length == kLongestKey) return false;
+      hash = (hash ^ UnitOf(text[length])) * 16777619;
+    }
+    return true;
   }
-  key->type = type;
-  key->length = static_cast<std::uint32_t>(length);
-  key->hash = hash;
-  return true;
-}
-
-bool AreEqual(const Key& a, const Key& b) {
-  return a.hash == b.hash && a.type == b.type && a.length == b.length &&
-         std::wmemcmp(a.text, b.text, a.length) == 0;
-}
-
-Slot& SlotAt(const Key& key, std::size_t probe) { return slots[(key.hash + probe) % kSlots]; }
+  bool IsIn(const Slot& slot) const {
+    if (slot.hash != hash || slot.keyType != type || slot.length != length) return false;
+    std::uint32_t i = 0;
+    while (i < length && slot.text[i] == UnitOf(text[i])) ++i;
+    return i == length;
+  }
+  Slot& SlotAt(std::size_t probe) const { return slots[(hash + probe) % kSlots]; }
+};
 
 // The slot that holds the key's answer; null where there is none.
-const Slot* Recall(const Key& key) {
+template <class Char>
+const Slot* Recall(const Key<Char>& key) {
   for (std::size_t probe = 0; probe < kProbes; ++probe) {
-    const Slot& slot = SlotAt(key, probe);
+    const Slot& slot = key.SlotAt(probe);
     const std::uint32_t state = slot.state.load(std::memory_order_acquire);
     if (state == kEmpty) return nullptr;
-    if (state == kReady && AreEqual(slot.key, key)) return &slot;
+    if (state == kReady && key.IsIn(slot)) return &slot;
   }
   return nullptr;
 }
 
-void Keep(const Key& key, const CRYPT_OID_INFO* info) {
-  if (info == nullptr && unknown_kept.fetch_add(1, std::memory_order_relaxed) >= kMostUnknown) {
-    unknown_kept.store(kMostUnknown, std::memory_order_relaxed);
-    return;
-  }
+bool MayKeepUnknown() {
+  if (unknown_kept.load(std::memory_order_relaxed) >= kMostUnknown) return false;
+  unknown_kept.fetch_add(1, std::memory_order_relaxed);
+  return true;
+}
+
+template <class Char>
+void Keep(const Key<Char>& key, const CRYPT_OID_INFO* info) {
+  if (info == nullptr && !MayKeepUnknown()) return;
   for (std::size_t probe = 0; probe < kProbes; ++probe) {
-    Slot& slot = SlotAt(key, probe);
+    Slot& slot = key.SlotAt(probe);
     std::uint32_t expected = kEmpty;
     if (!slot.state.compare_exchange_strong(expected, kWriting, std::memory_order_relaxed)) {
       continue;
     }
-    slot.key = key;
+    slot.hash = key.hash;
+    slot.keyType = key.type;
+    slot.length = key.length;
     slot.info = info;
+    for (std::uint32_t i = 0; i < key.length; ++i) slot.text[i] = UnitOf(key.text[i]);
     slot.state.store(kReady, std::memory_order_release);
     return;
   }
@@ -109,22 +119,23 @@ const CRYPT_OID_INFO* Ask(DWORD keyType, const void* key) {
   return info;
 }
 
+template <class Char>
+const CRYPT_OID_INFO* RecallOrAsk(DWORD keyType, const void* text) {
+  Key<Char> key{keyType, static_cast<const Char*>(text)};
+  if (!key.Measure()) return Ask(keyType, text);
+  if (const Slot* const slot = Recall(key)) return slot->info;
+  const CRYPT_OID_INFO* const info = Ask(keyType, text);
+  Keep(key, info);
+  return info;
+}
+
 }  // namespace
 
 const CRYPT_OID_INFO* FindAttributeInfo(DWORD keyType, const void* key) noexcept {
   if (key == nullptr) return nullptr;
-  Key wanted;
-  bool fits = false;
-  if (keyType == CRYPT_OID_INFO_OID_KEY) {
-    fits = MakeKey(keyType, static_cast<const char*>(key), &wanted);
-  } else if (keyType == CRYPT_OID_INFO_NAME_KEY) {
-    fits = MakeKey(keyType, static_cast<const wchar_t*>(key), &wanted);
-  }
-  if (!fits) return Ask(keyType, key);
-  if (const Slot* const slot = Recall(wanted)) return slot->info;
-  const CRYPT_OID_INFO* const info = Ask(keyType, key);
-  Keep(wanted, info);
-  return info;
+  if (keyType == CRYPT_OID_INFO_OID_KEY) return RecallOrAsk<char>(keyType, key);
+  if (keyType == CRYPT_OID_INFO_NAME_KEY) return RecallOrAsk<wchar_t>(keyType, key);
+  return Ask(keyType, key);
 }
 
 }  // namespace Ortholan

@@ -4,9 +4,9 @@ namespace Ortholan {
 
 void* FileOpen(const char* path, bool write, bool create) noexcept {
   const DWORD access = write ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
-  const HANDLE file = CreateFileA(path, access, FILE_SHARE_READ, nullptr,
-                                  create ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                                  nullptr);
+  const HANDLE file =
+      CreateFileA(path, access, FILE_SHARE_READ, nullptr, create ? CREATE_ALWAYS : OPEN_EXISTING,
+                  FILE_ATTRIBUTE_NORMAL, nullptr);
   return file != INVALID_HANDLE_VALUE ? file : nullptr;
 }
 

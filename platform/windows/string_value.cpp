@@ -54,8 +54,7 @@ bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* o
   return Encode(valueType, bytes.Convert<wchar_t>(ascii, count), 2 * count, out, size);
 }
 
-bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out,
-                       size_t size) {
+bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out, size_t size) {
   if (!IsEightBit(valueType)) {
     return Encode(valueType, reinterpret_cast<const BYTE*>(text), 2 * count, out, size);
   }
