@@ -50,7 +50,10 @@ bool SplitPlainRdn(ByteView rdn, AttributeElements* out) {
 
 bool SplitRdn(ByteView rdn, AttributeElements* out, Status* status) {
   *status = Status::kOk;
-  if (SplitPlainRdn(rdn, out)) return true;
+  return SplitPlainRdn(rdn, out) || SplitAnyRdn(rdn, out, status);
+}
+
+bool SplitAnyRdn(ByteView rdn, AttributeElements* out, Status* status) {
   Element attribute;
   if (!ReadChildren(rdn, 1, &attribute, status)) return false;
   if (!ReadChildren(attribute.bytes, 2, out->child, status)) return false;

@@ -22,6 +22,8 @@ bool SplitPlainRdn(ByteView rdn, AttributeElements* out);
 // Splits an RDN. False with a status for bytes that are no such structure, false with kOk for an
 // RDN without exactly one attribute and an attribute without exactly one type and one value.
 bool SplitRdn(ByteView rdn, AttributeElements* out, Status* status);
+// The same without trying the plain shape first: what SplitPlainRdn must agree with.
+bool SplitAnyRdn(ByteView rdn, AttributeElements* out, Status* status);
 
 // Whether the child can be read from its own bytes. A primitive element in the indefinite form
 // cannot: its terminator stays outside.

@@ -55,8 +55,8 @@ bool QuotesAnEnd(char c) {
 
 }  // namespace
 
-NameRenderer::NameRenderer(DWORD style, DWORD options)
-    : style_(style), separator_(SeparatorFor(options, style)) {}
+NameRenderer::NameRenderer(DWORD style, DWORD options, bool wide)
+    : style_(style), separator_(SeparatorFor(options, style)), is_wide_(wide) {}
 
 // In one pass: a fault of the sequence itself, also one behind an RDN that cannot be rendered,
 // counts before everything else and leaves no text.

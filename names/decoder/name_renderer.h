@@ -18,8 +18,9 @@ namespace Ortholan {
 // give the same text, results and last-error codes.
 class NameRenderer {
  public:
-  // `style` is what is shown of a type, `options` chooses the separator.
-  NameRenderer(DWORD style, DWORD options);
+  // `style` is what is shown of a type, `options` chooses the separator. With `wide` all text is
+  // kept in wide characters from the start.
+  NameRenderer(DWORD style, DWORD options, bool wide = false);
 
   // False with the last error set for bytes that are no sequence, and where an RDN cannot be
   // rendered: the text then holds the RDNs before it.
@@ -44,7 +45,7 @@ class NameRenderer {
 
   DWORD style_;
   std::string_view separator_;
-  bool is_wide_ = false;
+  bool is_wide_;
   SmallBuffer<char, 1024> ascii_;
   std::wstring wide_;
 };

@@ -11,44 +11,40 @@
 
 namespace Ortholan {
 
-bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
-  const AttributeRow* row = FindAttribute(type);
-  if (row != nullptr) {
-    return AddPlan(row, nullptr, value.data(), value.size(), CommonClasses(value), false);
+bool AllocateName(uint64_t content, IdentObj* name) {
+  const uint64_t size = ElementSize(content);
+  if (size > std::numeric_limits<DWORD>::max()) return FailWith(Status::kNoMemory);
+  try {
+    name->Allocate(static_cast<DWORD>(size));
+  } catch (const XZEPStatus&) {
+    return FailWith(Status::kNoMemory);
   }
-  SmallBuffer<BYTE, kMaxOidContent> content;
-  const Status status = ParseOid(type, &content);
-  if (status != Status::kOk) return FailWith(status);
-  DWORD value_type = 0;
-  if (value.empty() ||
-      !DetermineTargetType(ValueRule::kFreeText, CommonClasses(value), options_, &value_type)) {
-    return false;
-  }
-  const size_t size = static_cast<size_t>(ElementSize(content.size()));
-  Plan* const plan = plans_.Extend(1);
-  *plan = {nullptr, oids_.size(), size, {value, value_type, false, 0}, false};
-  plan->value.size = MeasureValue(plan->value.text, value_type, false);
-  WriteBytes(WriteHeader(oids_.Extend(size), kTagOid, content.size()),
-             {content.data(), content.size()});
   return true;
 }
 
-// Stored member by member: what was just stored singly is slow to read back as a whole.
-bool NameAssembler::AddPlan(const AttributeRow* row, const char* ascii, const wchar_t* wide,
-                            size_t size, unsigned classes, bool endsRdn) {
-  if (row == nullptr) return FailWith(Status::kNotEncodable);
-  DWORD type = 0;
-  if (size == 0 || !DetermineTargetType(row->rule, classes, options_, &type)) return false;
-  Plan* const plan = plans_.Extend(1);
-  plan->row = row;
-  plan->oid_size = row->der.size;
-  plan->ends_rdn = endsRdn;
-  plan->value.text.ascii = ascii;
-  plan->value.text.wide = wide;
-  plan->value.text.size = size;
-  plan->value.type = type;
-  plan->value.lines = row->lines;
-  plan->value.size = MeasureValue(plan->value.text, type, row->lines);
+bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
+  SmallBuffer<BYTE, kMaxOidContent> content;
+  const AttributeRow* row = FindAttribute(type);
+  if (row == nullptr) {
+    const Status status = ParseOid(type, &content);
+    if (status != Status::kOk) return FailWith(status);
+  }
+  const ValueRule rule = row != nullptr ? row->rule : ValueRule::kFreeText;
+  const bool lines = row != nullptr && row->lines;
+  DWORD value_type = 0;
+  if (value.empty() || !DetermineTargetType(rule, CommonClasses(value), options_, &value_type)) {
+    return false;
+  }
+  const uint64_t size = MeasureValue(value, value_type, lines);
+  plans_.push_back({row, oids_.size(), 0, {value, value_type, lines, size}, false});
+  if (row != nullptr) {
+    plans_.back().oid_size = row->der.size;
+    return true;
+  }
+  const size_t oid_size = static_cast<size_t>(ElementSize(content.size()));
+  plans_.back().oid_size = oid_size;
+  WriteBytes(WriteHeader(oids_.Extend(oid_size), kTagOid, content.size()),
+             {content.data(), content.size()});
   return true;
 }
 
@@ -75,14 +71,8 @@ bool NameAssembler::Write(IdentObj* der) {
   for (const Plan* plan = plans_.begin(); plan != plans_.end();) {
     content += ElementSize(RdnContent(plan, &plan));
   }
-  const uint64_t size = ElementSize(content);
-  if (size > std::numeric_limits<DWORD>::max()) return FailWith(Status::kNoMemory);
   IdentObj name;
-  try {
-    name.Allocate(static_cast<DWORD>(size));
-  } catch (const XZEPStatus&) {
-    return FailWith(Status::kNoMemory);
-  }
+  if (!AllocateName(content, &name)) return false;
   if (!WriteRdns(WriteHeader(name.pbData, kSequenceOctet, content))) return false;
   *der = std::move(name);
   return true;

@@ -9,6 +9,7 @@
 #include <ortholan/ident_obj.h>
 #include <ortholan/platform.h>
 
+#include <cstdint>
 #include <string_view>
 
 #include "foundation/small_buffer.h"
@@ -17,21 +18,18 @@
 
 namespace Ortholan {
 
-// Attributes are added in order; values must stay where they are until Write returns.
+// Room for a name whose RDNs take `content` octets in all; its header is not written yet. False
+// with last error 8 where memory runs out or the name passes 4 GiB.
+bool AllocateName(uint64_t content, IdentObj* name);
+
+// Structures of any shape. Attributes are added in order; values must stay where they are until
+// Write returns.
 class NameAssembler {
  public:
   explicit NameAssembler(DWORD options) : options_(options) {}
 
-  // Adds one attribute, a row of the table with a value whose character classes are known, as an
-  // RDN of its own. False, with the last error set where the type is no identifier, for what cannot
-  // be encoded.
-  bool EncodeRdn(const AttributeRow* row, std::string_view ascii, unsigned classes) {
-    return AddPlan(row, ascii.data(), nullptr, ascii.size(), classes, true);
-  }
-  bool EncodeRdn(const AttributeRow* row, std::wstring_view wide, unsigned classes) {
-    return AddPlan(row, nullptr, wide.data(), wide.size(), classes, true);
-  }
-  // Adds one attribute with any identifier, in dotted text, to the current RDN. The same results.
+  // Adds one attribute with any identifier, in dotted text, to the current RDN. False, with the
+  // last error set where the type is no identifier, for what cannot be encoded.
   bool EncodeElem(std::string_view type, std::wstring_view value);
   // Ends the current RDN, which may be empty.
   void EndRdn();
@@ -52,8 +50,6 @@ class NameAssembler {
     uint64_t content() const { return oid_size + value.size; }
   };
 
-  bool AddPlan(const AttributeRow* row, const char* ascii, const wchar_t* wide, size_t size,
-               unsigned classes, bool endsRdn);
   uint64_t RdnContent(const Plan* first, const Plan** next) const;
   bool WriteRdns(BYTE* out);
   BYTE* WriteAttribute(const Plan& plan, BYTE* out);

@@ -4,6 +4,7 @@
 
 #include <ortholan/platform.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@ struct NameElem {
   const AttributeRow* row;             // null: the type text resolved to nothing
   std::basic_string_view<Char> value;  // quotes removed, trimmed
   unsigned classes;                    // the alphabets that all of the value is in
+  DWORD type;                          // CERT_RDN_* that the value is written as, once planned
+  uint64_t size;                       // octets of the value's encoding, once planned
 };
 
 template <typename Char>

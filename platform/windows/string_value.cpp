@@ -44,6 +44,12 @@ bool Encode(DWORD valueType, const BYTE* bytes, size_t count, BYTE* out, size_t 
   return CryptEncodeObject(kEncodings, X509_NAME_VALUE, &value, out, &written) && written == size;
 }
 
+// Universal, primitive strings alone: what a constructed form would be read as differs between
+// versions of the platform.
+bool IsPrimitiveString(BYTE tag) {
+  return tag == 0x0C || tag == 0x13 || tag == 0x14 || tag == 0x16 || tag == 0x1A || tag == 0x1E;
+}
+
 }  // namespace
 
 bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t size) {
@@ -63,6 +69,10 @@ bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE*
 }
 
 bool StringValue::Decode(const BYTE* element, size_t size) {
+  if (size == 0 || !IsPrimitiveString(element[0])) {
+    SetLastError(static_cast<DWORD>(size == 0 ? CRYPT_E_ASN1_CORRUPT : CRYPT_E_ASN1_BADTAG));
+    return false;
+  }
   // UTF-8 grows most: two bytes of UTF-16 an octet. Where the platform wants more it says so.
   uint64_t room = sizeof(CERT_NAME_VALUE) + 2 * static_cast<uint64_t>(size);
   for (;;) {

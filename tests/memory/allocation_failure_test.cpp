@@ -99,9 +99,7 @@ const Case kCases[] = {
        return Hex(blob);
      }},
     {"CZEPString", "",
-     [](const Arm& arm) {
-       return std::string(arm([] { return CZEPString("text"); }).c_str());
-     }},
+     [](const Arm& arm) { return std::string(arm([] { return CZEPString("text"); }).c_str()); }},
     {"CZEPString append", "",
      [](const Arm& arm) {
        CZEPString text("abc");
@@ -292,9 +290,9 @@ TEST(AllocationFailure, IsReportedAndLeaksNothing) {
         const std::string outcome = Outcome(row, number);
         reached_end = !FailingAllocation::Failed();
         // A sort can do without its scratch space.
-        as_promised = outcome == expected ||
-                      (!reached_end && (outcome == "bad_alloc" || outcome == "16" ||
-                                        outcome == row.refusal));
+        as_promised =
+            outcome == expected ||
+            (!reached_end && (outcome == "bad_alloc" || outcome == "16" || outcome == row.refusal));
         if (!as_promised) unexpected = outcome;
       }
       // What the message itself holds is no leak.

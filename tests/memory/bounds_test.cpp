@@ -96,8 +96,8 @@ TEST(Bounds, HugeNamesEndInTimeAndMemory) {
   const std::string printable("\x13\x01\x41", 3);
   const Row rows[] = {
       {"a million RDNs", Der(Wrap(0x30, Repeated(Rdn(printable), rdns))), 8},
-      {"one value of 32 MiB", Der(Wrap(0x30, Rdn(Wrap(0x13, std::string(32 * kMiB / kScale, 'a'))))),
-       8},
+      {"one value of 32 MiB",
+       Der(Wrap(0x30, Rdn(Wrap(0x13, std::string(32 * kMiB / kScale, 'a'))))), 8},
       {"one UTF-8 value of 32 MiB",
        Der(Wrap(0x30, Rdn(Wrap(0x0C, Repeated("\xD0\x98", 16 * kMiB / kScale))))), 8},
       {"64 MiB of hexadecimal",
@@ -155,7 +155,7 @@ TEST(Bounds, HugeTextsEndInTimeAndMemory) {
       ResetPeak();
       const std::size_t before = LiveBytes();
       EXPECT_LT(Seconds([&] { encoder.Encode(row.text, der, true); }), kPatience);
-      EXPECT_LT(PeakBytes() - before, 16 * row.text.size() * sizeof(wchar_t) + kMiB);
+      EXPECT_LT(PeakBytes() - before, 64 * row.text.size() + kMiB);
     }
   }
 }

@@ -43,12 +43,12 @@ bool Fails(const char* call) {
 namespace Ortholan {
 
 // Declares the platform's call and defines its stand-in.
-#define STAND_IN(type, name, mangled, parameters, arguments)         \
-  type Real##name parameters asm("__real_" mangled);                 \
-  type StandInFor##name parameters asm("__wrap_" mangled);           \
-  type StandInFor##name parameters {                                 \
-    if (testing::Fails(#name)) return static_cast<type>(0);            \
-    return Real##name arguments;                                     \
+#define STAND_IN(type, name, mangled, parameters, arguments) \
+  type Real##name parameters asm("__real_" mangled);         \
+  type StandInFor##name parameters asm("__wrap_" mangled);   \
+  type StandInFor##name parameters {                         \
+    if (testing::Fails(#name)) return static_cast<type>(0);  \
+    return Real##name arguments;                             \
   }
 
 STAND_IN(int, MultiByteToWideChar, "_ZN8Ortholan19MultiByteToWideCharEjjPKciPwi",
@@ -203,8 +203,8 @@ const Row kRows[] = {
      [] {
        plan.always = true;
        CertNameInfoWrapper tree;
-       const bool done = X500NameDecoder().Decode(
-           Blob("30 0E 31 0C 30 0A 06 03 55 04 03 13 03 61 62 63"), tree);
+       const bool done =
+           X500NameDecoder().Decode(Blob("30 0E 31 0C 30 0A 06 03 55 04 03 13 03 61 62 63"), tree);
        const CERT_RDN_ATTR& attr = static_cast<CERT_NAME_INFO*>(tree)->rgRDN[0].rgRDNAttr[0];
        return (done ? "true " : "false ") + std::to_string(attr.dwValueType) + " " +
               Hex(attr.Value);

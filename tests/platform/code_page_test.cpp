@@ -1,0 +1,362 @@
+// MultiByteToWideChar, WideCharToMultiByte, lstrlenA, lstrlenW.
+
+#include <climits>
+
+#include "tests/platform/contract.h"
+
+namespace Ortholan::testing {
+namespace {
+
+constexpr UINT kUsAscii = 20127;
+
+struct Wide {
+  std::wstring text;
+  DWORD error = 0;
+};
+
+struct Narrow {
+  std::string text;
+  DWORD error = 0;
+};
+
+struct WidenRow {
+  const char* label;
+  UINT codePage;
+  DWORD flags;
+  std::string text;
+  Contract<Wide> expected;
+};
+
+const WidenRow kWidenRows[] = {
+    {"every length of UTF-8",
+     CP_UTF8,
+     0,
+     "A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80",
+     {{L"A\x00E9\x20AC\xD83D\xDE00"}}},
+    {"inner NUL", CP_UTF8, 0, std::string("a\0b", 3), {{std::wstring(L"a\0b", 3)}}},
+    {"first and last of each length",
+     CP_UTF8,
+     0,
+     std::string("\0\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF",
+                 20),
+     {{std::wstring(L"\0\x007F\x0080\x07FF\x0800\xFFFF\xD800\xDC00\xDBFF\xDFFF", 10)}}},
+    {"around the surrogates", CP_UTF8, 0, "\xED\x9F\xBF\xEE\x80\x80", {{L"\xD7FF\xE000"}}},
+
+    {"two octets, second missing", CP_UTF8, 0, "A\xC3", {{L"A\xFFFD"}}},
+    {"three octets, third missing at the end", CP_UTF8, 0, "\xE2\x82", {{L"\xFFFD"}}},
+    {"three octets, third missing inside",
+     CP_UTF8,
+     0,
+     "\xE2\x82"
+     "A",
+     {{L"\xFFFD"
+       L"A"}}},
+    {"four octets, fourth missing at the end", CP_UTF8, 0, "\xF0\x9F\x98", {{L"\xFFFD"}}},
+    {"four octets, fourth missing inside",
+     CP_UTF8,
+     0,
+     "\xF0\x9F\x98"
+     "A",
+     {{L"\xFFFD"
+       L"A"}}},
+    {"broken part before a good one", CP_UTF8, 0, "\xF0\x9F\xC3\xA9", {{L"\xFFFD\x00E9"}}},
+    {"overlong NUL", CP_UTF8, 0, "\xC0\x80", {{L"\xFFFD\xFFFD"}}},
+    {"overlong in three",
+     CP_UTF8,
+     0,
+     "\xE0\x80\x80",
+     {{L"\xFFFD\xFFFD\xFFFD"},
+      {{kWine, {L"\xFFFD\xFFFD"}, "counts the lead and its first follower as one part"}}}},
+    {"overlong in four",
+     CP_UTF8,
+     0,
+     "\xF0\x80\x80\x80",
+     {{L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+      {{kWine, {L"\xFFFD\xFFFD\xFFFD"}, "counts the lead and its first follower as one part"}}}},
+    {"surrogate in UTF-8",
+     CP_UTF8,
+     0,
+     "\xED\xA0\x80",
+     {{L"\xFFFD\xFFFD\xFFFD"},
+      {{kWine, {L"\xFFFD\xFFFD"}, "counts the lead and its first follower as one part"}}}},
+    {"beyond U+10FFFF",
+     CP_UTF8,
+     0,
+     "\xF4\x90\x80\x80",
+     {{L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+      {{kWine, {L"\xFFFD\xFFFD\xFFFD"}, "counts the lead and its first follower as one part"}}}},
+    {"leads that no character has",
+     CP_UTF8,
+     0,
+     "\xC1\xF5\xFE\xFF",
+     {{L"\xFFFD\xFFFD\xFFFD\xFFFD"}}},
+    {"followers without a lead", CP_UTF8, 0, "\x80\xBF", {{L"\xFFFD\xFFFD"}}},
+    {"good text where broken text is refused",
+     CP_UTF8,
+     MB_ERR_INVALID_CHARS,
+     "\xC3\xA9",
+     {{L"\x00E9"}}},
+    {"broken text refused",
+     CP_UTF8,
+     MB_ERR_INVALID_CHARS,
+     "A\xC3",
+     {{L"", ERROR_NO_UNICODE_TRANSLATION}}},
+    {"flags unknown to UTF-8", CP_UTF8, 0x100, "A", {{L"", ERROR_INVALID_FLAGS}}},
+
+    {"US-ASCII", kUsAscii, 0, "Az09~\x7F", {{L"Az09~\x007F"}}},
+    {"US-ASCII drops the top bit",
+     kUsAscii,
+     0,
+     "A\x80\xC3\xFF",
+     {{std::wstring(L"A\0C\x007F", 4)}}},
+    {"flags unknown to US-ASCII", kUsAscii, 0x10, "A", {{L"", ERROR_INVALID_FLAGS}}},
+    {"the system's code page", CP_ACP, 0, "Ab 1", {{L"Ab 1"}}},
+    {"the thread's code page", CP_THREAD_ACP, 0, "Ab 1", {{L"Ab 1"}}},
+    {"no such code page", 12345, 0, "A", {{L"", ERROR_INVALID_PARAMETER}}},
+};
+
+TEST(MultiByteToWideChar, ConvertsOrRefuses) {
+  for (const WidenRow& row : kWidenRows) {
+    SCOPED_TRACE(row.label);
+    const Wide& expected = row.expected.Here();
+    auto in = ExactBlock<char>::CopyOf(row.text);
+    const int inSize = static_cast<int>(in.size());
+    const int wanted = static_cast<int>(expected.text.size());
+
+    SetLastError(kUntouched);
+    EXPECT_EQ(MultiByteToWideChar(row.codePage, row.flags, in.data(), inSize, nullptr, 0), wanted);
+    ExpectLastError(expected.error != 0, expected.error);
+
+    ExactBlock<wchar_t> out(expected.error != 0 ? 16 : expected.text.size());
+    SetLastError(kUntouched);
+    EXPECT_EQ(MultiByteToWideChar(row.codePage, row.flags, in.data(), inSize, out.data(),
+                                  static_cast<int>(out.size())),
+              wanted);
+    ExpectLastError(expected.error != 0, expected.error);
+    if (expected.error == 0) {
+      EXPECT_EQ(Hex(std::wstring(out.data(), out.size())), Hex(expected.text));
+    }
+  }
+}
+
+struct NarrowRow {
+  const char* label;
+  UINT codePage;
+  DWORD flags;
+  std::wstring text;
+  Contract<Narrow> expected;
+};
+
+const NarrowRow kNarrowRows[] = {
+    {"every length of UTF-8",
+     CP_UTF8,
+     0,
+     L"A\x00E9\x20AC\xD83D\xDE00",
+     {{"A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"}}},
+    {"inner NUL", CP_UTF8, 0, std::wstring(L"a\0b", 3), {{std::string("a\0b", 3)}}},
+    {"first and last of each length",
+     CP_UTF8,
+     0,
+     std::wstring(L"\0\x007F\x0080\x07FF\x0800\xFFFF\xD800\xDC00\xDBFF\xDFFF", 10),
+     {{std::string("\0\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF",
+                   20)}}},
+    {"high surrogate at the end", CP_UTF8, 0, L"\xD83D", {{"\xEF\xBF\xBD"}}},
+    {"surrogates in the wrong order", CP_UTF8, 0, L"\xDE00\xD83D", {{"\xEF\xBF\xBD\xEF\xBF\xBD"}}},
+    {"high surrogate before a pair",
+     CP_UTF8,
+     0,
+     L"\xD83D\xD83D\xDE00",
+     {{"\xEF\xBF\xBD\xF0\x9F\x98\x80"}}},
+    // One wide character where it has four bytes, two where it has two.
+    {"character beyond the units",
+     CP_UTF8,
+     0,
+     L"a\U0001F600"
+     L"b",
+     {{"a\xF0\x9F\x98\x80"
+       "b"}}},
+    {"US-ASCII has no such character", kUsAscii, 0, L"a\U0001F600", {{"a??"}}},
+    {"high surrogate before a letter",
+     CP_UTF8,
+     0,
+     L"\xD83D"
+     L"a",
+     {{"\xEF\xBF\xBD"
+       "a"}}},
+    {"broken text refused",
+     CP_UTF8,
+     WC_ERR_INVALID_CHARS,
+     L"a\xD83D",
+     {{"", ERROR_NO_UNICODE_TRANSLATION}}},
+    {"flags unknown to UTF-8", CP_UTF8, 0x800, L"a", {{"", ERROR_INVALID_FLAGS}}},
+
+    {"US-ASCII", kUsAscii, 0, L"Az09~\x007F", {{"Az09~\x7F"}}},
+    {"US-ASCII has no such letter", kUsAscii, 0, L"a\x0434\x0416", {{"a??"}}},
+    {"US-ASCII has no such pair", kUsAscii, 0, L"\xD83D\xDE00", {{"??"}}},
+    {"US-ASCII has a similar letter",
+     kUsAscii,
+     0,
+     L"\x00E9\xFF21",
+     {{"eA"}, {{kNative, {"??"}, "has no table of similar letters"}}}},
+    {"flags unknown to US-ASCII", kUsAscii, 0x800, L"a", {{"", ERROR_INVALID_FLAGS}}},
+    {"the system's code page", CP_ACP, 0, L"Ab 1", {{"Ab 1"}}},
+    {"the thread's code page", CP_THREAD_ACP, 0, L"Ab 1", {{"Ab 1"}}},
+    {"no such code page", 12345, 0, L"a", {{"", ERROR_INVALID_PARAMETER}}},
+};
+
+int NarrowInto(const NarrowRow& row, ExactBlock<wchar_t>* in, char* out, std::size_t room) {
+  SetLastError(kUntouched);
+  return WideCharToMultiByte(row.codePage, row.flags, in->data(), static_cast<int>(in->size()), out,
+                             static_cast<int>(room), nullptr, nullptr);
+}
+
+TEST(WideCharToMultiByte, ConvertsOrRefuses) {
+  for (const NarrowRow& row : kNarrowRows) {
+    SCOPED_TRACE(row.label);
+    const Narrow& expected = row.expected.Here();
+    auto in = ExactBlock<wchar_t>::CopyOf(row.text);
+    const int wanted = static_cast<int>(expected.text.size());
+
+    EXPECT_EQ(NarrowInto(row, &in, nullptr, 0), wanted);
+    ExpectLastError(expected.error != 0, expected.error);
+
+    ExactBlock<char> out(expected.error != 0 ? 16 : expected.text.size());
+    EXPECT_EQ(NarrowInto(row, &in, out.data(), out.size()), wanted);
+    ExpectLastError(expected.error != 0, expected.error);
+    if (expected.error == 0) {
+      EXPECT_EQ(Hex(std::string(out.data(), out.size())), Hex(expected.text));
+    }
+  }
+}
+
+struct ArgumentRow {
+  const char* label;
+  UINT codePage;
+  bool hasText;  // "ab", terminated
+  int length;
+  bool hasOut;
+  int room;
+  int result;
+  DWORD error = 0;
+};
+
+const ArgumentRow kArgumentRows[] = {
+    {"null text", CP_UTF8, false, 2, true, 8, 0, ERROR_INVALID_PARAMETER},
+    {"length 0", CP_UTF8, true, 0, true, 8, 0, ERROR_INVALID_PARAMETER},
+    {"room without a place", CP_UTF8, true, 2, false, 8, 0, ERROR_INVALID_PARAMETER},
+    {"negative room", CP_UTF8, true, 2, true, -1, 0, ERROR_INVALID_PARAMETER},
+    {"terminated text, size only", CP_UTF8, true, -1, false, 0, 3, 0},
+    {"terminated text", CP_UTF8, true, -1, true, 3, 3, 0},
+    {"terminated text, no room for its end", CP_UTF8, true, -1, true, 2, 0,
+     ERROR_INSUFFICIENT_BUFFER},
+    {"room for one of two", CP_UTF8, true, 2, true, 1, 0, ERROR_INSUFFICIENT_BUFFER},
+    {"size only, although a place is given", CP_UTF8, true, 2, true, 0, 2, 0},
+    {"US-ASCII, terminated", kUsAscii, true, -1, true, 3, 3, 0},
+    {"US-ASCII, size only", kUsAscii, true, -1, false, 0, 3, 0},
+    {"US-ASCII, room for one of two", kUsAscii, true, 2, true, 1, 0, ERROR_INSUFFICIENT_BUFFER},
+};
+
+TEST(Conversions, CheckTheirArguments) {
+  for (const ArgumentRow& row : kArgumentRows) {
+    SCOPED_TRACE(row.label);
+    ExactBlock<wchar_t> wide(row.room > 0 ? static_cast<std::size_t>(row.room) : 0);
+    SetLastError(kUntouched);
+    EXPECT_EQ(MultiByteToWideChar(row.codePage, 0, row.hasText ? "ab" : nullptr, row.length,
+                                  row.hasOut ? wide.data() : nullptr, row.room),
+              row.result);
+    ExpectLastError(row.result == 0, row.error);
+
+    ExactBlock<char> narrow(row.room > 0 ? static_cast<std::size_t>(row.room) : 0);
+    SetLastError(kUntouched);
+    EXPECT_EQ(WideCharToMultiByte(row.codePage, 0, row.hasText ? L"ab" : nullptr, row.length,
+                                  row.hasOut ? narrow.data() : nullptr, row.room, nullptr, nullptr),
+              row.result);
+    ExpectLastError(row.result == 0, row.error);
+  }
+}
+
+TEST(WideCharToMultiByte, ReplacesWhatIsBeyondUnicode) {
+  if (ThisRealisation() != kNative) GTEST_SKIP() << "a wide character has two bytes";
+  const std::wstring text(1, static_cast<wchar_t>(0x110000));
+  char out[4] = {};
+  EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, text.data(), 1, nullptr, 0, nullptr, nullptr), 3);
+  EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, text.data(), 1, out, 3, nullptr, nullptr), 3);
+  EXPECT_STREQ(out, "\xEF\xBF\xBD");
+}
+
+TEST(Conversions, NativeCodePagesAreUtf8) {
+  if (ThisRealisation() != kNative) GTEST_SKIP() << "the system's settings decide";
+  for (const auto codePage : {UINT{CP_ACP}, UINT{CP_THREAD_ACP}}) {
+    wchar_t wide[4] = {};
+    EXPECT_EQ(MultiByteToWideChar(codePage, 0, "\xD0\xB4", 2, wide, 4), 1);
+    EXPECT_EQ(wide[0], L'\x0434');
+    char narrow[4] = {};
+    EXPECT_EQ(WideCharToMultiByte(codePage, 0, wide, 1, narrow, 4, nullptr, nullptr), 2);
+    EXPECT_STREQ(narrow, "\xD0\xB4");
+  }
+}
+
+TEST(Conversions, SayWhetherTheSubstituteWasUsed) {
+  char out[4] = {};
+  BOOL used = TRUE;
+  EXPECT_EQ(WideCharToMultiByte(kUsAscii, 0, L"ab", 2, out, 4, "#", &used), 2);
+  EXPECT_EQ(used, FALSE);
+  EXPECT_EQ(WideCharToMultiByte(kUsAscii, 0, L"a\x0434", 2, out, 4, "#", &used), 2);
+  EXPECT_EQ(used, TRUE);
+  EXPECT_EQ(std::string(out, 2), "a#");
+}
+
+std::wstring Utf16(std::uint32_t scalar) {
+  if (scalar < 0x10000) return std::wstring(1, static_cast<wchar_t>(scalar));
+  return {static_cast<wchar_t>(0xD7C0 + (scalar >> 10)),
+          static_cast<wchar_t>(0xDC00 + (scalar & 0x3FF))};
+}
+
+// Every character survives the way to UTF-8 and back, wherever ASCII text stands beside it: in
+// front of it, behind it, in runs of any length.
+TEST(Conversions, EveryCharacterComesBack) {
+  for (std::uint32_t scalar = 1; scalar <= 0x10FFFF; scalar += scalar < 0x3000 ? 1 : 0x3F) {
+    if (scalar >= 0xD800 && scalar <= 0xDFFF) continue;
+    const std::wstring text =
+        std::wstring(scalar % 19, L'x') + Utf16(scalar) + std::wstring(scalar % 11, L'y');
+    char bytes[64];
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         bytes, sizeof bytes, nullptr, nullptr);
+    wchar_t back[64];
+    const int units = MultiByteToWideChar(CP_UTF8, 0, bytes, size, back, 64);
+    ASSERT_EQ(Hex(std::wstring(back, static_cast<std::size_t>(units))), Hex(text)) << scalar;
+  }
+}
+
+// With any room less than what is needed the call fails and stays inside the room.
+TEST(Conversions, TooLittleRoomIsRefused) {
+  const std::wstring wide = L"12345678abcdefgh\x00E9\x20AC\xD83D\xDE00 12345678";
+  const std::string narrow = "12345678abcdefgh\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80 12345678";
+  for (std::size_t room = 1; room < narrow.size(); ++room) {
+    ExactBlock<char> out(room);
+    SetLastError(kUntouched);
+    EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()),
+                                  out.data(), static_cast<int>(room), nullptr, nullptr),
+              0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INSUFFICIENT_BUFFER)) << room;
+  }
+  for (std::size_t room = 1; room < wide.size(); ++room) {
+    ExactBlock<wchar_t> out(room);
+    SetLastError(kUntouched);
+    EXPECT_EQ(MultiByteToWideChar(CP_UTF8, 0, narrow.data(), static_cast<int>(narrow.size()),
+                                  out.data(), static_cast<int>(room)),
+              0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INSUFFICIENT_BUFFER)) << room;
+  }
+}
+
+TEST(Lengths, CountUnitsBeforeTheTerminator) {
+  EXPECT_EQ(lstrlenA(""), 0);
+  EXPECT_EQ(lstrlenA("a\xC3\xA9"), 3);
+  EXPECT_EQ(lstrlenA(nullptr), 0);
+  EXPECT_EQ(lstrlenW(L"a\x00E9"), 2);
+  EXPECT_EQ(lstrlenW(nullptr), 0);
+}
+
+}  // namespace
+}  // namespace Ortholan::testing
