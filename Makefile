@@ -3,12 +3,14 @@
 PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test fuzz bench bench-check bench-baseline docs format package clean
+.PHONY: help demo test thread valgrind fuzz bench bench-check bench-baseline docs format package clean
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
 	@echo 'make test         all tests: native, sanitized, and for Windows through Wine'
 	@echo '                  (PRESETS="native" for a part of them)'
+	@echo 'make thread       the same tests under ThreadSanitizer'
+	@echo 'make valgrind     the native tests under valgrind, some minutes'
 	@echo 'make fuzz         build the fuzz targets and run each for a while'
 	@echo 'make bench        measure beside other libraries, some minutes (RECORD=yes: and note it in'
 	@echo '                  docs/performance.md)'
@@ -28,6 +30,16 @@ demo:
 test:
 	@scripts/setup.sh test
 	@scripts/test.sh $(PRESETS)
+
+thread:
+	@scripts/setup.sh test
+	@scripts/test.sh thread
+
+valgrind:
+	@scripts/setup.sh test
+	cmake --preset native
+	cmake --build --preset native
+	@scripts/valgrind.sh build/native
 
 fuzz:
 	@scripts/setup.sh fuzz

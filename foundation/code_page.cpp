@@ -29,12 +29,6 @@ size_t AsciiPrefix(std::string_view text) {
   return i;
 }
 
-size_t AsciiPrefix(std::wstring_view text) {
-  size_t i = 0;
-  while (i < text.size() && static_cast<uint32_t>(text[i]) < 0x80) ++i;
-  return i;
-}
-
 Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out) {
   if (text.empty()) {
     out->clear();

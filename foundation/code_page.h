@@ -32,10 +32,8 @@ bool AppendWidened(std::string_view text, UINT codePage, std::wstring* out);
 
 // Number of leading characters below 0x80, which every code page of ours has in common.
 size_t AsciiPrefix(std::string_view text);
-size_t AsciiPrefix(std::wstring_view text);
 
 inline bool IsAscii(std::string_view text) { return AsciiPrefix(text) == text.size(); }
-inline bool IsAscii(std::wstring_view text) { return AsciiPrefix(text) == text.size(); }
 
 inline std::string_view AsText(ByteView bytes) {
   return {reinterpret_cast<const char*>(bytes.data), bytes.size};

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -36,14 +37,14 @@ CertExtension Before() {
 class ScratchFile {
  public:
   ScratchFile() {
-    const int handle = mkstemp(path_);
+    const int handle = mkstemp(path_.data());
     LAW(handle >= 0);
     close(handle);
-    LAW(file_.Open(path_, CZEPFile::kCreate));
+    LAW(file_.Open(path_.c_str(), CZEPFile::kCreate));
   }
   ~ScratchFile() {
     file_.Close();
-    unlink(path_);
+    unlink(path_.c_str());
   }
   ScratchFile(const ScratchFile&) = delete;
   ScratchFile& operator=(const ScratchFile&) = delete;
@@ -51,7 +52,7 @@ class ScratchFile {
   CZEPFile& file() { return file_; }
 
  private:
-  char path_[32] = "/tmp/extension_fuzz_XXXXXX";
+  std::string path_ = std::filesystem::temp_directory_path() / "extension_fuzz_XXXXXX";
   CZEPFile file_;
 };
 

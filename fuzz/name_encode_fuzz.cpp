@@ -10,12 +10,12 @@
 #include <ortholan/x509_name.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <list>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "foundation/code_page.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
@@ -32,6 +32,11 @@ using Pairs = std::list<std::pair<std::wstring, std::list<std::wstring>>>;
 
 constexpr DWORD kOptionBits[] = {kOptionCommaOnly, kOptionSemicolonOnly, kOptionCrLfOnly,
                                  kOptionUtf8, kOptionAlways};
+
+bool AllAscii(const std::wstring& text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](wchar_t c) { return static_cast<uint32_t>(c) < 0x80; });
+}
 
 DWORD OptionsFrom(uint8_t bits) {
   DWORD options = 0;
@@ -73,7 +78,7 @@ bool CheckWays(const std::wstring& text, DWORD options, bool sort, IdentObj* der
   const auto wide_answer =
       Answer([&] { return EncodeWideNameText(text, options, sort, &wide_left, &wide); });
   LAW(wide_answer == encoded && wide == expected);
-  if (!IsAscii(text)) return encoded.first;
+  if (!AllAscii(text)) return encoded.first;
 
   std::string ascii(text.begin(), text.end());
   IdentObj narrow(before);
@@ -92,7 +97,7 @@ void CheckParsers(const std::wstring& text, DWORD options) {
   LAW(divided || elements.empty());
   const std::string bytes(text.begin(), text.end());
   const std::string_view trimmed = Trimmed(std::string_view(bytes));
-  if (!IsAscii(text) || trimmed.empty()) return;
+  if (!AllAscii(text) || trimmed.empty()) return;
   NameParser<char> parser(trimmed, options, nullptr);
   LAW(parser.Parse_NameElems() == divided);
   if (!divided) return;
@@ -172,6 +177,22 @@ void CheckOrder(const IdentObj& unsorted, const IdentObj& sorted) {
   LAW(ASNTPutSequence(expected, 16) == sorted);
 }
 
+// Any value comes back from between double quotes, but for white space at its ends.
+void CheckQuoted(std::wstring value, DWORD options) {
+  TrimLeftRight(value);
+  std::wstring quoted;
+  for (const wchar_t c : value) quoted.append(c == L'"' ? 2 : 1, c);
+  std::wstring separator = L",";
+  if (SeparatorFor(options) != 0) {
+    separator = SeparatorFor(options) == kOptionSemicolonOnly ? L";" : L"\r\n";
+  }
+  Elements elements;
+  LAW(Divide(L"CN=\"" + quoted + L'"' + separator + L"ou=x", options, &elements));
+  LAW(elements.size() == 2 && elements.front().value == value);
+  LAW(elements.front().type == L"2.5.4.3" && elements.back().type == L"2.5.4.11");
+  LAW(elements.back().value == L"x");
+}
+
 void CheckTrim(const std::wstring& text) {
   std::wstring trimmed = text;
   TrimLeftRight(trimmed);
@@ -195,6 +216,7 @@ void FuzzNameEncode(const uint8_t* data, size_t size) {
     text = (bits & kUtf16) != 0 ? WideOf(rest) : DerHelper::ToWString(rest, 65001);
   }
   CheckTrim(text);
+  CheckQuoted(text, options);
   CheckParsers(text, options);
   IdentObj unsorted;
   IdentObj sorted;

@@ -126,6 +126,12 @@ void CheckChildren(ByteView bytes) {
   }
 }
 
+DWORD ContentLength(const IdentObj& element) {
+  ASNT_ASN_STRUCT_INFO info;
+  ASNTGetStructInfo(info, element.pbData, element.cbData);
+  return info.length;
+}
+
 // The split of a run agrees with the children of a sequence around it, up to the first element
 // without content, where the split ends.
 void CheckSplit(ByteView bytes) {
@@ -140,7 +146,11 @@ void CheckSplit(ByteView bytes) {
   ASNTGetSequence(children, wrapped.pbData, wrapped.cbData, &fault);
   LAW(split.size() <= children.size());
   auto child = children.begin();
-  for (const IdentObj& element : split) LAW(element == *child++);
+  for (const IdentObj& element : split) {
+    LAW(ContentLength(element) != 0);
+    LAW(element == *child++);
+  }
+  LAW(child == children.end() || ContentLength(*child) == 0);
 }
 
 void CheckDerHelper(const IdentObj& element) {

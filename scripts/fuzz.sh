@@ -16,14 +16,15 @@ seconds=${FUZZ_SECONDS:-60}
 samples=$build/fuzz/samples
 mkdir -p "$samples"
 for list in tests/data/*.txt; do
+  name=$(basename "$list" .txt)
   number=0
   while read -r line; do
     number=$((number + 1))
     [[ -z $line || $line == '#'* ]] && continue
-    file=$samples/$(basename "$list" .txt)_$number
+    file=$samples/${name}_$number
     [[ -e $file ]] && continue
     hex=${line##* }
-    # shellcheck disable=SC2059 # The format is the octets.
+    # shellcheck disable=SC2001,SC2059 # The format is the octets.
     printf "$(sed 's/../\\x&/g' <<<"$hex")" >"$file"
   done <"$list"
 done

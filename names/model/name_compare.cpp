@@ -6,6 +6,7 @@
 #include <ortholan/x509_name.h>
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,13 @@ bool ForEachRdn(const X509Name& name, Use use) {
   return !reader.fault();
 }
 
+// Any total order will do; this one is by the characters' bytes, then by length.
+int Order(std::wstring_view a, std::wstring_view b) {
+  const int order = std::memcmp(a.data(), b.data(), std::min(a.size(), b.size()) * sizeof(wchar_t));
+  if (order != 0 || a.size() == b.size()) return order;
+  return a.size() < b.size() ? -1 : 1;
+}
+
 class Keys {
  public:
   bool Read(const X509Name& name) {
@@ -46,12 +54,13 @@ class Keys {
 
   void Sort() {
     std::sort(spans_.begin(), spans_.end(),
-              [this](const Span& a, const Span& b) { return View(a) < View(b); });
+              [this](const Span& a, const Span& b) { return Order(View(a), View(b)) < 0; });
   }
 
   friend bool operator==(const Keys& a, const Keys& b) {
-    return std::equal(a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
-                      [&](const Span& x, const Span& y) { return a.View(x) == b.View(y); });
+    return std::equal(
+        a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
+        [&](const Span& x, const Span& y) { return Order(a.View(x), b.View(y)) == 0; });
   }
 
  private:
