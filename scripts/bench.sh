@@ -26,7 +26,7 @@ flags=$(sed -n 's/^CMAKE_CXX_FLAGS_RELWITHDEBINFO:[^=]*=//p' build/bench/CMakeCa
   echo "- Processor: $processor, $(nproc) cores; load when the run began: $load"
   echo "- Compilers: $(g++ --version | head -n 1);"
   echo "  $(x86_64-w64-mingw32-g++-posix --version | head -n 1)"
-  echo "- Flags: \`$flags\` and those of \`cmake/hardening.cmake\`"
+  echo "- Flags: \`$flags\`, \`-O3\` for the library itself, and those of \`cmake/hardening.cmake\`"
   echo
   awk -f bench/report.awk "$native" "$windows"
 } | tee "$results"

@@ -88,8 +88,9 @@ prepare() {
 serve() {
   (
     flock 9
+    # What keeps the server alive may fail: the program then starts one itself.
     if quietly "$wineserver" "-p$1"; then
-      quietly "$wine" cmd.exe /c exit
+      quietly "$wine" cmd.exe /c exit || true
     fi
   ) 9>>"$prefix/lock"
 }

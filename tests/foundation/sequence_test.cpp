@@ -169,7 +169,7 @@ TEST(PutSequence, RefusesOtherTagsAndTooMuch) {
   std::list<IdentObj> children(2);
   DWORD tag = 0;
   const auto put = [&](DWORD* status) { return ASNTPutSequence(children, tag, status); };
-  for (const DWORD other : {4u, 15u, 18u, 0x30u}) {
+  for (const DWORD other : {4u, 15u, 18u, 0x31u}) {
     tag = other;
     EXPECT_EQ(Hex(Reported(put, "28 ASNTPutSequence")), "") << tag;
   }
