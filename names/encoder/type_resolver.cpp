@@ -114,7 +114,8 @@ class RememberedTypes {
   static uint64_t Pack(std::basic_string_view<Char> text) {
     uint64_t packed = 0;
     for (const Char c : text) {
-      if (static_cast<std::make_unsigned_t<Char>>(c) >= 0x80) return 0;
+      // A NUL in front would leave no trace, and a character above 0x7F does not fit.
+      if (static_cast<std::make_unsigned_t<Char>>(c) - 1u >= 0x7Fu) return 0;
       packed = packed << 8 | static_cast<uint64_t>(c);
     }
     return packed << kTextShift | AttributeInfoVersion();

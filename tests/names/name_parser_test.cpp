@@ -86,6 +86,7 @@ const Row kRows[] = {
     {"unknown type without a value", L"ABCDE=", "=;"},
 
     {"NUL behind a value ends the text", std::wstring(L"CN=\"a\"\0, O=b", 12), kA},
+    {"NUL in front of a type seen before", std::wstring(L"O=a, \0O=b", 9), kRefused},
     {"NUL for a value", std::wstring(L"CN=\0a", 5), kRefused},
     {"NUL inside a value", std::wstring(L"CN=a\0b,O=b", 10), "2.5.4.3=a<0000>b;2.5.4.10=b;"},
     {"NUL behind a blank", std::wstring(L"CN= \0a", 6), "2.5.4.3=<0000>a;"},
