@@ -36,7 +36,8 @@ class ORTHOLAN_EXPORT CZEPReference {
 };
 
 // Copies share one representation, which is never changed while it is shared. Lengths are bytes
-// without the terminator. Where memory runs out the string becomes empty; nothing throws.
+// without the terminator. Where memory runs out the string becomes empty; nothing throws
+// but LoadString, FormatMessage and Compare with `useLocale`: std::bad_alloc.
 // `const char*` arguments may be null, which is "", and may point into the string itself.
 class ORTHOLAN_EXPORT CZEPString {
  public:
