@@ -231,23 +231,29 @@ void CheckStable(const X509Name& name) {
   }
 }
 
+bool SameElement(const Element& a, const Element& b) {
+  return a.bytes.data == b.bytes.data && a.bytes.size == b.bytes.size &&
+         a.header.tag == b.header.tag && a.header.cls == b.header.cls &&
+         a.header.constructed == b.header.constructed && a.header.length == b.header.length &&
+         a.header.content == b.header.content && a.header.indefinite == b.header.indefinite;
+}
+
+// The usual shape, taken apart by itself and as any other.
 void CheckSplitting(ByteView name) {
   ElementReader reader(name);
   for (Element rdn; reader.Next(&rdn);) {
-    AttributeElements plain;
+    PlainAttribute plain;
     if (!SplitPlainRdn(rdn.bytes, &plain)) continue;
     AttributeElements any;
+    AttributeElements either;
     Status status = Status::kCorrupt;
     LAW(SplitAnyRdn(rdn.bytes, &any, &status) && status == Status::kOk);
-    for (int i = 0; i < 2; ++i) {
-      const Element& a = plain.child[i];
-      const Element& b = any.child[i];
-      LAW(a.bytes.data == b.bytes.data && a.bytes.size == b.bytes.size);
-      LAW(a.header.tag == b.header.tag && a.header.cls == b.header.cls);
-      LAW(a.header.constructed == b.header.constructed);
-      LAW(a.header.length == b.header.length && a.header.content == b.header.content);
-      LAW(a.header.indefinite == b.header.indefinite);
-    }
+    LAW(SplitRdn(rdn.bytes, &either, &status) && status == Status::kOk);
+    const ElementHeader& type = any.child[0].header;
+    LAW(plain.type.data == type.content && plain.type.size == type.length);
+    LAW(SameElement(plain.value, any.child[1]));
+    LAW(SameElement(either.child[0], any.child[0]) && SameElement(either.child[1], any.child[1]));
+    LAW(StandsAlone(any.child[0]) == Status::kOk && StandsAlone(any.child[1]) == Status::kOk);
   }
 }
 

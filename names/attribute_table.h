@@ -28,6 +28,7 @@ struct OidDer {
 
 struct AttributeRow {
   std::string_view oid;
+  std::wstring_view wide_oid;
   OidDer der;
   // Place in the canonical order: the encoder's sort writes high ranks first.
   int rank;
@@ -67,7 +68,7 @@ constexpr OidDer::OidDer(std::string_view dotted) {
   bytes[1] = static_cast<BYTE>(size - 2);
 }
 
-#define ORTHOLAN_OID(dotted) std::string_view(dotted), OidDer(dotted)
+#define ORTHOLAN_OID(dotted) dotted, L##dotted, OidDer(dotted)
 inline constexpr AttributeRow kAttributes[] = {
     {ORTHOLAN_OID("2.5.4.3"), 0, L"cn"},
     {ORTHOLAN_OID("2.5.4.65"), 0, L"pseudonym"},

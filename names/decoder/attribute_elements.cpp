@@ -5,6 +5,8 @@
 namespace Ortholan {
 namespace {
 
+constexpr size_t kPlainHeader = 2;
+
 // Reads up to `wanted` children and counts all of them: a fault behind them counts too.
 bool ReadChildren(ByteView element, size_t wanted, Element* children, Status* status) {
   ElementReader reader(element);
@@ -16,41 +18,45 @@ bool ReadChildren(ByteView element, size_t wanted, Element* children, Status* st
   return *status == Status::kOk && count == wanted;
 }
 
-// A child with a one-octet tag and length, `size` octets in all.
-void SetPlainChild(const BYTE* start, size_t size, Element* child) {
-  child->bytes = {start, size};
-  child->header.cls = start[0] & kClassMask;
-  child->header.constructed = start[0] & kConstructed;
-  child->header.tag = start[0] & kTagMask;
-  child->header.length = start[1];
-  child->header.content = start + 2;
-  child->header.indefinite = false;
+// An element with a one-octet tag and length, `size` octets in all.
+void SetPlain(const BYTE* start, size_t size, Element* element) {
+  element->bytes = {start, size};
+  element->header.cls = start[0] & kClassMask;
+  element->header.constructed = start[0] & kConstructed;
+  element->header.tag = start[0] & kTagMask;
+  element->header.length = start[1];
+  element->header.content = start + kPlainHeader;
+  element->header.indefinite = false;
 }
 
 }  // namespace
 
-bool SplitPlainRdn(ByteView rdn, AttributeElements* out) {
-  constexpr size_t kHeader = 2;
-  constexpr size_t kTypeAt = 2 * kHeader;
-  if (rdn.size < kTypeAt + 2 * kHeader || rdn.size >= kHeader + kLongForm) return false;
+bool SplitPlainRdn(ByteView rdn, PlainAttribute* out) {
+  constexpr size_t kTypeAt = 2 * kPlainHeader;
+  if (rdn.size < kTypeAt + 2 * kPlainHeader || rdn.size >= kPlainHeader + kLongForm) return false;
   const BYTE* const set = rdn.data;
-  const BYTE* const attribute = set + kHeader;
+  const BYTE* const attribute = set + kPlainHeader;
   const BYTE* const type = set + kTypeAt;
-  if (set[0] != kSetOctet || set[1] != rdn.size - kHeader) return false;
-  if (attribute[0] != kSequenceOctet || attribute[1] != rdn.size - 2 * kHeader) return false;
-  if (type[0] != kTagOid || type[1] + kTypeAt + 2 * kHeader > rdn.size) return false;
-  const BYTE* const value = type + kHeader + type[1];
+  if (set[0] != kSetOctet || set[1] != rdn.size - kPlainHeader) return false;
+  if (attribute[0] != kSequenceOctet || attribute[1] != rdn.size - 2 * kPlainHeader) return false;
+  if (type[0] != kTagOid || type[1] + kTypeAt + 2 * kPlainHeader > rdn.size) return false;
+  const BYTE* const value = type + kPlainHeader + type[1];
   const size_t value_size = static_cast<size_t>(rdn.end() - value);
   const BYTE tag = value[0] & kTagMask;
-  if (tag == kHighTagNumber || tag == kTagOid || value[1] != value_size - kHeader) return false;
-  SetPlainChild(type, kHeader + type[1], &out->child[0]);
-  SetPlainChild(value, value_size, &out->child[1]);
+  if (tag == kHighTagNumber || tag == kTagOid || value[1] != value_size - kPlainHeader)
+    return false;
+  out->type = {type + kPlainHeader, type[1]};
+  SetPlain(value, value_size, &out->value);
   return true;
 }
 
 bool SplitRdn(ByteView rdn, AttributeElements* out, Status* status) {
   *status = Status::kOk;
-  return SplitPlainRdn(rdn, out) || SplitAnyRdn(rdn, out, status);
+  PlainAttribute plain;
+  if (!SplitPlainRdn(rdn, &plain)) return SplitAnyRdn(rdn, out, status);
+  SetPlain(plain.type.data - kPlainHeader, plain.type.size + kPlainHeader, &out->child[0]);
+  out->child[1] = plain.value;
+  return true;
 }
 
 bool SplitAnyRdn(ByteView rdn, AttributeElements* out, Status* status) {

@@ -15,9 +15,15 @@ struct AttributeElements {
 
 inline bool IsType(const Element& child) { return child.header.tag == kTagOid; }
 
-// The shape that nearly every RDN has: one attribute, its type first, every length in one octet.
-// False for any other, well-formed or not.
-bool SplitPlainRdn(ByteView rdn, AttributeElements* out);
+// An attribute of the shape that nearly every one has.
+struct PlainAttribute {
+  ByteView type;  // content octets of the identifier
+  Element value;  // stands alone
+};
+
+// Takes an RDN apart that has one attribute, its type first, every length in one octet. False for
+// any other, well-formed or not.
+bool SplitPlainRdn(ByteView rdn, PlainAttribute* out);
 
 // Splits an RDN. False with a status for bytes that are no such structure, false with kOk for an
 // RDN without exactly one attribute and an attribute without exactly one type and one value.

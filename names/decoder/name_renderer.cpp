@@ -105,17 +105,17 @@ void NameRenderer::SwitchToWide() {
 // is left to RenderWide, failures included.
 bool NameRenderer::RenderAscii(ByteView rdn) {
   const size_t before = ascii_.size();
-  AttributeElements attribute;
+  PlainAttribute attribute;
   if (!SplitPlainRdn(rdn, &attribute)) return false;
   if (before != 0) AppendTo(separator_, &ascii_);
-  if (AppendAsciiType(attribute.child[0]) && AppendAsciiValue(attribute.child[1])) return true;
+  if (AppendAsciiType(attribute.type) && AppendAsciiValue(attribute.value)) return true;
   ascii_.Truncate(before);
   return false;
 }
 
-bool NameRenderer::AppendAsciiType(const Element& child) {
+bool NameRenderer::AppendAsciiType(ByteView content) {
   TypeText type;
-  if (!DecodeAttrOid(child, &type)) return false;
+  if (!DecodeAttrOid(content, &type)) return false;
   if (style_ == kStyleValuesOnly) return true;
   const std::wstring_view key = KeyFor(type, style_);
   if (key.empty()) {

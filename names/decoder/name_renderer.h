@@ -36,7 +36,7 @@ class NameRenderer {
   bool RenderRdn(ByteView rdn, size_t left);
   bool RenderWide(ByteView rdn);
   bool RenderAscii(ByteView rdn);
-  bool AppendAsciiType(const Element& child);
+  bool AppendAsciiType(ByteView content);
   bool AppendAsciiValue(const Element& child);
   bool AppendWideType(const Element& child);
   bool AppendWideValue(const Element& child);

@@ -2,19 +2,14 @@
 #include <ortholan/name_decoder.h>
 
 #include <algorithm>
-#include <limits>
 
 #include "foundation/status_code.h"
-#include "foundation/utf16.h"
 #include "names/decoder/attribute_elements.h"
+#include "names/decoder/structured_value.h"
 #include "names/decoder/type_name.h"
-#include "names/decoder/value_text.h"
 
 namespace Ortholan {
 namespace {
-
-// Zero bytes behind a text, which `cbData` counts: a reader that wants a terminator finds one.
-constexpr uint64_t kPaddingBytes = 4;
 
 void FreeAttribute(CERT_RDN_ATTR* attr) {
   delete[] attr->pszObjId;
@@ -33,72 +28,39 @@ void FreeRdn(CERT_RDN* rdn) {
   rdn->rgRDNAttr = nullptr;
 }
 
-bool FillType(const Element& child, CERT_RDN_ATTR* attr) {
+template <typename Identifier>
+bool FillType(const Identifier& identifier, CERT_RDN_ATTR* attr) {
   TypeText type;
-  if (!DecodeAttrOid(child, &type)) return false;
+  if (!DecodeAttrOid(identifier, &type)) return false;
   attr->pszObjId = new char[type.dotted().size() + 1];
   *std::copy(type.dotted().begin(), type.dotted().end(), attr->pszObjId) = '\0';
   return true;
 }
 
-// Room for `units` and the padding behind them, which is zeroed; null, with the last error set,
-// where that passes 32 bits.
-BYTE* NewText(size_t units, CERT_RDN_ATTR* attr) {
-  const uint64_t size = 2 * static_cast<uint64_t>(units) + kPaddingBytes;
-  if (size > std::numeric_limits<DWORD>::max()) {
-    FailWith(Status::kNoMemory);
-    return nullptr;
-  }
-  BYTE* const bytes = new BYTE[size];
-  std::fill_n(bytes + 2 * units, kPaddingBytes, BYTE{0});
-  attr->dwValueType = CERT_RDN_UNICODE_STRING;
-  attr->Value = {static_cast<DWORD>(size), bytes};
-  return bytes;
-}
-
-bool FillText(std::wstring_view text, CERT_RDN_ATTR* attr) {
-  BYTE* const bytes = NewText(text.size(), attr);
-  if (bytes != nullptr) WriteUtf16Le(text, bytes);
-  return bytes != nullptr;
-}
-
-bool FillAscii(std::string_view text, CERT_RDN_ATTR* attr) {
-  BYTE* const bytes = NewText(text.size(), attr);
-  if (bytes == nullptr) return false;
-  for (size_t i = 0; i < text.size(); ++i) {
-    bytes[2 * i] = static_cast<BYTE>(text[i]);
-    bytes[2 * i + 1] = 0;
-  }
+bool FillValue(const Element& child, StructuredValue* value, CERT_RDN_ATTR* attr) {
+  if (!value->Read(child)) return false;
+  BYTE* const bytes = new BYTE[value->size()];
+  value->Write(bytes);
+  attr->dwValueType = value->type();
+  attr->Value = {value->size(), bytes};
   return true;
 }
 
-void FillEncoding(ByteView element, CERT_RDN_ATTR* attr) {
-  attr->dwValueType = CERT_RDN_ENCODED_BLOB;
-  BYTE* bytes = new BYTE[element.size];
-  std::copy(element.begin(), element.end(), bytes);
-  attr->Value = {static_cast<DWORD>(element.size), bytes};
-}
-
-// Most values are ASCII and need no wide text between.
-bool FillValue(const Element& child, std::wstring* scratch, CERT_RDN_ATTR* attr) {
-  AsciiValue ascii;
-  if (ascii.Decode(child)) return FillAscii(ascii.text(), attr);
-  scratch->clear();
-  if (DecodeAttrData(child, scratch)) return FillText(*scratch, attr);
-  FillEncoding(child.bytes, attr);
-  return true;
-}
-
-bool DecodeElem(ByteView rdn, std::wstring* scratch, CERT_RDN_ATTR* attr) {
+// What stands before the child that fails stays in the tree.
+bool DecodeElem(ByteView rdn, StructuredValue* value, CERT_RDN_ATTR* attr) {
+  PlainAttribute plain;
+  if (SplitPlainRdn(rdn, &plain)) {
+    return FillType(plain.type, attr) && FillValue(plain.value, value, attr);
+  }
   Status status = Status::kOk;
   AttributeElements attribute;
-  if (!SplitRdn(rdn, &attribute, &status)) {
+  if (!SplitAnyRdn(rdn, &attribute, &status)) {
     return status != Status::kOk ? FailWith(status) : false;
   }
   for (const Element& child : attribute.child) {
     status = StandsAlone(child);
     if (status != Status::kOk) return FailWith(status);
-    const bool filled = IsType(child) ? FillType(child, attr) : FillValue(child, scratch, attr);
+    const bool filled = IsType(child) ? FillType(child, attr) : FillValue(child, value, attr);
     if (!filled) return false;
   }
   return true;
@@ -137,11 +99,11 @@ bool X500NameDecoder::Decode(const IdentObj& name, CertNameInfoWrapper& info) {
   info.Clean();
   CERT_NAME_INFO* tree = info;
   AllocateTree(static_cast<DWORD>(count), tree);
-  std::wstring scratch;
+  StructuredValue value;
   ElementReader reader(bytes);
   Element rdn;
   for (DWORD i = 0; reader.Next(&rdn); ++i) {
-    if (!DecodeElem(rdn.bytes, &scratch, &tree->rgRDN[i].rgRDNAttr[0])) return false;
+    if (!DecodeElem(rdn.bytes, &value, &tree->rgRDN[i].rgRDNAttr[0])) return false;
   }
   return true;
 }

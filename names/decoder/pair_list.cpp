@@ -1,6 +1,9 @@
 // A name as pairs of type and values.
 #include <ortholan/name_decoder.h>
 
+#include <tuple>
+
+#include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/type_name.h"
@@ -9,25 +12,49 @@
 namespace Ortholan {
 namespace {
 
-using Pair = std::pair<std::wstring, std::list<std::wstring>>;
+using Values = std::list<std::wstring>;
+using Pairs = std::list<std::pair<std::wstring, Values>>;
 
-bool DecodeElem(ByteView rdn, DWORD style, Pair* pair) {
+Values* AddPair(const TypeText& type, DWORD style, Pairs* pairs) {
+  const std::wstring_view key = KeyFor(type, style);
+  const std::wstring_view text = key.empty() && type.row() != nullptr ? type.row()->wide_oid : key;
+  Pairs::reference pair = pairs->emplace_back(
+      std::piecewise_construct, std::forward_as_tuple(text.data(), text.size()), std::tuple<>());
+  if (text.empty()) AppendAscii(type.dotted(), &pair.first);
+  return &pair.second;
+}
+
+// The usual shape with a text in ASCII; false for any other, `pairs` unchanged.
+bool DecodeAsciiElem(ByteView rdn, DWORD style, Pairs* pairs) {
+  PlainAttribute plain;
+  TypeText type;
+  AsciiValue value;
+  if (!SplitPlainRdn(rdn, &plain) || !DecodeAttrOid(plain.type, &type)) return false;
+  if (!value.Decode(plain.value)) return false;
+  Values* const values = AddPair(type, style, pairs);
+  const std::string_view text = value.text();
+  if (!text.empty()) values->emplace_back(text.begin(), text.end());
+  return true;
+}
+
+// Children are decoded in the order in which they stand, so that the first failure is told.
+bool DecodeElem(ByteView rdn, DWORD style, Pairs* pairs) {
+  if (DecodeAsciiElem(rdn, style, pairs)) return true;
   Status status = Status::kOk;
   AttributeElements attribute;
   if (!SplitRdn(rdn, &attribute, &status)) {
     return status != Status::kOk ? FailWith(status) : false;
   }
+  TypeText type;
+  Values values;
   for (const Element& child : attribute.child) {
     status = StandsAlone(child);
     if (status != Status::kOk) return FailWith(status);
-    if (!IsType(child)) {
-      if (!DecodeAttrData(child, &pair->second)) return false;
-      continue;
-    }
-    TypeText type;
-    if (!DecodeAttrOid(child, &type)) return false;
-    AppendType(type, style, &pair->first);
+    const bool decoded =
+        IsType(child) ? DecodeAttrOid(child, &type) : DecodeAttrData(child, &values);
+    if (!decoded) return false;
   }
+  AddPair(type, style, pairs)->swap(values);
   return true;
 }
 
@@ -43,10 +70,7 @@ bool X500NameDecoder::Decode(const IdentObj& name,
   bool decoded = true;
   ElementReader reader(bytes);
   for (Element rdn; reader.Next(&rdn);) {
-    if (!decoded) continue;
-    pairs.emplace_back();
-    decoded = DecodeElem(rdn.bytes, style, &pairs.back());
-    if (!decoded) pairs.pop_back();
+    decoded = decoded && DecodeElem(rdn.bytes, style, &pairs);
   }
   if (!reader.fault()) return decoded;
   // A fault of the sequence itself counts before everything else and leaves no pairs.

@@ -8,14 +8,17 @@ namespace Ortholan {
 
 bool DecodeAttrOid(const Element& element, TypeText* type) {
   ByteView content;
-  Status status = BoundedContent(element.header, element.bytes.end(), &content);
-  if (status != Status::kOk) return FailWith(status);
+  const Status status = BoundedContent(element.header, element.bytes.end(), &content);
+  return status == Status::kOk ? DecodeAttrOid(content, type) : FailWith(status);
+}
+
+bool DecodeAttrOid(ByteView content, TypeText* type) {
   type->row_ = FindAttributeByDer(content);
   if (type->row_ != nullptr) {
     type->dotted_ = type->row_->oid;
     return true;
   }
-  status = FormatOid(content, &type->formatted_);
+  const Status status = FormatOid(content, &type->formatted_);
   if (status != Status::kOk) return FailWith(status);
   const size_t length = type->formatted_.size();
   type->formatted_.push_back('\0');

@@ -18,7 +18,7 @@ class TypeText {
   const AttributeRow* row() const { return row_; }
 
  private:
-  friend bool DecodeAttrOid(const Element& element, TypeText* type);
+  friend bool DecodeAttrOid(ByteView content, TypeText* type);
 
   const AttributeRow* row_ = nullptr;  // null for octets that the table has not
   std::string_view dotted_;            // into the row or `formatted_`
@@ -27,6 +27,7 @@ class TypeText {
 
 // Renders the content of an identifier element, whatever its class. False with the last error set
 // where the content is no identifier.
+bool DecodeAttrOid(ByteView content, TypeText* type);
 bool DecodeAttrOid(const Element& element, TypeText* type);
 
 // The platform's name of the type, otherwise the table's key; empty where neither has one, and the

@@ -46,7 +46,7 @@ class Keys {
     text_.reserve(name.cbData);
     return ForEachRdn(name, [this](ByteView rdn) {
       DecodedAttribute attribute;
-      if (!ReadAttribute(rdn, &attribute)) return false;
+      if (!attribute.Read(rdn)) return false;
       Add(attribute);
       return true;
     });
@@ -71,16 +71,15 @@ class Keys {
 
   void Add(const DecodedAttribute& attribute) {
     const size_t start = text_.size();
-    AppendAscii(attribute.type.dotted(), &text_);
+    AppendAscii(attribute.type().dotted(), &text_);
     const size_t value = text_.size();
     text_.push_back(L'=');
-    AsciiValue ascii;
-    if (ascii.Decode(attribute.value)) {
-      AppendAscii(ascii.text(), &text_);
-    } else if (!DecodeAttrData(attribute.value, &text_)) {
+    if (attribute.is_ascii()) {
+      AppendAscii(attribute.ascii(), &text_);
+    } else if (!DecodeAttrData(attribute.value(), &text_)) {
       text_.resize(value);
       text_.push_back(L'#');
-      const ByteView octets = attribute.value.bytes;
+      const ByteView octets = attribute.value().bytes;
       text_.append(octets.begin(), octets.end());
     }
     *spans_.Extend(1) = {start, text_.size() - start};
@@ -97,13 +96,10 @@ class Keys {
 // An RDN of the usual shape with a type of the table can be read without looking further.
 bool IsReadable(const X509Name& name) {
   return ForEachRdn(name, [](ByteView rdn) {
-    AttributeElements plain;
-    if (SplitPlainRdn(rdn, &plain)) {
-      const Element& type = plain.child[0];
-      if (FindAttributeByDer({type.header.content, type.header.length}) != nullptr) return true;
-    }
+    PlainAttribute plain;
+    if (SplitPlainRdn(rdn, &plain) && FindAttributeByDer(plain.type) != nullptr) return true;
     DecodedAttribute attribute;
-    return ReadAttribute(rdn, &attribute);
+    return attribute.Read(rdn);
   });
 }
 

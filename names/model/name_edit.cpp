@@ -12,7 +12,6 @@
 #include "foundation/utf16.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
-#include "names/decoder/value_text.h"
 #include "names/model/name_text.h"
 
 namespace Ortholan {
@@ -62,23 +61,23 @@ bool ReadSimpleRdn(const X509Name& name, const char* oid, Text* out) {
 
 // The value's text as the platform renders it from the tree's form. ASCII is itself in every code
 // page and is not handed over.
-void ReadPairValue(const Element& value, CZEPString* out) {
-  AsciiValue ascii;
-  if (ascii.Decode(value)) {
-    const std::string_view text = ascii.text();
+void ReadPairValue(const DecodedAttribute& attribute, CZEPString* out) {
+  if (attribute.is_ascii()) {
+    const std::string_view text = attribute.ascii();
     *out = RequiredText(text.substr(0, text.find('\0')));
     return;
   }
   std::wstring wide;
   CERT_RDN_ATTR attr = {};
   std::vector<BYTE> bytes;
-  if (DecodeAttrData(value, &wide)) {
+  if (DecodeAttrData(attribute.value(), &wide)) {
     // A terminator, which the platform looks for.
     bytes.resize(2 * wide.size() + 2);
     WriteUtf16Le(wide, bytes.data());
     attr.dwValueType = CERT_RDN_UNICODE_STRING;
   } else {
-    bytes.assign(value.bytes.begin(), value.bytes.end());
+    const ByteView encoding = attribute.value().bytes;
+    bytes.assign(encoding.begin(), encoding.end());
     attr.dwValueType = CERT_RDN_ENCODED_BLOB;
   }
   attr.Value = {static_cast<DWORD>(bytes.size()), bytes.data()};
@@ -89,18 +88,17 @@ void ReadPairValue(const Element& value, CZEPString* out) {
 template <typename Pairs>
 bool ReadPairs(const X509Name& name, Pairs* pairs) {
   Pairs found;
-  Fault fault;
   const auto append = [&found](const DecodedAttribute& attribute) {
-    found.emplace_back();
-    found.back().key = RequiredText(attribute.type.dotted());
-    ReadPairValue(attribute.value, &found.back().value);
+    SimpleRDN& rdn = found.emplace_back();
+    rdn.key = RequiredText(attribute.type().dotted());
+    ReadPairValue(attribute, &rdn.value);
     return true;
   };
   if constexpr (std::is_same_v<Pairs, std::vector<SimpleRDN>>) {
     size_t count = 0;
     if (CountChildren(ByteView(name), &count) == Status::kOk) found.reserve(count);
   }
-  if (name.cbData != 0 && !ForEachAttribute(ByteView(name), &fault, append)) return false;
+  if (name.cbData != 0 && !ForEachAttribute(ByteView(name), append)) return false;
   pairs->swap(found);
   return true;
 }

@@ -9,6 +9,7 @@
 #include "foundation/status_code.h"
 #include "foundation/untyped_failure.h"
 #include "names/decoder/name_renderer.h"
+#include "names/decoder/structured_value.h"
 #include "names/encoder/encoder_options.h"
 #include "names/encoder/text_encoder.h"
 #include "names/model/name_text.h"
@@ -197,15 +198,17 @@ void X509Name::GetNameInfo(std::list<std::list<RDNAttr>>& out) const {
 
 bool X509Name::TryGetNameInfo(std::list<std::list<RDNAttr>>& out) const {
   std::list<std::list<RDNAttr>> rdns;
-  if (cbData != 0) {
-    CertNameInfoWrapper wrapper;
-    if (!X500NameDecoder().Decode(*this, wrapper)) return false;
-    const CERT_NAME_INFO& info = *static_cast<CERT_NAME_INFO*>(wrapper);
-    for (DWORD i = 0; i < info.cRDN; ++i) {
-      const CERT_RDN& rdn = info.rgRDN[i];
-      rdns.emplace_back(rdn.rgRDNAttr, rdn.rgRDNAttr + rdn.cRDNAttr);
-    }
-  }
+  StructuredValue value;
+  const auto append = [&](const DecodedAttribute& attribute) {
+    if (!value.Read(attribute)) return false;
+    RDNAttr& attr = rdns.emplace_back().emplace_back();
+    attr.oid = RequiredText(attribute.type().dotted());
+    attr.valueType = value.type();
+    attr.value.Allocate(value.size());
+    value.Write(attr.value.pbData);
+    return true;
+  };
+  if (cbData != 0 && !ForEachAttribute(ByteView(*this), append)) return false;
   out.swap(rdns);
   return true;
 }
