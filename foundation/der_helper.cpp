@@ -46,8 +46,8 @@ IdentObj PutPrimitive(Tag tag, ByteView value) {
 
 // Shared by both directions of conversion: too long a text is an argument fault of the first call.
 template <typename From, typename To>
-To Convert(const From& text, UINT codePage, const char* sizeFault, const char* fillFault,
-           Conversion (*convert)(std::basic_string_view<typename From::value_type>, UINT, To*)) {
+To Convert(std::basic_string_view<From> text, UINT codePage, const char* sizeFault,
+           const char* fillFault, Conversion (*convert)(std::basic_string_view<From>, UINT, To*)) {
   To out;
   if (text.size() > static_cast<size_t>(std::numeric_limits<int>::max())) {
     Throw({Status::kBadArgument, sizeFault});
@@ -56,6 +56,11 @@ To Convert(const From& text, UINT codePage, const char* sizeFault, const char* f
   if (done == Conversion::kSizeFailed) ThrowLastError(sizeFault);
   if (done == Conversion::kFillFailed) ThrowLastError(fillFault);
   return out;
+}
+
+std::wstring WidenText(std::string_view text, UINT codePage) {
+  return Convert(text, codePage, "DerHelper::ToWString MultiByteToWideChar(1)",
+                 "DerHelper::ToWString MultiByteToWideChar(2)", &Widen);
 }
 
 }  // namespace
@@ -114,20 +119,17 @@ std::wstring DecodeUtf8String(const IdentObj& value, bool anyTag) {
   ByteView content;
   const Status status = BoundedContent(header, ByteView(value).end(), &content);
   if (status != Status::kOk) Throw({status, kWhere});
-  return ToWString(std::string(AsText(content)), kCodePageUtf8);
+  const std::string_view text = AsText(content);
+  if (IsAscii(text)) return std::wstring(text.begin(), text.end());
+  return WidenText(text, kCodePageUtf8);
 }
 
 std::string ToString(const std::wstring& text, UINT codePage) {
-  return Convert<std::wstring, std::string>(text, codePage,
-                                            "DerHelper::ToString WideCharToMultiByte(1)",
-                                            "DerHelper::ToString WideCharToMultiByte(2)", &Narrow);
+  return Convert(std::wstring_view(text), codePage, "DerHelper::ToString WideCharToMultiByte(1)",
+                 "DerHelper::ToString WideCharToMultiByte(2)", &Narrow);
 }
 
-std::wstring ToWString(const std::string& text, UINT codePage) {
-  return Convert<std::string, std::wstring>(text, codePage,
-                                            "DerHelper::ToWString MultiByteToWideChar(1)",
-                                            "DerHelper::ToWString MultiByteToWideChar(2)", &Widen);
-}
+std::wstring ToWString(const std::string& text, UINT codePage) { return WidenText(text, codePage); }
 
 char ToPrintableChar(char character) noexcept {
   return static_cast<unsigned char>(character) >= 0x80 ? '.' : character;

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "foundation/ascii.h"
+
 namespace Ortholan {
 namespace {
 
@@ -19,12 +21,18 @@ void AppendArc(uint32_t arc, OidText* text) {
   text->Truncate(before + static_cast<size_t>(end.ptr - first));
 }
 
+// Reads decimal digits at the front of `*rest`. False where there are none or the arc passes 32
+// bits.
 bool ReadArc(std::string_view* rest, uint32_t* arc) {
-  const char* const end = rest->data() + rest->size();
-  const std::from_chars_result read = std::from_chars(rest->data(), end, *arc);
-  if (read.ec != std::errc()) return false;
-  rest->remove_prefix(static_cast<size_t>(read.ptr - rest->data()));
-  return true;
+  uint64_t value = 0;
+  size_t digits = 0;
+  for (; digits < rest->size() && IsAsciiDigit((*rest)[digits]); ++digits) {
+    value = value * 10 + static_cast<uint64_t>((*rest)[digits] - '0');
+    if (value > std::numeric_limits<uint32_t>::max()) return false;
+  }
+  rest->remove_prefix(digits);
+  *arc = static_cast<uint32_t>(value);
+  return digits != 0;
 }
 
 bool SkipDot(std::string_view* rest) {
@@ -35,14 +43,11 @@ bool SkipDot(std::string_view* rest) {
 
 // Base 128, most significant group first.
 void AppendGroups(uint32_t arc, SmallBuffer<BYTE, kMaxOidContent>* content) {
-  BYTE groups[kMaxArcGroups];
-  size_t count = 0;
-  do {
-    groups[count++] = static_cast<BYTE>(arc & 0x7F);
-    arc >>= 7;
-  } while (arc != 0);
-  while (count > 1) content->push_back(groups[--count] | kMoreGroups);
-  content->push_back(groups[0]);
+  size_t groups = 1;
+  while (groups < kMaxArcGroups && arc >> (7 * groups) != 0) ++groups;
+  BYTE* out = content->Extend(groups);
+  while (--groups != 0) *out++ = static_cast<BYTE>(arc >> (7 * groups) | kMoreGroups);
+  *out = static_cast<BYTE>(arc & 0x7F);
 }
 
 }  // namespace

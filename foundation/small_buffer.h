@@ -36,6 +36,9 @@ class SmallBuffer {
     const T copy = item;
     *Extend(1) = copy;
   }
+  void Reserve(size_t count) {
+    if (count > capacity_) Grow(count - size_);
+  }
   // Room for `count` more items at the end; returns the first of them.
   T* Extend(size_t count) {
     if (count > capacity_ - size_) Grow(count);

@@ -1,5 +1,7 @@
 #include "foundation/utf16.h"
 
+#include <algorithm>
+
 namespace Ortholan {
 namespace {
 
@@ -13,7 +15,7 @@ BYTE* WriteUnit(uint32_t unit, BYTE* out) {
 }
 
 constexpr bool IsPair(uint32_t character) {
-  return character > kLastUnit && character <= kLastCodePoint;
+  return character - kFirstPair <= kLastCodePoint - kFirstPair;
 }
 
 }  // namespace
@@ -24,23 +26,28 @@ size_t CountUnits(std::wstring_view text) {
   return units;
 }
 
+// A unit takes one to three octets; the two surrogates of a pair take four instead of six. No
+// branch in the inner loop: the compiler takes many units at a time.
 uint64_t CountUtf8(std::wstring_view text) {
-  uint64_t octets = 0;
-  for (size_t i = 0; i < text.size(); ++i) {
-    const uint32_t c = static_cast<uint32_t>(text[i]);
-    if (c < 0x80) {
-      octets += 1;
-    } else if (c < 0x800) {
-      octets += 2;
-    } else if (IsPair(c)) {
-      octets += 4;
-    } else if (IsHighSurrogate(c) && i + 1 < text.size() &&
-               IsLowSurrogate(static_cast<uint32_t>(text[i + 1]))) {
-      octets += 4;
-      ++i;
-    } else {
-      octets += 3;
+  constexpr size_t kBlock = 4096;
+  const wchar_t* const units = text.data();
+  uint64_t octets = text.size();
+  for (size_t i = 0; i < text.size(); i += kBlock) {
+    const size_t end = std::min(text.size(), i + kBlock);
+    uint32_t more = 0;
+    for (size_t k = i; k < end; ++k) {
+      const auto c = static_cast<uint32_t>(units[k]);
+      more += static_cast<uint32_t>(c >= 0x80) + static_cast<uint32_t>(c >= 0x800) +
+              static_cast<uint32_t>(IsPair(c));
     }
+    uint32_t pairs = 0;
+    for (size_t k = std::max<size_t>(i, 1); k < end; ++k) {
+      const auto high = static_cast<uint32_t>(units[k - 1]);
+      const auto low = static_cast<uint32_t>(units[k]);
+      pairs +=
+          static_cast<uint32_t>(IsHighSurrogate(high)) & static_cast<uint32_t>(IsLowSurrogate(low));
+    }
+    octets += more - 2 * pairs;
   }
   return octets;
 }

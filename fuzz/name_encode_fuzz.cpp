@@ -103,13 +103,14 @@ void CheckParsers(const std::wstring& text, DWORD options) {
   if (!divided) return;
   LAW(parser.elements().size() == elements.size());
   auto element = elements.begin();
-  for (const NameElem<char>& found : parser.elements()) {
-    const std::string_view type = found.row != nullptr ? found.row->oid : std::string_view();
-    LAW(element->type == std::wstring(type.begin(), type.end()));
-    LAW(element->value == std::wstring(found.value.begin(), found.value.end()));
-    LAW(found.classes == CommonClasses(std::wstring_view(element->value)));
+  parser.elements().ForEach([&element](const NameElem<char>& found) {
+    const AttributeRow* const row = found.row();
+    LAW(element->type == (row != nullptr ? row->wide_oid : std::wstring_view()));
+    LAW(element->value == std::wstring(found.value().begin(), found.value().end()));
+    LAW(found.classes() == CommonClasses(std::wstring_view(element->value)));
     ++element;
-  }
+    return true;
+  });
 }
 
 // The 8-bit operations of the name, which throw and do not.

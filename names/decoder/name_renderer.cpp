@@ -1,8 +1,12 @@
 #include "names/decoder/name_renderer.h"
 
+#include <cstdint>
+#include <cstring>
+
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "names/decoder/quoting.h"
+#include "names/decoder/short_key.h"
 #include "names/decoder/type_name.h"
 #include "names/decoder/value_text.h"
 #include "platform/string_value.h"
@@ -31,22 +35,43 @@ std::string_view SeparatorFor(DWORD options, DWORD style) {
 
 // Copies characters and collects their quote classes; false for one that is not ASCII.
 bool CopyAscii(const char* from, size_t size, char* to, unsigned* classes) {
-  unsigned seen = 0;
+  constexpr size_t kWord = sizeof(uint64_t);
+  constexpr uint64_t kHighBits = 0x8080808080808080;
+  uint64_t seen = 0;
   unsigned found = 0;
-  for (size_t i = 0; i < size; ++i) {
-    const auto c = static_cast<unsigned char>(from[i]);
-    seen |= c;
-    found |= kQuoteClasses.begin()[c & 0x7F];
+  size_t i = 0;
+  for (; size - i >= kWord; i += kWord) {
+    uint64_t word;
+    std::memcpy(&word, from + i, kWord);
+    std::memcpy(to + i, &word, kWord);
+    seen |= word;
+    for (size_t k = 0; k < kWord; ++k) found |= kQuoteClasses.begin()[word >> (8 * k) & 0x7F];
+  }
+  for (; i < size; ++i) {
+    seen |= static_cast<unsigned char>(from[i]);
+    found |= kQuoteClasses.begin()[from[i] & 0x7F];
     to[i] = from[i];
   }
   *classes = found;
-  return seen < 0x80;
+  return (seen & kHighBits) == 0;
 }
 
 template <size_t N>
 void AppendTo(std::string_view text, SmallBuffer<char, N>* out) {
   char* to = out->Extend(text.size());
   for (const char c : text) *to++ = c;
+}
+
+// Takes an RDN apart whose type comes first, as a long value's does too.
+bool SplitTypeFirst(ByteView rdn, PlainAttribute* out) {
+  if (SplitPlainRdn(rdn, out)) return true;
+  Status status = Status::kOk;
+  AttributeElements any;
+  if (!SplitAnyRdn(rdn, &any, &status) || !IsType(any.child[0])) return false;
+  const Element& type = any.child[0];
+  out->value = any.child[1];
+  return StandsAlone(type) == Status::kOk && StandsAlone(out->value) == Status::kOk &&
+         BoundedContent(type.header, type.bytes.end(), &out->type) == Status::kOk;
 }
 
 bool QuotesAnEnd(char c) {
@@ -101,12 +126,12 @@ void NameRenderer::SwitchToWide() {
   is_wide_ = true;
 }
 
-// Takes the RDN where it has the usual shape and ASCII text; otherwise nothing is appended and it
-// is left to RenderWide, failures included.
+// Takes the RDN where its type comes first and its text is ASCII; otherwise nothing is appended and
+// it is left to RenderWide, failures included.
 bool NameRenderer::RenderAscii(ByteView rdn) {
   const size_t before = ascii_.size();
   PlainAttribute attribute;
-  if (!SplitPlainRdn(rdn, &attribute)) return false;
+  if (!SplitTypeFirst(rdn, &attribute)) return false;
   if (before != 0) AppendTo(separator_, &ascii_);
   if (AppendAsciiType(attribute.type) && AppendAsciiValue(attribute.value)) return true;
   ascii_.Truncate(before);
@@ -117,20 +142,34 @@ bool NameRenderer::AppendAsciiType(ByteView content) {
   TypeText type;
   if (!DecodeAttrOid(content, &type)) return false;
   if (style_ == kStyleValuesOnly) return true;
-  const std::wstring_view key = KeyFor(type, style_);
-  if (key.empty()) {
-    AppendTo(type.dotted(), &ascii_);
-  } else {
-    char* out = ascii_.Extend(key.size());
-    unsigned seen = 0;
-    for (const wchar_t c : key) {
+  const ShortKey key = style_ == kStyleKeys ? GetShortKey(type) : ShortKey();
+  if (key.size() == 0) return AppendLongType(type);
+  const size_t before = ascii_.size();
+  char* const out = ascii_.Extend(ShortKey::kLongest + 1);
+  key.Write(out);
+  out[key.size()] = '=';
+  ascii_.Truncate(before + key.size() + 1);
+  return true;
+}
+
+// False for a key that is not ASCII.
+bool NameRenderer::AppendLongType(const TypeText& type) {
+  unsigned seen = 0;
+  const auto append = [this, &seen](const auto& text) {
+    char* out = ascii_.Extend(text.size() + 1);
+    for (const auto c : text) {
       seen |= static_cast<unsigned>(c);
       *out++ = static_cast<char>(c);
     }
-    if (seen >= 0x80) return false;
+    *out = '=';
+  };
+  const std::wstring_view key = KeyFor(type, style_);
+  if (key.empty()) {
+    append(type.dotted());
+  } else {
+    append(key);
   }
-  ascii_.push_back('=');
-  return true;
+  return seen < 0x80;
 }
 
 bool NameRenderer::AppendAsciiValue(const Element& child) {

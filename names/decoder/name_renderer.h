@@ -10,6 +10,7 @@
 #include "foundation/byte_view.h"
 #include "foundation/small_buffer.h"
 #include "names/decoder/attribute_elements.h"
+#include "names/decoder/type_name.h"
 
 namespace Ortholan {
 
@@ -37,6 +38,7 @@ class NameRenderer {
   bool RenderWide(ByteView rdn);
   bool RenderAscii(ByteView rdn);
   bool AppendAsciiType(ByteView content);
+  bool AppendLongType(const TypeText& type);
   bool AppendAsciiValue(const Element& child);
   bool AppendWideType(const Element& child);
   bool AppendWideValue(const Element& child);

@@ -1,14 +1,16 @@
-// Attributes of structures as text, for the writer to choose their string type anew.
+// Values of structures as the characters that the writer chooses a string type for anew.
 #ifndef ORTHOLAN_NAMES_ENCODER_ATTRIBUTE_SOURCE_H_
 #define ORTHOLAN_NAMES_ENCODER_ATTRIBUTE_SOURCE_H_
 
 #include <ortholan/platform.h>
 #include <ortholan/rdn.h>
 
-#include <string>
 #include <string_view>
 
+#include "foundation/arena.h"
 #include "foundation/byte_view.h"
+#include "foundation/code_page.h"
+#include "names/encoder/value_encoder.h"
 
 namespace Ortholan {
 
@@ -22,10 +24,15 @@ struct AttributeView {
   explicit AttributeView(const CERT_RDN_ATTR& attr);
 };
 
-// The attribute's value as wide text: types 4 and 7 in the thread's code page, 13 UTF-8, 12
-// UTF-16LE (a length in bytes, of which at most two trailing NULs are the decoder's padding). An
-// empty value is "". False for any other type and for bytes that the platform cannot convert.
-bool ConvToX500NameElem(const AttributeView& attr, std::wstring* value);
+// The characters of 8-bit text: of the text itself where it is ASCII, otherwise wide ones in
+// `arena`. False where the platform cannot convert it.
+bool WidenCharacters(std::string_view text, UINT codePage, Arena* arena, Characters* characters);
+
+// The attribute's value: types 4 and 7 in the thread's code page, 13 UTF-8, 12 UTF-16LE (a length
+// in bytes, of which at most two trailing NULs are the decoder's padding). An empty value has no
+// characters. False for any other type and for bytes that the platform cannot convert. The
+// characters live as long as the attribute and `arena`.
+bool ConvToX500NameElem(const AttributeView& attr, Arena* arena, Characters* value);
 
 }  // namespace Ortholan
 

@@ -51,7 +51,12 @@ inline unsigned ClassesOf(char c) { return kCharClasses.begin()[c & 0x7F]; }
 template <typename Char>
 unsigned CommonClasses(std::basic_string_view<Char> text) {
   unsigned common = kInBoth;
-  for (const Char c : text) common &= ClassesOf(c);
+  const Char* at = text.data();
+  const Char* const end = at + text.size();
+  for (; end - at >= 4; at += 4) {
+    common &= ClassesOf(at[0]) & ClassesOf(at[1]) & ClassesOf(at[2]) & ClassesOf(at[3]);
+  }
+  for (; at != end; ++at) common &= ClassesOf(*at);
   return common;
 }
 

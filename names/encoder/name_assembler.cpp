@@ -22,7 +22,7 @@ bool AllocateName(uint64_t content, IdentObj* name) {
   return true;
 }
 
-bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
+bool NameAssembler::EncodeElem(std::string_view type, const Characters& value) {
   SmallBuffer<BYTE, kMaxOidContent> content;
   const AttributeRow* row = FindAttribute(type);
   if (row == nullptr) {
@@ -32,17 +32,18 @@ bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
   const ValueRule rule = row != nullptr ? row->rule : ValueRule::kFreeText;
   const bool lines = row != nullptr && row->lines;
   DWORD value_type = 0;
-  if (value.empty() || !DetermineTargetType(rule, CommonClasses(value), options_, &value_type)) {
+  if (value.size == 0 || !DetermineTargetType(rule, CommonClasses(value), options_, &value_type)) {
     return false;
   }
   const uint64_t size = MeasureValue(value, value_type, lines);
-  plans_.push_back({row, oids_.size(), 0, {value, value_type, lines, size}, false});
-  if (row != nullptr) {
-    plans_.back().oid_size = row->der.size;
-    return true;
-  }
-  const size_t oid_size = static_cast<size_t>(ElementSize(content.size()));
-  plans_.back().oid_size = oid_size;
+  const uint64_t oid_size = row != nullptr ? row->der.size : ElementSize(content.size());
+  Plan* const plan = plans_.Extend(1);
+  plan->row = row;
+  plan->oid_offset = oids_.size();
+  plan->value = {value, value_type, lines, size};
+  plan->oid_size = static_cast<uint16_t>(oid_size);
+  plan->ends_rdn = false;
+  if (row != nullptr) return true;
   WriteBytes(WriteHeader(oids_.Extend(oid_size), kTagOid, content.size()),
              {content.data(), content.size()});
   return true;
@@ -50,7 +51,7 @@ bool NameAssembler::EncodeElem(std::string_view type, std::wstring_view value) {
 
 void NameAssembler::EndRdn() {
   if (plans_.empty() || plans_.back().ends_rdn) {
-    plans_.push_back({nullptr, 0, 0, {{}, 0, false, 0}, false});
+    plans_.push_back({});
   }
   plans_.back().ends_rdn = true;
 }

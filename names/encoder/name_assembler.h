@@ -28,9 +28,11 @@ class NameAssembler {
  public:
   explicit NameAssembler(DWORD options) : options_(options) {}
 
+  // Room for so many RDNs of one attribute each; more are welcome.
+  void Reserve(size_t rdns) { plans_.Reserve(rdns); }
   // Adds one attribute with any identifier, in dotted text, to the current RDN. False, with the
   // last error set where the type is no identifier, for what cannot be encoded.
-  bool EncodeElem(std::string_view type, std::wstring_view value);
+  bool EncodeElem(std::string_view type, const Characters& value);
   // Ends the current RDN, which may be empty.
   void EndRdn();
 
@@ -43,8 +45,8 @@ class NameAssembler {
   struct Plan {
     const AttributeRow* row;  // null: the identifier is in `oids_`
     size_t oid_offset;
-    size_t oid_size;  // octets of the whole identifier element
     ValuePlan value;
+    uint16_t oid_size;  // octets of the whole identifier element
     bool ends_rdn;
 
     uint64_t content() const { return oid_size + value.size; }

@@ -54,13 +54,9 @@ bool NameParser<Char>::Parse_NameElems() {
   }
 }
 
-// Member by member: what was just stored singly is slow to read back as a whole.
 template <typename Char>
 void NameParser<Char>::AppendElem() {
-  NameElem<Char>* const elem = elements_.Extend(1);
-  elem->row = row_;
-  elem->value = View(value_.data(), value_.size());
-  elem->classes = value_classes_;
+  elements_.Add()->Set(row_, value_, value_classes_);
   row_ = nullptr;
   value_ = {};
   value_classes_ = kInBoth;
@@ -158,35 +154,29 @@ template <typename Char>
 void NameParser<Char>::ReadQuotedValue() {
   ++next_;
   const View rest = Rest();
-  const size_t quote = rest.find(Char(kQuote));
-  if (quote == View::npos) {
-    token_ = rest;
-    next_ = end_;
-  } else if (HasDoubledQuote(rest, quote)) {
-    token_ = Unescape(rest, quote);
-  } else {
-    token_ = rest.substr(0, quote);
-    next_ += quote + 1;
+  size_t doubled = 0;
+  size_t quote = rest.find(Char(kQuote));
+  while (quote != View::npos && HasDoubledQuote(rest, quote)) {
+    ++doubled;
+    quote = rest.find(Char(kQuote), quote + 2);
   }
+  next_ = quote != View::npos ? next_ + quote + 1 : end_;
+  token_ = rest.substr(0, quote);
+  if (doubled != 0) token_ = Unescape(token_, doubled);
   token_classes_ = CommonClasses(token_);
 }
 
-// Copies the quoted text at the front of `rest`, whose first doubled quote is at `quote`.
+// A copy in which each of the `doubled` doubled quotes is written once.
 template <typename Char>
-auto NameParser<Char>::Unescape(View rest, size_t quote) -> View {
-  // Views into the copy stay valid, because all texts from here on need no more than this.
-  if (unescaped_.empty()) unescaped_.reserve(rest.size());
-  const size_t start = unescaped_.size();
-  size_t copied = 0;
-  while (quote != View::npos && HasDoubledQuote(rest, quote)) {
-    unescaped_.append(rest, copied, quote + 1 - copied);
-    copied = quote + 2;
-    quote = rest.find(Char(kQuote), copied);
+auto NameParser<Char>::Unescape(View quoted, size_t doubled) -> View {
+  const size_t size = quoted.size() - doubled;
+  Char* const copy = unescaped_.Take<Char>(size);
+  Char* out = copy;
+  for (size_t i = 0; i < quoted.size(); ++i) {
+    *out++ = quoted[i];
+    if (quoted[i] == Char(kQuote)) ++i;
   }
-  const size_t end = quote != View::npos ? quote : rest.size();
-  unescaped_.append(rest, copied, end - copied);
-  next_ = quote != View::npos ? next_ + quote + 1 : end_;
-  return View(unescaped_).substr(start);
+  return {copy, size};
 }
 
 template class NameParser<char>;

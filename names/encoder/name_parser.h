@@ -5,27 +5,63 @@
 #include <ortholan/platform.h>
 
 #include <cstdint>
-#include <string>
+#include <iterator>
 #include <string_view>
 
-#include "foundation/small_buffer.h"
+#include "foundation/arena.h"
+#include "foundation/chunked_list.h"
 #include "names/attribute_table.h"
 #include "names/encoder/char_class.h"
 
 namespace Ortholan {
 
-// One `type = value` of the text.
+// One `type = value` of the text, packed: a text may have millions.
 template <typename Char>
-struct NameElem {
-  const AttributeRow* row;             // null: the type text resolved to nothing
-  std::basic_string_view<Char> value;  // quotes removed, trimmed
-  unsigned classes;                    // the alphabets that all of the value is in
-  DWORD type;                          // CERT_RDN_* that the value is written as, once planned
-  uint64_t size;                       // octets of the value's encoding, once planned
+class NameElem {
+ public:
+  using View = std::basic_string_view<Char>;
+
+  void Set(const AttributeRow* row, View value, unsigned classes) {
+    const auto place = row != nullptr ? static_cast<uint64_t>(row - kAttributes) : kNoRow;
+    text_ = value.data();
+    packed_ =
+        uint64_t{value.size()} << kLengthShift | place << kRowShift | classes << kClassesShift;
+  }
+  // What was decided about the value.
+  void Plan(DWORD type, uint64_t size) {
+    packed_ |= type;
+    size_ = size;
+  }
+
+  // Null: the type text resolved to nothing.
+  const AttributeRow* row() const {
+    const size_t place = packed_ >> kRowShift & kNoRow;
+    return place != kNoRow ? &kAttributes[place] : nullptr;
+  }
+  // Quotes removed, trimmed.
+  View value() const { return {text_, static_cast<size_t>(packed_ >> kLengthShift)}; }
+  // The alphabets that all of the value is in.
+  unsigned classes() const { return packed_ >> kClassesShift & kInBoth; }
+  // CERT_RDN_* that the value is written as, and the octets of its encoding.
+  DWORD type() const { return packed_ & kTypeMask; }
+  uint64_t size() const { return size_; }
+
+ private:
+  // No text is so long that its length lacks the bits for the rest.
+  static constexpr unsigned kLengthShift = 16;
+  static constexpr unsigned kRowShift = 8;
+  static constexpr unsigned kClassesShift = 6;
+  static constexpr uint64_t kTypeMask = 0x3F;
+  static constexpr uint64_t kNoRow = 0xFF;
+  static_assert(std::size(kAttributes) < kNoRow && kInBoth < 4);
+
+  const Char* text_;
+  uint64_t packed_;
+  uint64_t size_;
 };
 
 template <typename Char>
-using NameElems = SmallBuffer<NameElem<Char>, 16>;
+using NameElems = ChunkedList<NameElem<Char>, 16>;
 
 // Parses one text: UTF-16 in wide characters, or ASCII in bytes, which most texts are and which
 // goes faster. The elements' values are views into the text, or into the parser where a doubled
@@ -57,7 +93,7 @@ class NameParser {
   bool ReadType();
   void ReadUnquotedValue();
   void ReadQuotedValue();
-  View Unescape(View rest, size_t quote);
+  View Unescape(View quoted, size_t doubled);
 
   bool GetToken(TokenKind kind) { return GetToken() && kind_ == kind; }
   void AppendElem();
@@ -78,7 +114,7 @@ class NameParser {
   View value_;
   unsigned value_classes_ = kInBoth;
   NameElems<Char> elements_;
-  std::basic_string<Char> unescaped_;
+  Arena unescaped_;
 };
 
 extern template class NameParser<char>;

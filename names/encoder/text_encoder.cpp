@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <numeric>
 
 #include "foundation/element_writer.h"
-#include "foundation/small_buffer.h"
 #include "foundation/status_code.h"
 #include "names/encoder/name_assembler.h"
 #include "names/encoder/name_parser.h"
@@ -16,78 +16,120 @@
 namespace Ortholan {
 namespace {
 
-constexpr int kHighestRank = 11;
-// A place for each rank and one for what has none, which goes first.
-constexpr size_t kRankPlaces = kHighestRank + 2;
-
-template <typename Elem>
-size_t PlaceOf(const Elem& elem) {
-  const int rank = elem.row != nullptr ? elem.row->rank : kUnrankedAttribute;
-  return static_cast<size_t>(kHighestRank + 1 - std::min(rank, kHighestRank + 1));
+constexpr int HighestRank() {
+  int highest = 0;
+  for (const AttributeRow& row : kAttributes) highest = std::max(highest, row.rank);
+  return highest;
 }
 
-// By falling rank, equal ranks in their order: a counting sort, because ranks are few.
-template <typename Elems>
-void SortByRank(const Elems& elems, Elems* sorted) {
-  size_t starts[kRankPlaces + 1] = {};
-  for (const auto& elem : elems) ++starts[PlaceOf(elem) + 1];
-  for (size_t place = 1; place <= kRankPlaces; ++place) starts[place] += starts[place - 1];
-  auto* const out = sorted->Take(elems.size());
-  for (const auto& elem : elems) out[starts[PlaceOf(elem)]++] = elem;
-}
+// Where RDNs go that keep their order: behind one another.
+class OnePlace {
+ public:
+  static constexpr bool kSorted = false;
 
-// Octets of the attribute behind its header.
-template <typename Elem>
-uint64_t AttributeContent(const Elem& elem) {
-  return elem.row->der.size + elem.size;
-}
+  void Add(const AttributeRow&, uint64_t octets) { octets_ += octets; }
+  uint64_t Total() const { return octets_; }
+  void Lay(BYTE* out) { next_ = out; }
+  BYTE*& Next(const AttributeRow&) { return next_; }
 
-// Decides how each value is written. `*content` is the octets of all RDNs.
-template <typename Elems>
-bool PlanElements(DWORD options, Elems* elems, uint64_t* content) {
-  uint64_t sum = 0;
-  for (auto& elem : *elems) {
-    if (elem.row == nullptr) return FailWith(Status::kNotEncodable);
-    if (elem.value.empty()) return false;
-    if (!DetermineTargetType(elem.row->rule, elem.classes, options, &elem.type)) return false;
-    elem.size = MeasureValue(Characters(elem.value), elem.type, elem.row->lines);
-    sum += ElementSize(ElementSize(AttributeContent(elem)));
+ private:
+  uint64_t octets_ = 0;
+  BYTE* next_ = nullptr;
+};
+
+// Where sorted RDNs go: by falling rank, those of one rank in their order. Ranks are few, and
+// knowing the octets of each makes every RDN's place known without moving an element.
+class RankPlaces {
+ public:
+  static constexpr bool kSorted = true;
+
+  // Adds an RDN of so many octets.
+  void Add(const AttributeRow& row, uint64_t octets) { octets_[PlaceOf(row)] += octets; }
+  uint64_t Total() const { return std::accumulate(octets_, octets_ + kCount, uint64_t{0}); }
+  // Sets every place to its first position, the first one at `out`.
+  void Lay(BYTE* out) {
+    for (size_t place = 0; place < kCount; out += octets_[place++]) next_[place] = out;
   }
-  *content = sum;
+  // The position behind the RDNs of the row's rank that were written.
+  BYTE*& Next(const AttributeRow& row) { return next_[PlaceOf(row)]; }
+
+ private:
+  static constexpr int kHighest = 11;
+  static constexpr size_t kCount = kHighest + 1;
+  static_assert(HighestRank() == kHighest);
+
+  static size_t PlaceOf(const AttributeRow& row) {
+    return static_cast<size_t>(kHighest - row.rank);
+  }
+
+  uint64_t octets_[kCount] = {};
+  BYTE* next_[kCount];
+};
+
+// Octets of an RDN of one attribute with so much content.
+constexpr uint64_t RdnSize(uint64_t content) { return ElementSize(ElementSize(content)); }
+
+template <typename Elem>
+inline bool PlanElement(DWORD options, const AttributeRow& row, Elem* elem) {
+  const auto value = elem->value();
+  DWORD type = 0;
+  if (value.empty() || !DetermineTargetType(row.rule, elem->classes(), options, &type))
+    return false;
+  elem->Plan(type, MeasureValue(value, type, row.lines));
   return true;
 }
 
-// A copy of fixed size where there is room for it: what is too much is written over.
+// Decides how each value is written. An element without a type is the first of the sorted ones, so
+// that its failure counts before all others there.
+template <typename Places, typename Elems>
+bool PlanElements(DWORD options, Elems* elems, Places* places) {
+  bool planned = true;
+  const bool typed = elems->ForEach([&](auto& elem) {
+    const AttributeRow* const row = elem.row();
+    if (row == nullptr) return FailWith(Status::kNotEncodable);
+    planned = planned && PlanElement(options, *row, &elem);
+    if (!planned) return Places::kSorted;
+    places->Add(*row, RdnSize(row->der.size + elem.size()));
+    return true;
+  });
+  return typed && planned;
+}
+
+// A copy of fixed size where there is room for it before `end`: what is too much is written over.
 BYTE* WriteOid(const OidDer& der, BYTE* out, const BYTE* end) {
   const size_t room = static_cast<size_t>(end - out);
   std::memcpy(out, der.bytes, room >= sizeof(der.bytes) ? sizeof(der.bytes) : der.size);
   return out + der.size;
 }
 
-// One attribute an RDN. False where the platform refuses a value.
-template <typename Elems>
-bool WriteElements(const Elems& elems, BYTE* out, const BYTE* end) {
-  for (const auto& elem : elems) {
-    const uint64_t content = AttributeContent(elem);
-    out = WriteHeader(out, kSetOctet, ElementSize(content));
-    out = WriteHeader(out, kSequenceOctet, content);
-    out = WriteOid(elem.row->der, out, end);
-    const ValuePlan value = {Characters(elem.value), elem.type, elem.row->lines, elem.size};
-    if (!EncodeElemData(value, out)) return false;
-    out += elem.size;
-  }
-  return true;
+// One attribute an RDN. Behind `*out` nothing was written yet, to `end`, or where that is null to
+// the RDN's own end, which `*out` becomes. False where the platform refuses the value.
+template <typename Elem>
+inline bool WriteElement(const Elem& elem, const AttributeRow& row, const BYTE* end, BYTE** out) {
+  const ValuePlan value = {elem.value(), elem.type(), row.lines, elem.size()};
+  const uint64_t content = row.der.size + value.size;
+  BYTE* at = WriteHeader(*out, kSetOctet, ElementSize(content));
+  at = WriteHeader(at, kSequenceOctet, content);
+  *out = at + content;
+  at = WriteOid(row.der, at, end != nullptr ? end : *out);
+  return EncodeElemData(value, at);
 }
 
-template <typename Elems>
+template <typename Places, typename Elems>
 bool EncodeElements(DWORD options, Elems* elems, IdentObj* der) {
-  uint64_t content = 0;
+  Places places;
+  if (!PlanElements(options, elems, &places)) return false;
+  const uint64_t content = places.Total();
   IdentObj name;
-  if (!PlanElements(options, elems, &content) || !AllocateName(content, &name)) return false;
-  BYTE* const out = WriteHeader(name.pbData, kSequenceOctet, content);
-  if (!WriteElements(*elems, out, name.pbData + name.cbData)) return false;
-  *der = std::move(name);
-  return true;
+  if (!AllocateName(content, &name)) return false;
+  places.Lay(WriteHeader(name.pbData, kSequenceOctet, content));
+  const BYTE* const end = Places::kSorted ? nullptr : name.pbData + name.cbData;
+  const bool written = elems->ForEach([&](const auto& elem) {
+    const AttributeRow& row = *elem.row();
+    return WriteElement(elem, row, end, &places.Next(row));
+  });
+  if (written) *der = std::move(name);
+  return written;
 }
 
 template <typename Char>
@@ -98,11 +140,13 @@ bool Encode(std::basic_string_view<Char> trimmed, DWORD options, bool sortByPrio
   const bool parsed = parser.Parse_NameElems();
   *unfinished = parser.unfinished();
   if (!parsed) return false;
-  if (!sortByPriority) return EncodeElements(options, &parser.elements(), der);
-  NameElems<Char> sorted;
-  SortByRank(parser.elements(), &sorted);
-  return EncodeElements(options, &sorted, der);
+  return sortByPriority ? EncodeElements<RankPlaces>(options, &parser.elements(), der)
+                        : EncodeElements<OnePlace>(options, &parser.elements(), der);
 }
+
+// Texts of at most this many characters are read as bytes where they are ASCII. A longer one is not
+// worth the copy.
+constexpr size_t kMostNarrowed = 512;
 
 // Copies `text` to `out` and tells whether all of it is ASCII. No branch in the loop: the compiler
 // takes many characters at a time.
@@ -121,9 +165,9 @@ bool NarrowAscii(std::wstring_view text, char* out) {
 bool EncodeNameText(std::wstring_view text, DWORD options, bool sortByPriority,
                     const AttributeRow** unfinished, IdentObj* der) {
   const std::wstring_view trimmed = Trimmed(text);
-  SmallBuffer<char, 512> ascii;
-  if (NarrowAscii(trimmed, ascii.Take(trimmed.size()))) {
-    const std::string_view narrow(ascii.data(), ascii.size());
+  char ascii[kMostNarrowed];
+  if (trimmed.size() <= kMostNarrowed && NarrowAscii(trimmed, ascii)) {
+    const std::string_view narrow(ascii, trimmed.size());
     return Encode(narrow, options, sortByPriority, unfinished, der);
   }
   return Encode(trimmed, options, sortByPriority, unfinished, der);

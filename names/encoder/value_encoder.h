@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "foundation/element_writer.h"
+#include "names/encoder/char_class.h"
 
 namespace Ortholan {
 
@@ -21,6 +22,11 @@ struct Characters {
   Characters(std::string_view text) : ascii(text.data()), size(text.size()) {}
   Characters(std::wstring_view text) : wide(text.data()), size(text.size()) {}
 };
+
+inline unsigned CommonClasses(const Characters& text) {
+  return text.ascii != nullptr ? CommonClasses(std::string_view(text.ascii, text.size))
+                               : CommonClasses(std::wstring_view(text.wide, text.size));
+}
 
 // The value of one attribute, ready to be written.
 struct ValuePlan {

@@ -1,9 +1,9 @@
 #include <ortholan/name_encoder.h>
 
 #include <algorithm>
-#include <deque>
 #include <vector>
 
+#include "foundation/arena.h"
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "names/encoder/attribute_source.h"
@@ -16,18 +16,35 @@
 namespace Ortholan {
 namespace {
 
-// Adds one RDN of structured attributes; their texts are kept in `texts`.
+// Adds one RDN of structured attributes; what is made of their values is kept in `texts`.
 template <typename Attributes>
 bool AddRdn(const Attributes& begin, const Attributes& end, NameAssembler* assembler,
-            std::deque<std::wstring>* texts) {
+            Arena* texts) {
   for (Attributes attr = begin; attr != end; ++attr) {
     const AttributeView view(*attr);
-    texts->emplace_back();
-    if (!ConvToX500NameElem(view, &texts->back())) return false;
-    if (!assembler->EncodeElem(view.oid, texts->back())) return false;
+    Characters value;
+    if (!ConvToX500NameElem(view, texts, &value)) return false;
+    if (!assembler->EncodeElem(view.oid, value)) return false;
   }
   assembler->EndRdn();
   return true;
+}
+
+bool AddRdn(const SimpleRDN& rdn, NameAssembler* assembler, Arena* texts) {
+  Characters value;
+  if (!WidenCharacters(rdn.value.c_str(), kCodePageThreadAnsi, texts, &value)) return false;
+  if (!assembler->EncodeElem(rdn.key.c_str(), value)) return false;
+  assembler->EndRdn();
+  return true;
+}
+
+std::vector<const SimpleRDN*> ByFallingRank(const std::list<SimpleRDN>& rdns) {
+  std::vector<const SimpleRDN*> order;
+  order.reserve(rdns.size());
+  for (const SimpleRDN& rdn : rdns) order.push_back(&rdn);
+  std::stable_sort(order.begin(), order.end(),
+                   [](const SimpleRDN* a, const SimpleRDN* b) { return *a > *b; });
+  return order;
 }
 
 }  // namespace
@@ -62,11 +79,12 @@ bool X500NameEncoder::DevideIntoElements(const std::wstring& text,
     NameParser<wchar_t> parser(trimmed, options_, unfinished_);
     divided = parser.Parse_NameElems();
     unfinished_ = parser.unfinished();
-    for (const NameElem<wchar_t>& elem : parser.elements()) {
-      if (!divided) break;
-      const std::string_view type = elem.row != nullptr ? elem.row->oid : std::string_view();
-      found.push_back({std::wstring(type.begin(), type.end()), std::wstring(elem.value)});
-    }
+    divided = divided && parser.elements().ForEach([&found](const NameElem<wchar_t>& elem) {
+      const std::wstring_view type =
+          elem.row() != nullptr ? elem.row()->wide_oid : std::wstring_view();
+      found.push_back({std::wstring(type), std::wstring(elem.value())});
+      return true;
+    });
   }
   elements.swap(found);
   return divided;
@@ -79,22 +97,17 @@ bool X500NameEncoder::Encode(const std::wstring& text, IdentObj& der, bool sortB
 
 bool X500NameEncoder::Encode(const std::list<SimpleRDN>& rdns, IdentObj& der, bool sortByPriority) {
   if (rdns.empty()) return FailWith(Status::kBadArgument);
-  std::vector<const SimpleRDN*> order;
-  order.reserve(rdns.size());
-  for (const SimpleRDN& rdn : rdns) order.push_back(&rdn);
-  if (sortByPriority) {
-    std::stable_sort(order.begin(), order.end(),
-                     [](const SimpleRDN* a, const SimpleRDN* b) { return *a > *b; });
-  }
   NameAssembler assembler(options_);
-  std::deque<std::wstring> texts;
-  for (const SimpleRDN* rdn : order) {
-    texts.emplace_back();
-    if (Widen(rdn->value.c_str(), kCodePageThreadAnsi, &texts.back()) != Conversion::kDone) {
-      return false;
+  assembler.Reserve(rdns.size());
+  Arena texts;
+  if (sortByPriority) {
+    for (const SimpleRDN* rdn : ByFallingRank(rdns)) {
+      if (!AddRdn(*rdn, &assembler, &texts)) return false;
     }
-    if (!assembler.EncodeElem(rdn->key.c_str(), texts.back())) return false;
-    assembler.EndRdn();
+  } else {
+    for (const SimpleRDN& rdn : rdns) {
+      if (!AddRdn(rdn, &assembler, &texts)) return false;
+    }
   }
   return assembler.Write(&der);
 }
@@ -102,7 +115,8 @@ bool X500NameEncoder::Encode(const std::list<SimpleRDN>& rdns, IdentObj& der, bo
 bool X500NameEncoder::Encode(const std::list<std::list<RDNAttr>>& rdns, IdentObj& der) {
   if (rdns.empty()) return false;
   NameAssembler assembler(options_);
-  std::deque<std::wstring> texts;
+  assembler.Reserve(rdns.size());
+  Arena texts;
   for (const std::list<RDNAttr>& rdn : rdns) {
     if (!AddRdn(rdn.begin(), rdn.end(), &assembler, &texts)) return false;
   }
@@ -112,7 +126,8 @@ bool X500NameEncoder::Encode(const std::list<std::list<RDNAttr>>& rdns, IdentObj
 bool X500NameEncoder::Encode(const CERT_NAME_INFO& info, IdentObj& der) {
   if (info.cRDN == 0 || info.rgRDN == nullptr) return false;
   NameAssembler assembler(options_);
-  std::deque<std::wstring> texts;
+  assembler.Reserve(info.cRDN);
+  Arena texts;
   for (DWORD i = 0; i < info.cRDN; ++i) {
     const CERT_RDN& rdn = info.rgRDN[i];
     if (rdn.rgRDNAttr == nullptr && rdn.cRDNAttr != 0) return false;

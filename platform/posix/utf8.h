@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "platform/posix/pair_run.h"
+
 namespace Ortholan::posix {
 
 inline constexpr std::uint32_t kReplacement = 0xFFFD;
@@ -32,12 +34,27 @@ inline bool IsAsciiRun(const BYTE* text) {
 struct WideSource {
   const wchar_t* text;
   std::uint32_t operator[](std::size_t i) const { return static_cast<std::uint32_t>(text[i]); }
+  // False where some character is above U+FFFF.
+  bool ReadLanes(std::size_t at, std::uint64_t* lanes) const {
+    std::uint32_t seen = 0;
+    *lanes = 0;
+    for (std::size_t i = 0; i < kPairRun; ++i) {
+      const std::uint32_t unit = (*this)[at + i];
+      seen |= unit;
+      *lanes |= static_cast<std::uint64_t>(unit) << (16 * i);
+    }
+    return seen <= 0xFFFF;
+  }
 };
 
 struct LittleEndianSource {
   const BYTE* text;
   std::uint32_t operator[](std::size_t i) const {
     return text[2 * i] | static_cast<std::uint32_t>(text[2 * i + 1]) << 8;
+  }
+  bool ReadLanes(std::size_t at, std::uint64_t* lanes) const {
+    *lanes = LoadLanes(text + 2 * at);
+    return true;
   }
 };
 
@@ -56,14 +73,18 @@ bool IsAsciiRun(Source text, std::size_t at) {
   return bits < 0x80;
 }
 
-// Sinks. Put and PutRun return false, with nothing put, where the room ends. Sinks travel by value:
-// their fields then live in registers, which stores through `out` could otherwise change.
+// Sinks. Put and the runs return false, with nothing put, where the room ends. Sinks travel by
+// value: their fields then live in registers, which stores through `out` could otherwise change.
 
 struct UnitCounter {
   std::size_t size = 0;
 
   bool PutRun(const BYTE*) {
     size += kRun;
+    return true;
+  }
+  bool PutUnits(std::uint64_t) {
+    size += kPairRun;
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -80,6 +101,14 @@ struct WideWriter {
     if (room < kRun) return false;
     for (std::size_t i = 0; i < kRun; ++i) out[i] = text[i];
     Advance(kRun);
+    return true;
+  }
+  bool PutUnits(std::uint64_t lanes) {
+    if (room < kPairRun) return false;
+    for (std::size_t i = 0; i < kPairRun; ++i) {
+      out[i] = static_cast<wchar_t>(lanes >> (16 * i) & 0xFFFF);
+    }
+    Advance(kPairRun);
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -113,6 +142,11 @@ struct LittleEndianWriter {
     out += 2 * kRun;
     return true;
   }
+  bool PutUnits(std::uint64_t lanes) {
+    StoreLanes(lanes, out);
+    out += 2 * kPairRun;
+    return true;
+  }
   bool Put(std::uint32_t scalar) {
     if (scalar > 0xFFFF) {
       PutUnit(HighSurrogate(scalar));
@@ -137,6 +171,12 @@ struct ByteWriter {
     if (room < kRun) return false;
     for (std::size_t i = 0; i < kRun; ++i) out[i] = static_cast<BYTE>(text[at + i]);
     Advance(kRun);
+    return true;
+  }
+  bool PutPairs(std::uint64_t lanes) {
+    if (room < 2 * kPairRun) return false;
+    StoreLanes(lanes, out);
+    Advance(2 * kPairRun);
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -227,14 +267,23 @@ std::uint32_t ReadUtf16(Source text, std::size_t at, std::size_t left, std::size
   return 0x10000 + ((unit - 0xD800) << 10) + (text[at + 1] - 0xDC00);
 }
 
+// The first character tells which kind of run is worth a try.
 template <class Sink>
 Converted<Sink> FromUtf8(const BYTE* text, std::size_t size, Sink sink) {
   bool broken = false;
   std::size_t i = 0;
   while (i < size) {
-    if (size - i >= kRun && IsAsciiRun(text + i) && sink.PutRun(text + i)) {
-      i += kRun;
-      continue;
+    if (size - i >= kRun && text[i] < 0x80) {
+      if (IsAsciiRun(text + i) && sink.PutRun(text + i)) {
+        i += kRun;
+        continue;
+      }
+    } else if (size - i >= 2 * kPairRun) {
+      const std::uint64_t pairs = LoadLanes(text + i);
+      if (ArePairs(pairs) && sink.PutUnits(UnitsOfPairs(pairs))) {
+        i += 2 * kPairRun;
+        continue;
+      }
     }
     // Where there was no run the next few characters are taken one by one.
     const std::size_t stop = size - i < kRun ? size : i + kRun;
@@ -254,9 +303,18 @@ Converted<Sink> ToUtf8(Source text, std::size_t size, Sink sink) {
   bool broken = false;
   std::size_t i = 0;
   while (i < size) {
-    if (size - i >= kRun && IsAsciiRun(text, i) && sink.PutRun(text, i)) {
-      i += kRun;
-      continue;
+    if (size - i >= kRun && text[i] < 0x80) {
+      if (IsAsciiRun(text, i) && sink.PutRun(text, i)) {
+        i += kRun;
+        continue;
+      }
+    } else if (size - i >= kPairRun) {
+      std::uint64_t units;
+      const bool read = text.ReadLanes(i, &units);
+      if (read && ArePairUnits(units) && sink.PutPairs(PairsOfUnits(units))) {
+        i += kPairRun;
+        continue;
+      }
     }
     const std::size_t stop = size - i < kRun ? size : i + kRun;
     while (i < stop) {
