@@ -126,9 +126,13 @@ void CheckChildren(ByteView bytes) {
   }
 }
 
+// The end of a primitive element in the indefinite form is no part of its octets.
 DWORD ContentLength(const IdentObj& element) {
+  IdentObj ended(element);
+  ended.Resize(element.cbData + 2);
+  ended.pbData[element.cbData] = ended.pbData[element.cbData + 1] = 0;
   ASNT_ASN_STRUCT_INFO info;
-  ASNTGetStructInfo(info, element.pbData, element.cbData);
+  LAW(ASNTGetStructInfo(info, ended.pbData, ended.cbData) == 0);
   return info.length;
 }
 
