@@ -1,0 +1,171 @@
+// Extensions as the library reads and writes them and as OpenSSL reads them: identifier, critical
+// flag and value, of real records and of spoiled ones.
+
+#include <gtest/gtest.h>
+#include <openssl/asn1err.h>
+#include <openssl/x509.h>
+#include <ortholan/cert_extension.h>
+
+#include "tests/differential/differences.h"
+#include "tests/differential/posix/identifiers.h"
+#include "tests/differential/posix/openssl_reader.h"
+#include "tests/differential/samples.h"
+#include "tests/support/hex.h"
+
+namespace Ortholan::testing {
+namespace {
+
+using openssl::Part;
+
+constexpr size_t kMutations = 400;
+
+// One record in both readings.
+struct Case {
+  explicit Case(const std::string& record)
+      : octets(record), theirs(openssl::ReadExtension(record)) {
+    for (const Part& part : openssl::Parts(record, Part::kAttribute)) {
+      if (part.depth == 1) children.push_back(part);
+    }
+    const IdentObj copy = ExactCopy(record);
+    size = ours.ReadData(copy.pbData, copy.cbData, &error);
+  }
+
+  bool IsRefusedFor(int reason) const { return theirs.reason == reason; }
+  std::string octets;
+  openssl::Read<X509_EXTENSION> theirs;
+  std::vector<Part> children;
+  CertExtension ours;
+  DWORD size = 0;
+  int error = 0;
+};
+
+const Rule<Case> kTheyRefuse[] = {
+    {"outer tag", "RFC 5280 4.1; here any constructed element",
+     [](const Case& record) {
+       return record.IsRefusedFor(ASN1_R_WRONG_TAG) && record.octets[0] != 0x30;
+     }},
+    {"value in no primitive OCTET STRING", "RFC 5280 4.1; here the last child is not looked at",
+     [](const Case& record) {
+       return !record.children.empty() && record.children.back().identifier != 0x04;
+     }},
+    {"BOOLEAN of other than one octet", "X.690 8.2.1; here the flag is set where any octet is",
+     [](const Case& record) {
+       return record.IsRefusedFor(ASN1_R_BOOLEAN_IS_WRONG_LENGTH) && record.children.size() == 3 &&
+              record.children[1].content.size() != 1;
+     }},
+    {"padded arc", kPaddedReason,
+     [](const Case& record) {
+       return record.IsRefusedFor(ASN1_R_INVALID_OBJECT_ENCODING) &&
+              HasPaddedArc(record.children[0].content);
+     }},
+    {"length 0 in the long form at an end", "X.690 8.1.3.5; OpenSSL wants an octet behind it",
+     [](const Case& record) {
+       return record.IsRefusedFor(ASN1_R_HEADER_TOO_LONG) &&
+              record.children.back().content.empty() && record.children.back().header_size > 2;
+     }},
+};
+
+const Rule<Case> kWeRefuse[] = {
+    {"BOOLEAN with a long tag", "X.690 8.1.2.2; here its first octet is 01",
+     [](const Case& record) {
+       return record.children.size() == 3 && record.children[1].identifier == 0x1F;
+     }},
+    {"arc above 32 bits", kLongArcReason,
+     [](const Case& record) { return HasLongArc(record.children[0].content); }},
+};
+
+const Rule<Case> kAnswersDiffer[] = {
+    {"first octet of an identifier above 119", kFirstOctetReason,
+     [](const Case& record) { return HasOtherFirstArc(record.children[0].content); }},
+    {"value in a constructed OCTET STRING", "not in DER, X.690 10.2; here its content as it stands",
+     [](const Case& record) { return record.children.back().identifier == 0x24; }},
+};
+
+// Records that show what none of tests/data does.
+const struct {
+  const char* label;
+  const char* record;
+} kCrafted[] = {
+    {"long tag of a BOOLEAN", "30 0A 06 01 2A 1F 01 01 FF 04 01 00"},
+    {"long form of length 0", "30 06 06 01 2A 04 81 00"},
+    {"arc of 33 bits", "30 0B 06 06 2A 90 80 80 80 00 04 01 00"},
+    {"BOOLEAN of no octet", "30 08 06 01 2A 01 00 04 01 00"},
+};
+
+class ExtensionsByOpenssl : public ::testing::Test {
+ protected:
+  void ExpectSame(const Case& record);
+  void Compare(const std::string& octets, size_t* agreed);
+
+  Differences<Case> they_refuse_{kTheyRefuse};
+  Differences<Case> we_refuse_{kWeRefuse};
+  Differences<Case> answers_differ_{kAnswersDiffer};
+};
+
+std::string Shown(const std::string& oid, bool critical, std::string_view value) {
+  return oid + (critical ? " critical " : " ") + Hex(value);
+}
+std::string Shown(const X509_EXTENSION* extension) {
+  // OpenSSL's readers of an extension take it as changeable.
+  auto* const theirs = const_cast<X509_EXTENSION*>(extension);
+  return Shown(openssl::Dotted(X509_EXTENSION_get_object(theirs)),
+               X509_EXTENSION_get_critical(theirs) != 0,
+               openssl::Content(X509_EXTENSION_get_data(theirs)));
+}
+
+void ExtensionsByOpenssl::ExpectSame(const Case& record) {
+  const CertExtension& ours = record.ours;
+  const std::string shown =
+      Shown(std::string(AsText(ours.oid)), ours.critical != 0, AsText(ours.value));
+  const std::string theirs = Shown(record.theirs.value.get());
+  EXPECT_EQ(record.size, record.theirs.size);
+  if (shown != theirs) {
+    EXPECT_TRUE(answers_differ_.Explain(record)) << shown << "\nfor " << theirs;
+    return;
+  }
+  CertExtension copy(ours);
+  int error = 0;
+  const IdentObj written = copy.WriteData(&error);
+  const openssl::Read<X509_EXTENSION> read = openssl::ReadExtension(std::string(AsText(written)));
+  ASSERT_NE(read.value, nullptr);
+  EXPECT_EQ(read.size, written.cbData);
+  EXPECT_EQ(Shown(read.value.get()), theirs);
+}
+
+void ExtensionsByOpenssl::Compare(const std::string& octets, size_t* agreed) {
+  const Case record(octets);
+  const bool accepted = record.theirs.value != nullptr;
+  if (accepted && record.size != 0) {
+    ExpectSame(record);
+    ++*agreed;
+  } else if (accepted) {
+    EXPECT_TRUE(we_refuse_.Explain(record)) << "refused with " << record.error;
+  } else if (record.size != 0) {
+    EXPECT_TRUE(they_refuse_.Explain(record)) << "OpenSSL refuses for " << record.theirs.reason;
+  }
+}
+
+TEST_F(ExtensionsByOpenssl, AreReadAlike) {
+  size_t agreed = 0;
+  size_t spoiled = 0;
+  for (const std::string& octets : Samples("extensions.txt")) {
+    SCOPED_TRACE(Hex(octets));
+    Compare(octets, &agreed);
+    ForEachMutation(octets, kMutations, [&](const std::string& mutation) {
+      SCOPED_TRACE("spoiled: " + Hex(mutation));
+      Compare(mutation, &spoiled);
+    });
+  }
+  for (const auto& crafted : kCrafted) {
+    SCOPED_TRACE(crafted.label);
+    Compare(Octets(crafted.record), &agreed);
+  }
+  EXPECT_GT(agreed, 25u);
+  EXPECT_GT(spoiled, 2000u);
+  they_refuse_.ExpectEachApplied();
+  we_refuse_.ExpectEachApplied();
+  answers_differ_.ExpectEachApplied();
+}
+
+}  // namespace
+}  // namespace Ortholan::testing
