@@ -1,4 +1,4 @@
-# The calls that tests/faults replaces by stand-ins, as the linker knows them.
+# The calls that stand_ins.cpp stands in for, as the linker knows them.
 set(ORTHOLAN_WRAPPED_CALLS
   _ZN8Ortholan19MultiByteToWideCharEjjPKciPwi
   _ZN8Ortholan19WideCharToMultiByteEjjPKwiPciPKcPi
@@ -16,6 +16,7 @@ set(ORTHOLAN_WRAPPED_CALLS
   _ZN8Ortholan9FileCloseEPv
   _ZN8Ortholan8FileReadEPvS0_jPj
   _ZN8Ortholan9FileWriteEPvPKvjPj
+  _ZN8Ortholan12FilePositionEPvPm
   _ZN8Ortholan8FileSeekEPvm
   _ZN8Ortholan8FileSizeEPvPm)
 list(TRANSFORM ORTHOLAN_WRAPPED_CALLS PREPEND "LINKER:--wrap=")
