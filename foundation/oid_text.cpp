@@ -43,7 +43,11 @@ bool SkipDot(std::string_view* rest) {
 
 // Base 128, most significant group first.
 void AppendGroups(uint32_t arc, SmallBuffer<BYTE, kMaxOidContent>* content) {
-  size_t groups = 1;
+  if (arc < kMoreGroups) {
+    *content->Extend(1) = static_cast<BYTE>(arc);
+    return;
+  }
+  size_t groups = 2;
   while (groups < kMaxArcGroups && arc >> (7 * groups) != 0) ++groups;
   BYTE* out = content->Extend(groups);
   while (--groups != 0) *out++ = static_cast<BYTE>(arc >> (7 * groups) | kMoreGroups);

@@ -6,9 +6,9 @@
 
 #include <cstdio>
 #include <list>
+#include <string_view>
 
 #include "foundation/byte_view.h"
-#include "foundation/code_page.h"
 #include "foundation/utf16.h"
 
 namespace Ortholan {
@@ -22,6 +22,8 @@ constexpr const wchar_t* kAssigner = L"Имя назначено: ";
 
 constexpr DWORD kAssignerTag = 0;
 constexpr DWORD kPartyTag = 1;
+
+std::wstring FromAscii(std::string_view text) { return std::wstring(text.begin(), text.end()); }
 
 // As many units as there are bytes: the bytes as UTF-16LE, an odd last one a unit of its own, then
 // NULs.
@@ -77,11 +79,11 @@ std::wstring IpAddressText(const IdentObj& content) {
   } else {
     return kWrongAddressLength;
   }
-  return DerHelper::ToWString(text, kCodePageAnsi);
+  return FromAscii(text);
 }
 
 std::wstring RegisteredIdText(const IdentObj& content) {
-  return DerHelper::ToWString(DerHelper::DecodeOid(content, true), kCodePageAnsi);
+  return FromAscii(DerHelper::DecodeOid(content, true));
 }
 
 struct TextRow {

@@ -94,17 +94,17 @@ bool NameParser<Char>::GetToken() {
   while (*next_ == Char(' ')) {
     if (++next_; AtEnd()) return true;
   }
+  if (*next_ == Char('=')) {
+    kind_ = TokenKind::kEquals;
+    ++next_;
+    return !AtEnd();
+  }
   if (IsElementDelimiter(*next_)) {
     do {
       if (++next_; AtEnd()) return true;
     } while (IsElementDelimiter(*next_));
     kind_ = TokenKind::kDelimiter;
     return true;
-  }
-  if (*next_ == Char('=')) {
-    kind_ = TokenKind::kEquals;
-    ++next_;
-    return !AtEnd();
   }
   if (row_ == nullptr) return ReadType();
   kind_ = TokenKind::kValue;
