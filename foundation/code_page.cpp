@@ -16,6 +16,23 @@ bool FitsTheCalls(size_t length) {
   return false;
 }
 
+Conversion WidenAs(UINT codePage, DWORD flags, std::string_view text, std::wstring* out) {
+  if (text.empty()) {
+    out->clear();
+    return Conversion::kDone;
+  }
+  if (!FitsTheCalls(text.size())) return Conversion::kSizeFailed;
+  const int length = static_cast<int>(text.size());
+  const int size = MultiByteToWideChar(codePage, flags, text.data(), length, nullptr, 0);
+  if (size <= 0) return Conversion::kSizeFailed;
+  std::wstring converted(static_cast<size_t>(size), L'\0');
+  const int written =
+      MultiByteToWideChar(codePage, flags, text.data(), length, converted.data(), size);
+  if (written != size) return Conversion::kFillFailed;
+  *out = std::move(converted);
+  return Conversion::kDone;
+}
+
 }  // namespace
 
 size_t AsciiPrefix(std::string_view text) {
@@ -48,19 +65,11 @@ Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out) {
 }
 
 Conversion Widen(std::string_view text, UINT codePage, std::wstring* out) {
-  if (text.empty()) {
-    out->clear();
-    return Conversion::kDone;
-  }
-  if (!FitsTheCalls(text.size())) return Conversion::kSizeFailed;
-  const int length = static_cast<int>(text.size());
-  const int size = MultiByteToWideChar(codePage, 0, text.data(), length, nullptr, 0);
-  if (size <= 0) return Conversion::kSizeFailed;
-  std::wstring converted(static_cast<size_t>(size), L'\0');
-  const int written = MultiByteToWideChar(codePage, 0, text.data(), length, converted.data(), size);
-  if (written != size) return Conversion::kFillFailed;
-  *out = std::move(converted);
-  return Conversion::kDone;
+  return WidenAs(codePage, 0, text, out);
+}
+
+Conversion WidenUtf8(std::string_view text, std::wstring* out) {
+  return WidenAs(kCodePageUtf8, MB_ERR_INVALID_CHARS, text, out);
 }
 
 void AppendAscii(std::string_view text, std::wstring* out) {

@@ -24,6 +24,8 @@ enum class [[nodiscard]] Conversion{kDone, kSizeFailed, kFillFailed};
 // 87 (ERROR_INVALID_PARAMETER).
 Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out);
 Conversion Widen(std::string_view text, UINT codePage, std::wstring* out);
+// UTF-8 with last error 1113 (ERROR_NO_UNICODE_TRANSLATION) for a broken part.
+Conversion WidenUtf8(std::string_view text, std::wstring* out);
 
 // Appends text of characters below 0x80.
 void AppendAscii(std::string_view text, std::wstring* out);

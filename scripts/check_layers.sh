@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/sources.sh
 source scripts/sources.sh
 
-any="platform foundation names names/encoder names/decoder names/model generalname extensions tests"
+any="platform foundation names names/encoder names/decoder names/model generalname extensions capi tests"
 
 declare -A allowed=(
   [include]=""
@@ -21,8 +21,10 @@ declare -A allowed=(
   [names/model]="names/encoder names/decoder names foundation platform"
   [generalname]="names/decoder names foundation platform"
   [extensions]="foundation platform"
+  [capi]="names names/encoder names/decoder foundation platform"
   [examples]=""
   [tests/boundary]="tests"
+  [tests/capi]="tests"
   [tests/cli]="tests"
   [tests]="$any"
   [fuzz]="$any"
