@@ -3,7 +3,8 @@
 
 #include "tests/capi/check.h"
 
-// C=RU, OU=<Cyrillic I>, STREET=1 Main, 1.2.3.4=A<NUL>B, E=a@b, a number, a broken BMPString.
+// C=RU, OU=<Cyrillic I>, STREET=1 Main, 1.2.3.4=A<NUL>B, E=a@b, a number, a string that cannot be
+// read.
 static const char kName[] =
     "3065"
     "310B3009060355040613025255"
@@ -12,7 +13,7 @@ static const char kName[] =
     "310C300A06032A03040C03410042"
     "3112301006092A864886F70D0109011603614062"
     "310A300806032A0305020105"
-    "310A300806035504031E0141";
+    "310A300806035504032C0141";
 
 typedef struct AttributeRow {
   const char* label;
@@ -32,7 +33,7 @@ static const AttributeRow kAttributes[] = {
     {"unknown type, NUL in the value", "1.2.3.4", "1.2.3.4", SIZED("A\0B"), "0C03410042"},
     {"e-mail", "1.2.840.113549.1.9.1", "E", SIZED("a@b"), "1603614062"},
     {"no string", "1.2.3.5", "1.2.3.5", SIZED("02 01 05"), "020105"},
-    {"broken string", "2.5.4.3", "CN", SIZED("#1E0141"), "1E0141"},
+    {"constructed string", "2.5.4.3", "CN", SIZED("#2C0141"), "2C0141"},
 };
 
 static void TestList(void) {

@@ -163,7 +163,7 @@ static const struct {
     {"unpaired surrogate", "300D310B300906035504031E02D800", "CN=\xEF\xBF\xBD"},
     {"low one first", "300F310D300B06035504031E04DC00D800", "CN=\xEF\xBF\xBD\xEF\xBF\xBD"},
     {"broken UTF8String", "300D310B300906035504030C0241FF", "CN=A\xEF\xBF\xBD"},
-    {"odd BMPString", "300C310A300806035504031E0141", NULL},
+    {"constructed UTF8String", "300C310A300806035504032C0141", NULL},
     {"indefinite lengths", "3080310E300C06035504031305416C7068610000", "CN=Alpha"},
 };
 
