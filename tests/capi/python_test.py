@@ -1,0 +1,175 @@
+"""The C interface from ctypes, by the example module: its objects, its program and its examples.
+
+ORTHOLAN_LIBRARY names the shared library.
+"""
+
+import doctest
+import os
+import pathlib
+import subprocess
+import sys
+import threading
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+EXAMPLES = ROOT / "examples" / "python"
+CERTIFICATES = ROOT / "tests" / "data" / "certificates"
+sys.path.insert(0, str(EXAMPLES))
+
+import ortholan  # noqa: E402
+from ortholan import Encode, Kind, Name, OrtholanError, Result, Style  # noqa: E402
+
+ALPHA = bytes.fromhex("3010310E300C06035504031305416C706861")
+MULTI_VALUED = bytes.fromhex("301C311A300A060355040A13034F7267300C06035504031305416C706861")
+KEY_USAGE = bytes.fromhex("300E0603551D0F0101FF0404030205A0")
+CONSTRAINTS = bytes.fromhex("30090603551D1304023000")
+
+
+class Names(unittest.TestCase):
+    def test_text_and_der(self):
+        name = Name("CN=Alpha")
+        self.assertEqual(ALPHA, name.der)
+        self.assertEqual("2.5.4.3=Alpha", name.text(Style.OIDS))
+        self.assertEqual("CN=Alpha", str(Name.from_der(bytearray(ALPHA))))
+        both = Name("C=RU; CN=A,B", Encode.SEMICOLON | Encode.UTF8)
+        self.assertEqual('C=RU;CN="A,B"', both.text(Style.KEYS | Style.SEMICOLON))
+
+    def test_refusals(self):
+        rows = [
+            ("empty", lambda: Name(""), Result.NAME_TEXT, 28),
+            ("underscore in a country", lambda: Name("C=R_"), Result.NAME_TEXT, 1),
+            ("cut short", lambda: Name.from_der(ALPHA[:-1]), Result.DER, 206),
+            ("nothing", lambda: Name.from_der(b""), Result.DER, 205),
+            ("two attributes", lambda: Name.from_der(MULTI_VALUED), Result.MULTI_VALUED, 206),
+            ("unknown key", lambda: Name().add("XYZ", "a"), Result.TYPE, 1),
+            ("empty value", lambda: Name().add("CN", ""), Result.VALUE, 1),
+        ]
+        for label, refused, result, status in rows:
+            with self.subTest(label), self.assertRaises(OrtholanError) as raised:
+                refused()
+            self.assertEqual((result, status), (raised.exception.result, raised.exception.status))
+            self.assertTrue(str(raised.exception).startswith("ortholan_name_"), label)
+
+    def test_attributes(self):
+        name = Name().add("C", "RU").add("2.5.4.3", "\u0410\0\U0001F600").add("1.2.3.4", "x")
+        self.assertEqual(3, len(name))
+        self.assertEqual(["C", "CN", "1.2.3.4"], [attribute.key for attribute in name])
+        self.assertEqual("\u0410\0\U0001F600", name.attributes()[1].value)
+        self.assertEqual(bytes.fromhex("13025255"), name.attributes()[0].der)
+        self.assertEqual("\u0410\0\U0001F600", name["cn"])
+        copy = name.copy()
+        name["CN"] = "Beta"
+        del name["1.2.3.4"]
+        self.assertEqual("C=RU,CN=Beta", str(name))
+        self.assertEqual("x", copy["1.2.3.4"])
+        self.assertTrue("CN" in name and "OU" not in name)
+        self.assertEqual("none", name.get("O", "none"))
+        for missing in (lambda: name["O"], lambda: name.__delitem__("O")):
+            self.assertRaises(KeyError, missing)
+        self.assertEqual([], list(Name()))
+        self.assertRaises(ValueError, lambda: name["C\0N"])
+
+    def test_equality(self):
+        self.assertEqual(Name("CN=a, C=RU"), Name("C=RU, CN=a"))
+        self.assertNotEqual(Name("CN=a"), Name("CN=A"))
+        self.assertNotEqual(Name("CN=a"), "CN=a")
+
+
+class Others(unittest.TestCase):
+    def test_general_names(self):
+        names = ortholan.general_names(bytes.fromhex("300C8704C0000201820461") + b".ru")
+        self.assertEqual([Kind.IP_ADDRESS, Kind.DNS_NAME], [name.kind for name in names])
+        self.assertEqual(b"\xC0\0\2\1", names[0].value)
+        self.assertEqual("a.ru", str(names[1]))
+        self.assertEqual(9, ortholan.GeneralName(b"\x89\0").kind)
+        self.assertEqual(b"\x89\0", ortholan.GeneralName(b"\x89\0").der)
+
+    def test_extensions(self):
+        extensions = ortholan.Extensions.from_der(b"\x30\x10" + KEY_USAGE)
+        self.assertIsNone(extensions.find("2.5.29.19"))
+        extensions.set(ortholan.Extension("2.5.29.19", False, b"\x30\0"))
+        self.assertEqual(b"\x30\x1B" + KEY_USAGE + CONSTRAINTS, extensions.der)
+        self.assertEqual(["2.5.29.15", "2.5.29.19"], [each.oid for each in extensions])
+        usage = extensions.find("2.5.29.15")
+        self.assertTrue(usage.critical)
+        self.assertEqual(bytes.fromhex("030205A0"), usage.value)
+        self.assertEqual(KEY_USAGE, usage.der)
+
+
+class Library(unittest.TestCase):
+    def test_version(self):
+        self.assertRegex(ortholan.version(), r"^\d+\.\d+\.\d+$")
+
+    def test_last_error_is_the_threads_own(self):
+        rows = [("", Result.NAME_TEXT), ("2.5.", Result.TYPE), ("CN", Result.VALUE)]
+        wrong = []
+        start = threading.Barrier(len(rows))
+
+        def refuse(text, result):
+            start.wait()
+            for _ in range(500):
+                try:
+                    Name(text) if not text else Name().add(text, "")
+                except OrtholanError as error:
+                    where = "from_text" if not text else "add"
+                    if error.result != result or where not in str(error):
+                        wrong.append((text, error.result, str(error)))
+
+        threads = [threading.Thread(target=refuse, args=row) for row in rows]
+        for thread in threads:
+            thread.start()
+        for thread in threads:
+            thread.join()
+        self.assertEqual([], wrong)
+
+    def test_module_examples(self):
+        failed, attempted = doctest.testmod(ortholan)
+        self.assertEqual(0, failed)
+        self.assertGreater(attempted, 3)
+
+
+class Program(unittest.TestCase):
+    def run_program(self, *arguments):
+        environment = dict(os.environ, PYTHONUTF8="1")
+        command = [sys.executable, "-B", str(EXAMPLES / "show.py"), *arguments]
+        done = subprocess.run(
+            command, capture_output=True, encoding="utf-8", env=environment, timeout=60
+        )
+        return done.returncode, done.stdout, done.stderr
+
+    def test_rows(self):
+        rows = [
+            ("text", ["CN=\u0410"], 0, ["subject: CN=\u0410", "  CN (2.5.4.3): \u0410"], ""),
+            (
+                "certificate",
+                [str(CERTIFICATES / "bmp.pem")],
+                0,
+                ["subject: C=RU,CN=\u0410\u043b\u044c\u0444\u0430"],
+                "",
+            ),
+            (
+                "alternative names",
+                [str(CERTIFICATES / "alternative_names.pem")],
+                0,
+                [
+                    "  DNS_NAME: example.org",
+                    "  DIRECTORY_NAME: CN=Delta",
+                    "  IP_ADDRESS: 192.0.2.1",
+                    "  IP_ADDRESS: 2001:db8::1",
+                ],
+                "",
+            ),
+            ("refused", ["C=R_"], 1, [], "C=R_: ortholan_name_from_text_n: "),
+            ("usage", [], 2, [], "Shows names"),
+        ]
+        for label, arguments, status, lines, error in rows:
+            with self.subTest(label):
+                code, out, err = self.run_program(*arguments)
+                self.assertEqual(status, code, err)
+                self.assertTrue(err.startswith(error) if error else err == "", err)
+                for line in lines:
+                    self.assertIn(line, out.splitlines())
+
+
+if __name__ == "__main__":
+    unittest.main()
