@@ -3,7 +3,7 @@
 PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test thread valgrind fuzz bench bench-check bench-baseline docs format package clean
+.PHONY: help demo test thread valgrind fuzz bench bench-check bench-baseline docs abi format package clean
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -17,6 +17,7 @@ help:
 	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
 	@echo '                  make bench-baseline records anew'
 	@echo 'make docs         reference manual into build/native/docs'
+	@echo 'make abi          record the symbols that both libraries export in abi/'
 	@echo 'make format       format the sources'
 	@echo 'make package      archives and a Debian package into build/*/packages'
 	@echo 'make clean        delete build/'
@@ -60,6 +61,15 @@ docs:
 	@scripts/setup.sh docs
 	cmake --preset native
 	cmake --build --preset native --target docs
+
+abi:
+	@scripts/setup.sh test
+	cmake --preset native
+	cmake --build --preset native --target ortholan
+	@scripts/abi.sh record nm build/native/libortholan.so
+	cmake --preset windows
+	cmake --build --preset windows --target ortholan
+	@scripts/abi.sh record x86_64-w64-mingw32-objdump build/windows/ortholan.dll
 
 format:
 	@scripts/setup.sh test

@@ -62,7 +62,7 @@ Outcome CheckName(ByteView der) {
   ElementReader reader(der);
   for (Element rdn; reader.Next(&rdn);) {
     DecodedAttribute attribute;
-    if (!ReadAttribute(rdn.bytes, &attribute)) return Unreadable(rdn.bytes);
+    if (!attribute.Read(rdn.bytes)) return Unreadable(rdn.bytes);
   }
   if (reader.fault()) return Refused(ORTHOLAN_ERROR_DER, reader.fault().status);
   if (reader.position() == der.size) return Done();

@@ -31,19 +31,18 @@ Outcome AppendUtf8(std::wstring_view wide, std::string* text) {
   return Done();
 }
 
-Outcome AppendValue(const Element& value, std::string* text) {
-  AsciiValue ascii;
-  if (ascii.Decode(value)) {
-    text->append(ascii.text());
+Outcome AppendValue(const DecodedAttribute& attribute, std::string* text) {
+  if (attribute.is_ascii()) {
+    text->append(attribute.ascii());
     return Done();
   }
   std::wstring wide;
-  if (DecodeAttrData(value, &wide)) return AppendUtf8(wide, text);
+  if (DecodeAttrData(attribute.value(), &wide)) return AppendUtf8(wide, text);
   if (GetLastError() == ERROR_NOT_ENOUGH_MEMORY) {
     return RefusedByLastError(ORTHOLAN_ERROR_MEMORY, Status::kNoMemory);
   }
   text->push_back('#');
-  AppendHexDigits(value.bytes, text);
+  AppendHexDigits(attribute.value().bytes, text);
   return Done();
 }
 
@@ -52,9 +51,9 @@ class AttributeBlock {
  public:
   Outcome Add(const DecodedAttribute& attribute) {
     Places places = {};
-    places.type = Append(attribute.type.dotted());
+    places.type = Append(attribute.type().dotted());
     places.key = places.type;
-    const std::wstring_view key = KeyFor(attribute.type, kStyleKeys);
+    const std::wstring_view key = KeyFor(attribute.type(), kStyleKeys);
     if (!key.empty()) {
       places.key = run_.size();
       const Outcome appended = AppendUtf8(key, &run_);
@@ -62,12 +61,12 @@ class AttributeBlock {
       run_.push_back('\0');
     }
     places.value = run_.size();
-    const Outcome appended = AppendValue(attribute.value, &run_);
+    const Outcome appended = AppendValue(attribute, &run_);
     if (!appended) return appended;
     places.value_size = run_.size() - places.value;
     run_.push_back('\0');
-    places.der = Append(AsText(attribute.value.bytes));
-    places.der_size = attribute.value.bytes.size;
+    places.der = Append(AsText(attribute.value().bytes));
+    places.der_size = attribute.value().bytes.size;
     places_.push_back(places);
     return Done();
   }
@@ -118,8 +117,7 @@ class AttributeBlock {
 template <typename Use>
 Outcome WalkAttributes(const X509Name& name, Use use) {
   Outcome outcome = Done();
-  Fault fault;
-  const bool walked = ForEachAttribute(ByteView(name), &fault, [&](const DecodedAttribute& each) {
+  const bool walked = ForEachAttribute(ByteView(name), [&](const DecodedAttribute& each) {
     outcome = use(each);
     return static_cast<bool>(outcome);
   });
@@ -134,9 +132,9 @@ Outcome GetValue(const X509Name& name, const char* type_text, char** value, size
   bool found = false;
   std::string text;
   const Outcome walked = WalkAttributes(name, [&](const DecodedAttribute& attribute) {
-    if (found || !type.Matches(attribute.type)) return Done();
+    if (found || !type.Matches(attribute.type())) return Done();
     found = true;
-    return AppendValue(attribute.value, &text);
+    return AppendValue(attribute, &text);
   });
   if (!walked) return walked;
   if (!found) return NotFound();

@@ -28,10 +28,10 @@ Outcome Divide(const X509Name& name, const AttributeType* type, Parts* parts) {
     rdns.size = static_cast<size_t>(rdn.bytes.end() - rdns.data);
     DecodedAttribute attribute;
     if (type == nullptr || !parts->found.empty()) continue;
-    if (!ReadAttribute(rdn.bytes, &attribute)) {
+    if (!attribute.Read(rdn.bytes)) {
       return RefusedByLastError(ORTHOLAN_ERROR_DER, Status::kCorrupt);
     }
-    if (type->Matches(attribute.type)) parts->found = rdn.bytes;
+    if (type->Matches(attribute.type())) parts->found = rdn.bytes;
   }
   if (reader.fault()) return Refused(ORTHOLAN_ERROR_DER, reader.fault().status);
   parts->before = rdns;

@@ -11,7 +11,9 @@ windows=(g++-mingw-w64-x86-64-posix googletest wine64)
 
 case ${1-} in
   native) packages=("${native[@]}") ;;
-  test) packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format libssl-dev valgrind) ;;
+  test)
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format libssl-dev python3 valgrind)
+    ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)
     packages=("${native[@]}" "${windows[@]}" libbenchmark-dev libssl-dev libgnutls28-dev

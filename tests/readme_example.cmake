@@ -1,27 +1,7 @@
 # The first C++ example of the README, compiled and run as an application would be.
-set(readme "${PROJECT_SOURCE_DIR}/README.md")
+ortholan_document_example(text "${PROJECT_SOURCE_DIR}/README.md" cpp)
 set(example "${CMAKE_CURRENT_BINARY_DIR}/readme_example.cpp")
-set(opening "```cpp\n")
-set(begin -1)
-
-if(EXISTS "${readme}")
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${readme}")
-  file(READ "${readme}" text)
-  string(FIND "${text}" "${opening}" begin)
-endif()
-
-if(begin EQUAL -1)
-  message(WARNING "README.md has no ```cpp block: the test readme_example will fail")
-  add_test(NAME readme_example COMMAND "${CMAKE_COMMAND}" -E false)
-  return()
-endif()
-
-string(LENGTH "${opening}" length)
-math(EXPR begin "${begin} + ${length}")
-string(SUBSTRING "${text}" ${begin} -1 text)
-string(FIND "${text}" "\n```" end)
-string(SUBSTRING "${text}" 0 ${end} text)
-file(CONFIGURE OUTPUT "${example}" CONTENT "@text@\n" @ONLY)
+file(CONFIGURE OUTPUT "${example}" CONTENT "@text@" @ONLY)
 
 add_executable(readme_example "${example}")
 target_link_libraries(readme_example PRIVATE Ortholan::ortholan)
