@@ -25,7 +25,7 @@ void AppendHexDigits(ByteView octets, std::string* text) {
 Outcome AppendUtf8(std::wstring_view wide, std::string* text) {
   std::string narrow;
   if (Narrow(wide, kCodePageUtf8, &narrow) != Conversion::kDone) {
-    return RefusedByLastError(ORTHOLAN_ERROR_SYSTEM, Status::kOk);
+    return Refused(ORTHOLAN_ERROR_MEMORY, Status::kNoMemory);
   }
   text->append(narrow);
   return Done();

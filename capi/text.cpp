@@ -51,7 +51,7 @@ void GiveOctets(ByteView octets, uint8_t** out, size_t* size) {
 Outcome GiveWideText(std::wstring_view text, char** out, size_t* size) {
   constexpr uint64_t kMost = static_cast<uint64_t>(std::numeric_limits<int>::max());
   const uint64_t octets = CountUtf8(text);
-  if (octets > kMost) return Refused(ORTHOLAN_ERROR_SYSTEM, Status::kNoMemory);
+  if (octets > kMost) return Refused(ORTHOLAN_ERROR_MEMORY, Status::kNoMemory);
   const int room = static_cast<int>(octets);
   char* const block = NewBlock(octets);
   if (room != 0 && WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),

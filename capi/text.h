@@ -30,7 +30,7 @@ char* NewBlock(size_t size);
 // Copies into a block of the caller's, terminated. `size` may be null for text.
 void GiveText(std::string_view text, char** out, size_t* size);
 void GiveOctets(ByteView octets, uint8_t** out, size_t* size);
-// The same for wide text; an unpaired surrogate becomes U+FFFD. ORTHOLAN_ERROR_SYSTEM for text that
+// The same for wide text; an unpaired surrogate becomes U+FFFD. ORTHOLAN_ERROR_MEMORY for text that
 // is too long to be converted.
 Outcome GiveWideText(std::wstring_view text, char** out, size_t* size);
 

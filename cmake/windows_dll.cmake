@@ -12,6 +12,15 @@ set_source_files_properties(platform/windows/ortholan.rc PROPERTIES
     "ORTHOLAN_VERSION_MAJOR=${PROJECT_VERSION_MAJOR};ORTHOLAN_VERSION_MINOR=${PROJECT_VERSION_MINOR};ORTHOLAN_VERSION_PATCH=${PROJECT_VERSION_PATCH}"
   OBJECT_DEPENDS "${ORTHOLAN_RESOURCE_INPUTS}")
 
+# The names of the C interface, from which other compilers' tools make an import library.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+  "${PROJECT_SOURCE_DIR}/abi/windows.txt")
+file(STRINGS "${PROJECT_SOURCE_DIR}/abi/windows.txt" names REGEX "^ortholan_")
+list(JOIN names "\n  " names)
+set(ORTHOLAN_C_DEFINITIONS "${PROJECT_BINARY_DIR}/ortholan_c.def")
+file(CONFIGURE OUTPUT "${ORTHOLAN_C_DEFINITIONS}"
+  CONTENT "LIBRARY ortholan.dll\nEXPORTS\n  @names@\n" @ONLY)
+
 if(PROJECT_IS_TOP_LEVEL)
   ortholan_copy_runtime_dlls("${PROJECT_BINARY_DIR}")
 endif()
