@@ -28,6 +28,7 @@ constexpr TargetRow kTargets[] = {
     {"name_encode", FuzzNameEncode},   {"structured_encode", FuzzStructuredEncode},
     {"general_name", FuzzGeneralName}, {"extension", FuzzExtension},
     {"conversion", FuzzConversion},    {"format", FuzzFormat},
+    {"c_interface", FuzzCInterface},
 };
 
 const TargetRow* FindTarget(std::string_view name) {

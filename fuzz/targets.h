@@ -15,6 +15,7 @@ void FuzzGeneralName(const uint8_t* data, size_t size);
 void FuzzExtension(const uint8_t* data, size_t size);
 void FuzzConversion(const uint8_t* data, size_t size);
 void FuzzFormat(const uint8_t* data, size_t size);
+void FuzzCInterface(const uint8_t* data, size_t size);
 
 }  // namespace Ortholan::fuzzing
 
