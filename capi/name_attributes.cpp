@@ -49,6 +49,9 @@ Outcome AppendValue(const DecodedAttribute& attribute, std::string* text) {
 // Gathers texts and octets in one run and hands them out behind the array that points into it.
 class AttributeBlock {
  public:
+  // Types and values come to about as much as the name, and so do the values' encodings.
+  explicit AttributeBlock(size_t name_size) { run_.reserve(2 * name_size); }
+
   Outcome Add(const DecodedAttribute& attribute) {
     Places places = {};
     places.type = Append(attribute.type().dotted());
@@ -165,7 +168,7 @@ ortholan_result ortholan_name_attributes(const ortholan_name* name, ortholan_att
                                          size_t* count) {
   return Call(__func__, [&] {
     if (!Clear(attributes, count) || name == nullptr) return NullArgument();
-    AttributeBlock block;
+    AttributeBlock block(name->name.cbData);
     const Outcome walked = WalkAttributes(
         name->name, [&](const DecodedAttribute& attribute) { return block.Add(attribute); });
     if (walked) block.Give(attributes, count);

@@ -143,7 +143,8 @@ ORTHOLAN_C_API ortholan_result ortholan_name_new(ortholan_name** name);
 ORTHOLAN_C_API ortholan_result ortholan_name_copy(const ortholan_name* name, ortholan_name** copy);
 ORTHOLAN_C_API void ortholan_name_free(ortholan_name* name);
 
-// The name as text, for display; "" for the name without RDNs.
+// The name as text, for display; "" for the name without RDNs. Values of the old 8-bit string types
+// outside ASCII are read in the thread's code page on Windows and as UTF-8 elsewhere.
 //   options  one ORTHOLAN_STYLE_ and at most one ORTHOLAN_SEPARATE_ word
 //   size     octets of the text, which may hold NUL; may be NULL
 // Fails: ARGUMENT, MEMORY; DER for a value of a string type whose octets are no such string, and
@@ -235,7 +236,7 @@ ORTHOLAN_C_API ortholan_result ortholan_general_name_kind(const ortholan_general
 // The library's text for display. It is the text of e-mail and DNS names and URIs; for the other
 // kinds it is a rendering of raw octets, some of it in Russian: read ortholan_general_name_value.
 //   size  octets of the text, which may hold NUL; may be NULL
-// Fails: ARGUMENT, MEMORY, DER, TYPE.
+// Fails: ARGUMENT, MEMORY; DER for content that is not of the kind's form.
 ORTHOLAN_C_API ortholan_result ortholan_general_name_text(const ortholan_general_name* name,
                                                           char** text, size_t* size);
 // The content octets, without the tag: 4 or 16 octets of an address, characters of an e-mail or DNS
@@ -285,7 +286,8 @@ ORTHOLAN_C_API ortholan_result ortholan_extension_critical(const ortholan_extens
 // Content of the OCTET STRING.
 ORTHOLAN_C_API ortholan_result ortholan_extension_value(const ortholan_extension* extension,
                                                         uint8_t** value, size_t* size);
-// The extension in DER, made anew.
+// The extension in DER, made anew. Fails: ARGUMENT, MEMORY; TYPE for an identifier of more than 260
+// octets, which can be read and not written.
 ORTHOLAN_C_API ortholan_result ortholan_extension_der(const ortholan_extension* extension,
                                                       uint8_t** der, size_t* size);
 
@@ -309,7 +311,7 @@ ORTHOLAN_C_API ortholan_result ortholan_extensions_find(const ortholan_extension
 // Puts a copy of `extension` in the place of the first one with the same identifier, or at the end.
 ORTHOLAN_C_API ortholan_result ortholan_extensions_set(ortholan_extensions* extensions,
                                                        const ortholan_extension* extension);
-// The SEQUENCE in DER, made anew.
+// The SEQUENCE in DER, made anew. Fails as ortholan_extension_der does.
 ORTHOLAN_C_API ortholan_result ortholan_extensions_der(const ortholan_extensions* extensions,
                                                        uint8_t** der, size_t* size);
 

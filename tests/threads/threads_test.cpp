@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <ortholan/ortholan.h>
+#include <ortholan/ortholan_c.h>
 
 #include <atomic>
 #include <string>
@@ -71,6 +72,40 @@ TEST(Threads, KeepTheirLastErrorsApart) {
     }
   });
   EXPECT_EQ(0, wrong);
+}
+
+// A handle that nobody changes serves all threads; each has its own last error, none at first.
+TEST(Threads, ShareNamesOfTheCInterface) {
+  ortholan_name* shared = nullptr;
+  ASSERT_EQ(ORTHOLAN_OK, ortholan_name_from_text("C=RU, CN=\xD0\x98", 0, 0, &shared));
+  std::atomic<int> wrong{0};
+  RunThreads([&wrong, shared](int number) {
+    const std::string type = "1.2.3." + std::to_string(number);
+    if (ortholan_last_error() != ORTHOLAN_OK || *ortholan_last_error_message() != '\0') ++wrong;
+    for (int i = 0; i < kRounds; ++i) {
+      ortholan_name* mine = nullptr;
+      char* value = nullptr;
+      ortholan_attribute* attributes = nullptr;
+      size_t count = 0;
+      int equal = 1;
+      if (ortholan_name_attributes(shared, &attributes, &count) != ORTHOLAN_OK || count != 2 ||
+          ortholan_name_copy(shared, &mine) != ORTHOLAN_OK ||
+          ortholan_name_set(mine, "CN", type.c_str(), 0) != ORTHOLAN_OK ||
+          ortholan_name_get(mine, "CN", &value, nullptr) != ORTHOLAN_OK || value != type ||
+          ortholan_name_equal(shared, mine, &equal) != ORTHOLAN_OK || equal != 0) {
+        ++wrong;
+      }
+      ortholan_free(value);
+      ortholan_free(attributes);
+      const ortholan_result refused =
+          number % 2 == 0 ? ortholan_name_remove(mine, "O") : ortholan_name_add(mine, "CN", "", 0);
+      if (refused != (number % 2 == 0 ? ORTHOLAN_ERROR_NOT_FOUND : ORTHOLAN_ERROR_VALUE)) ++wrong;
+      if (ortholan_last_error() != refused) ++wrong;
+      ortholan_name_free(mine);
+    }
+  });
+  EXPECT_EQ(0, wrong);
+  ortholan_name_free(shared);
 }
 
 }  // namespace
