@@ -5,6 +5,7 @@
 #include "capi/call.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/code_page.h"
 #include "foundation/element_writer.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/encoder/name_assembler.h"
@@ -62,10 +63,14 @@ Outcome EncodeOne(const AttributeType& type, std::string_view value, uint32_t op
     return Refused(ORTHOLAN_ERROR_TYPE, Status::kNotEncodable, "the key is none that is written");
   }
   std::wstring wide;
-  const Outcome read = ReadUtf8(value, &wide);
-  if (!read) return read;
+  Characters characters(value);
+  if (!IsAscii(value)) {
+    const Outcome read = ReadUtf8(value, &wide);
+    if (!read) return read;
+    characters = Characters(std::wstring_view(wide));
+  }
   NameAssembler assembler(options);
-  if (assembler.EncodeElem(type.dotted(), wide)) {
+  if (assembler.EncodeElem(type.dotted(), characters)) {
     assembler.EndRdn();
     if (assembler.Write(der)) return Done();
   }
