@@ -6,6 +6,10 @@ else()
 endif()
 
 function(ortholan_hardening target)
+  if(MSVC)
+    # Its defaults: stack guards, DYNAMICBASE, NXCOMPAT, HIGHENTROPYVA.
+    return()
+  endif()
   set(cxx "$<COMPILE_LANGUAGE:CXX>")
   target_compile_definitions(${target} PRIVATE "$<${cxx}:_GLIBCXX_ASSERTIONS>")
   # Build directories have no place in a delivered file.

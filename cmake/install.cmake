@@ -1,22 +1,48 @@
-# Installation and the package configuration behind find_package(Ortholan).
+# Installation, and what find_package(Ortholan) and pkg-config find. Nothing installed holds an
+# absolute path, so that the tree may be moved.
+#
+# Components: runtime (what a built program needs), development, program, documents.
 include(CMakePackageConfigHelpers)
 
 set(ORTHOLAN_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Ortholan")
+set(ORTHOLAN_PC_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 
-install(TARGETS ortholan ortholan_static EXPORT OrtholanTargets
-  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
-  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ortholan"
-  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
-install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-if(WIN32)
+install(TARGETS ortholan EXPORT OrtholanTargets
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime
+    NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
+install(TARGETS ortholan_static EXPORT OrtholanTargets
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
+if(MINGW)
   ortholan_find_runtime_dlls(ORTHOLAN_RUNTIME_DLLS)
-  install(FILES ${ORTHOLAN_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
-  install(FILES "${ORTHOLAN_C_DEFINITIONS}" DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  install(FILES ${ORTHOLAN_RUNTIME_DLLS}
+    DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
+  install(FILES "${ORTHOLAN_C_DEFINITIONS}"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
 endif()
 
-install(EXPORT OrtholanTargets NAMESPACE Ortholan:: DESTINATION "${ORTHOLAN_CMAKE_DIR}")
+install(DIRECTORY
+  "${PROJECT_SOURCE_DIR}/include/ortholan" "${PROJECT_BINARY_DIR}/include/ortholan"
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
+  FILES_MATCHING PATTERN "*.h")
+
+if(TARGET x509name)
+  install(TARGETS x509name RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT program)
+endif()
+
+install(FILES
+  "${PROJECT_SOURCE_DIR}/LICENSE"
+  "${PROJECT_SOURCE_DIR}/README.md"
+  "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
+  "${PROJECT_SOURCE_DIR}/SECURITY.md"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents
+  FILES_MATCHING PATTERN "*.md")
+
+install(EXPORT OrtholanTargets NAMESPACE Ortholan::
+  DESTINATION "${ORTHOLAN_CMAKE_DIR}" COMPONENT development)
 configure_package_config_file(cmake/OrtholanConfig.cmake.in
   "${PROJECT_BINARY_DIR}/OrtholanConfig.cmake"
   INSTALL_DESTINATION "${ORTHOLAN_CMAKE_DIR}"
@@ -26,4 +52,16 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/OrtholanConfigVersion.cm
 install(FILES
   "${PROJECT_BINARY_DIR}/OrtholanConfig.cmake"
   "${PROJECT_BINARY_DIR}/OrtholanConfigVersion.cmake"
-  DESTINATION "${ORTHOLAN_CMAKE_DIR}")
+  DESTINATION "${ORTHOLAN_CMAKE_DIR}" COMPONENT development)
+
+# The way from the .pc file up to the prefix.
+file(RELATIVE_PATH ORTHOLAN_PC_PREFIX "/${ORTHOLAN_PC_DIR}" "/")
+string(REGEX REPLACE "/$" "" ORTHOLAN_PC_PREFIX "${ORTHOLAN_PC_PREFIX}")
+if(WIN32)
+  set(ORTHOLAN_PC_LIBS_PRIVATE -lcrypt32)
+else()
+  set(ORTHOLAN_PC_LIBS_PRIVATE "")
+endif()
+configure_file(cmake/ortholan.pc.in "${PROJECT_BINARY_DIR}/ortholan.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/ortholan.pc"
+  DESTINATION "${ORTHOLAN_PC_DIR}" COMPONENT development)

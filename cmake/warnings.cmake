@@ -1,7 +1,17 @@
 # Warnings for this project's own targets; what is built from elsewhere keeps its own.
 function(ortholan_warnings target)
-  set(warnings -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Werror)
-  target_compile_options(${target} PRIVATE
-    "$<$<COMPILE_LANG_AND_ID:CXX,GNU,Clang,AppleClang>:${warnings}>"
-    "$<$<COMPILE_LANG_AND_ID:C,GNU,Clang,AppleClang>:${warnings};-Wstrict-prototypes>")
+  if(MSVC)
+    # Sources are UTF-8, with Cyrillic in wide literals.
+    target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8)
+    set(as_errors /WX)
+  else()
+    set(warnings -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion)
+    target_compile_options(${target} PRIVATE
+      "$<$<COMPILE_LANGUAGE:CXX,C>:${warnings}>"
+      "$<$<COMPILE_LANGUAGE:C>:-Wstrict-prototypes>")
+    set(as_errors "$<$<COMPILE_LANGUAGE:CXX,C>:-Werror>")
+  endif()
+  if(ORTHOLAN_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE ${as_errors})
+  endif()
 endfunction()

@@ -8,9 +8,8 @@ target_link_libraries(ortholan_static PUBLIC crypt32)
 file(GLOB ORTHOLAN_RESOURCE_INPUTS CONFIGURE_DEPENDS
   "${PROJECT_SOURCE_DIR}/platform/*.inc")
 set_source_files_properties(platform/windows/ortholan.rc PROPERTIES
-  COMPILE_DEFINITIONS
-    "ORTHOLAN_VERSION_MAJOR=${PROJECT_VERSION_MAJOR};ORTHOLAN_VERSION_MINOR=${PROJECT_VERSION_MINOR};ORTHOLAN_VERSION_PATCH=${PROJECT_VERSION_PATCH}"
-  OBJECT_DEPENDS "${ORTHOLAN_RESOURCE_INPUTS}")
+  OBJECT_DEPENDS
+    "${ORTHOLAN_RESOURCE_INPUTS};${PROJECT_BINARY_DIR}/include/ortholan/version.h")
 
 # The names of the C interface, from which other compilers' tools make an import library.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
@@ -21,6 +20,6 @@ set(ORTHOLAN_C_DEFINITIONS "${PROJECT_BINARY_DIR}/ortholan_c.def")
 file(CONFIGURE OUTPUT "${ORTHOLAN_C_DEFINITIONS}"
   CONTENT "LIBRARY ortholan.dll\nEXPORTS\n  @names@\n" @ONLY)
 
-if(PROJECT_IS_TOP_LEVEL)
+if(PROJECT_IS_TOP_LEVEL AND MINGW)
   ortholan_copy_runtime_dlls("${PROJECT_BINARY_DIR}")
 endif()

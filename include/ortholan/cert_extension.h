@@ -67,7 +67,7 @@ class ORTHOLAN_EXPORT CertExtension {
 
 }  // namespace Ortholan
 
-#if defined(__GNUC__)
+#if defined(ORTHOLAN_EXTERN_TEMPLATES)
 extern template class ORTHOLAN_EXPORT std::list<Ortholan::CertExtension>;
 #endif
 

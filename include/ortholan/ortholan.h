@@ -12,6 +12,7 @@
 #include <ortholan/platform.h>
 #include <ortholan/rdn.h>
 #include <ortholan/status.h>
+#include <ortholan/version.h>
 #include <ortholan/x509_name.h>
 #include <ortholan/zep_file.h>
 #include <ortholan/zep_string.h>

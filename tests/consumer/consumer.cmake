@@ -1,0 +1,26 @@
+# A stranger's program against the installed and moved tree, by every way to find the library.
+#
+# As a part of another build the whole library is compiled once more: natively alone, and kept for
+# the next run. For Windows through Wine that way goes as far as the build description.
+set(runner "${CMAKE_CURRENT_SOURCE_DIR}/consumer/run.sh")
+set(work "${CMAKE_CURRENT_BINARY_DIR}/consumer")
+set(environment
+  "CXX=${CMAKE_CXX_COMPILER}" "VERSION=${PROJECT_VERSION}" "OBJDUMP=${CMAKE_OBJDUMP}")
+if(WIN32)
+  list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " wine)
+  list(APPEND environment "WINDOWS=yes" "WINE=${wine}")
+endif()
+
+function(ortholan_consumer_test way from to)
+  add_test(NAME consumer_${way} COMMAND "${runner}" ${way} "${from}" "${work}/${to}")
+  ortholan_test_properties(consumer_${way})
+  set_tests_properties(consumer_${way} PROPERTIES TIMEOUT 600 ENVIRONMENT "${environment}")
+endfunction()
+
+ortholan_consumer_test(install "${PROJECT_BINARY_DIR}" "a moved tree")
+foreach(way IN ITEMS find_package pkg_config)
+  ortholan_consumer_test(${way} "${work}/a moved tree" ${way})
+  set_property(TEST consumer_${way} APPEND PROPERTY FIXTURES_REQUIRED consumer_tree)
+endforeach()
+set_property(TEST consumer_install APPEND PROPERTY FIXTURES_SETUP consumer_tree)
+ortholan_consumer_test(add_subdirectory "${PROJECT_SOURCE_DIR}" add_subdirectory)
