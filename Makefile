@@ -3,7 +3,8 @@
 PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test thread valgrind fuzz bench bench-check bench-baseline docs abi format package clean
+.PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline docs abi format \
+  package clean
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -19,7 +20,9 @@ help:
 	@echo 'make docs         reference manual into build/native/docs'
 	@echo 'make abi          record the symbols that both libraries export in abi/'
 	@echo 'make format       format the sources'
-	@echo 'make package      archives and a Debian package into build/*/packages'
+	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'
+	@echo '                  and used'
+	@echo 'make compilers    the tests built by clang++, natively and for Windows'
 	@echo 'make clean        delete build/'
 
 demo:
@@ -77,10 +80,16 @@ format:
 
 package:
 	@scripts/setup.sh package
-	cmake --preset native
-	cmake --build --preset native --target package
+	cmake --preset package
+	cmake --build --preset package --target package
 	cmake --preset windows
-	cmake --build --preset windows --target package
+	cmake --build --preset windows --target ortholan ortholan_static x509name
+	cpack --config build/windows/CPackConfig.cmake -B build/windows/packages
+	scripts/package_check.sh build/package build/windows
+
+compilers:
+	@scripts/setup.sh test
+	@scripts/test.sh clang windows-clang
 
 clean:
 	rm -rf build

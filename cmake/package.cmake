@@ -1,23 +1,71 @@
-# Packages: an archive for each platform, and a Debian package where its tools are at hand.
+# Packages, made by `make package`: Debian's for the native build, a ZIP for Windows; where Debian's
+# tools are not at hand, an archive.
 set(CPACK_PACKAGE_NAME ortholan)
 set(CPACK_PACKAGE_VENDOR "the Ortholan authors")
-set(CPACK_PACKAGE_CONTACT "the Ortholan authors <ortholan@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_PACKAGE_CONTACT "the Ortholan authors <ortholan@localhost.localdomain>")
+# Else it would stand in front of each package's own synopsis.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
-set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+# Between installation and packing, and afterwards.
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/package_contents.cmake")
+set(CPACK_ORTHOLAN_OBJCOPY "${CMAKE_OBJCOPY}")
 
+find_program(ORTHOLAN_DPKG_SHLIBDEPS dpkg-shlibdeps)
 if(WIN32)
   set(CPACK_GENERATOR ZIP)
-else()
+elseif(NOT ORTHOLAN_DPKG_SHLIBDEPS)
   set(CPACK_GENERATOR TGZ)
-  find_program(ORTHOLAN_DPKG_SHLIBDEPS dpkg-shlibdeps)
-  if(ORTHOLAN_DPKG_SHLIBDEPS)
-    list(APPEND CPACK_GENERATOR DEB)
-    set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-    set(CPACK_DEBIAN_PACKAGE_SECTION libs)
-    set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-    set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-  endif()
+  set(CPACK_STRIP_FILES ON)
+else()
+  set(CPACK_GENERATOR DEB)
+  set(CPACK_STRIP_FILES ON)
+  set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/package_triggers.cmake")
+
+  # One package a group; its first line of description is the synopsis.
+  set(CPACK_DEB_COMPONENT_INSTALL ON)
+  set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
+  set(CPACK_COMPONENT_RUNTIME_GROUP runtime)
+  set(CPACK_COMPONENT_PROGRAM_GROUP program)
+  set(CPACK_COMPONENT_DEVELOPMENT_GROUP development)
+  set(CPACK_COMPONENT_DOCUMENTS_GROUP development)
+
+  set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+  set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+  set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+  set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
+  set(runtime "libortholan${PROJECT_VERSION_MAJOR}")
+  set(about "Ortholan converts distinguished names of X.509 certificates between text and
+DER, and reads and writes general names and certificate extensions.")
+
+  set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "${runtime}")
+  set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+  set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+  set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+  set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
+    "names and extensions of X.509 certificates - shared library\n${about}")
+
+  set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libortholan-dev)
+  set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+  set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} (= ${version})")
+  set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
+    "names and extensions of X.509 certificates - development files\n${about}
+.
+This package holds the headers, the static library, the documents, and what
+CMake and pkg-config need to find the library.")
+
+  set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME x509name)
+  set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
+  set(CPACK_DEBIAN_PROGRAM_PACKAGE_SHLIBDEPS ON)
+  # The library is found where it was built; it has no package yet to depend on.
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}")
+  set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${runtime} (>= ${PROJECT_VERSION})")
+  set(CPACK_DEBIAN_PROGRAM_DESCRIPTION
+    "converts and shows names of X.509 certificates\n${about}
+.
+This package holds the command x509name.")
 endif()
 include(CPack)

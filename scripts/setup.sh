@@ -12,7 +12,8 @@ windows=(g++-mingw-w64-x86-64-posix googletest wine64)
 case ${1-} in
   native) packages=("${native[@]}") ;;
   test)
-    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format libssl-dev python3 valgrind)
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format libssl-dev pkg-config
+      python3 valgrind)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)
@@ -20,7 +21,8 @@ case ${1-} in
       libbotan-2-dev libmbedtls-dev)
     ;;
   docs) packages=("${native[@]}" doxygen graphviz) ;;
-  package) packages=("${native[@]}" "${windows[@]}" dpkg-dev file) ;;
+  package) packages=("${native[@]}" "${windows[@]}" dpkg-dev fakeroot file lintian pkg-config
+    unzip) ;;
   *)
     echo "usage: setup.sh native|test|fuzz|bench|docs|package" >&2
     exit 2

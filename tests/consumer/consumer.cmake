@@ -1,7 +1,7 @@
 # A stranger's program against the installed and moved tree, by every way to find the library.
 #
-# As a part of another build the whole library is compiled once more: natively alone, and kept for
-# the next run. For Windows through Wine that way goes as far as the build description.
+# As a part of another build the whole library is compiled once more, without optimisation, and kept
+# for the next run.
 set(runner "${CMAKE_CURRENT_SOURCE_DIR}/consumer/run.sh")
 set(work "${CMAKE_CURRENT_BINARY_DIR}/consumer")
 set(environment

@@ -1,0 +1,100 @@
+#!/usr/bin/env bash
+# Unpacks what `make package` made and uses it: programs are compiled against it, Debian's packages
+# are installed into a scratch directory and removed again, the Windows program runs from the ZIP
+# alone.
+#
+#   package_check.sh BUILD WINDOWS_BUILD
+set -euo pipefail
+native=$(realpath "$1")
+windows=$(realpath "$2")
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+wine=$PWD/scripts/wine.sh
+VERSION=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$native/CMakeCache.txt")
+export VERSION
+
+fail() {
+  echo "package_check.sh: $*" >&2
+  exit 1
+}
+
+# consume TREE: builds and runs the consumer by both ways to find the library.
+consume() {
+  local way
+  for way in find_package pkg_config; do
+    tests/consumer/run.sh "$way" "$1" "$scratch/work"
+  done
+}
+
+# The command as root, or as what looks like it to dpkg.
+as_root() {
+  if ((EUID == 0)); then
+    "$@"
+  else
+    fakeroot "$@"
+  fi
+}
+
+# What lies in a scratch system, but for dpkg's own notes.
+contents() {
+  find "$1" -path "$1/var/lib/dpkg" -prune -o ! -type d -print
+}
+
+check_debian() {
+  local root=$scratch/debian packages=("$native"/packages/*_"$VERSION"-*.deb) names=() package
+  ((${#packages[@]} == 3)) || fail "not three Debian packages but: ${packages[*]}"
+  for package in "${packages[@]}"; do
+    names+=("$(dpkg-deb --field "$package" Package)")
+  done
+
+  mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers}
+  touch "$root"/var/lib/dpkg/{status,available}
+  # Their dependencies are on the system outside.
+  local dpkg=(dpkg --root="$root" --log=/dev/null --force-not-root --force-depends)
+  as_root "${dpkg[@]}" --install "${packages[@]}" >"$scratch/log" 2>&1 ||
+    { cat "$scratch/log" >&2; fail "not installed"; }
+  CXX=g++ consume "$root"
+  local libraries
+  libraries=$(dirname "$(find "$root" -name 'libortholan.so.?')")
+  [[ $(LD_LIBRARY_PATH=$libraries "$root/usr/bin/x509name" encode CN=Alpha) == 3010310E* ]] ||
+    fail "x509name does not run"
+  as_root "${dpkg[@]}" --purge "${names[@]}" >"$scratch/log" 2>&1 ||
+    { cat "$scratch/log" >&2; fail "not removed"; }
+  [[ -z $(contents "$root") ]] || fail "left behind: $(contents "$root")"
+
+  # The project has no mail address and no list of faults.
+  lintian --allow-root --fail-on error,warning --suppress-tags \
+    bogus-mail-host,bogus-mail-host-in-debian-changelog,initial-upload-closes-no-bugs,no-manual-page \
+    "${packages[@]}"
+}
+
+# check_symbols FILE: debug information lies beside it and is found from it.
+check_symbols() {
+  local objdump=x86_64-w64-mingw32-objdump
+  $objdump -h "$1.debug" | grep -q '\.debug_info' || fail "$1.debug holds no debug information"
+  ! $objdump -h "$1" | grep -q '\.debug_info' || fail "$1 holds its debug information itself"
+  $objdump -s -j .gnu_debuglink "$1" >/dev/null || fail "$1 does not name its debug information"
+}
+
+check_windows() {
+  local root="$scratch/for windows" packages=("$windows"/packages/*"$VERSION"*.zip) directory said
+  ((${#packages[@]} == 1)) || fail "not one archive but: ${packages[*]}"
+  unzip -q "${packages[0]}" -d "$root"
+  WINDOWS=yes CXX=x86_64-w64-mingw32-g++-posix OBJDUMP=x86_64-w64-mingw32-objdump \
+    WINE="$wine run $windows/wine" consume "$root"
+
+  # Away from the build, with nothing on the path.
+  directory=$(dirname "$(find "$root" -name x509name.exe)")
+  said=$(cd "$scratch" && WINEPATH='' "$wine" run "$windows/wine" "$directory/x509name.exe" \
+    encode CN=Alpha | tr -d '\r')
+  [[ $said == 3010310E* ]] || fail "x509name.exe says '$said'"
+  check_symbols "$directory/x509name.exe"
+  check_symbols "$directory/ortholan.dll"
+}
+
+check_debian
+check_windows
+"$wine" stop "$windows/wine"
+echo "package_check.sh: the packages of version $VERSION are in order"
