@@ -16,6 +16,7 @@ set(common "--sysroot=/usr/x86_64-w64-mingw32 -B${gcc_directory}")
 set(CMAKE_C_FLAGS_INIT "${common}")
 set(CMAKE_CXX_FLAGS_INIT
   "${common} -stdlib++-isystem ${gcc_headers} -cxx-isystem ${gcc_headers}/x86_64-w64-mingw32")
+# g++'s standard library is that with POSIX threads.
 foreach(kind IN ITEMS EXE SHARED MODULE)
-  set(CMAKE_${kind}_LINKER_FLAGS_INIT "-L${gcc_directory}")
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT "-L${gcc_directory} -pthread")
 endforeach()

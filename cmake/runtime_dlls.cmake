@@ -4,9 +4,13 @@ set(ORTHOLAN_RUNTIME_DLL_NAMES libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-
 
 # Sets `out` to the paths of the DLLs that the compiler at hand comes with.
 function(ortholan_find_runtime_dlls out)
+  separate_arguments(flags UNIX_COMMAND "${CMAKE_CXX_FLAGS} ${CMAKE_SHARED_LINKER_FLAGS}")
+  if(CMAKE_CXX_COMPILER_TARGET)
+    list(APPEND flags "--target=${CMAKE_CXX_COMPILER_TARGET}")
+  endif()
   set(found)
   foreach(name IN LISTS ORTHOLAN_RUNTIME_DLL_NAMES)
-    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
+    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" ${flags} "-print-file-name=${name}"
       OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
     if(NOT IS_ABSOLUTE "${path}")
       message(FATAL_ERROR "${CMAKE_CXX_COMPILER} does not say where its ${name} is")

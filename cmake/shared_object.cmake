@@ -8,3 +8,7 @@ set_target_properties(ortholan PROPERTIES LINK_DEPENDS "${ORTHOLAN_EXPORTS}")
 if(NOT ORTHOLAN_SANITIZED)
   target_link_options(ortholan PRIVATE "LINKER:-z,defs")
 endif()
+
+# Calls between the library's own exported functions need not be open to replacement.
+target_compile_options(ortholan_objects PRIVATE
+  "$<$<CONFIG:Release,RelWithDebInfo>:-fno-semantic-interposition>")

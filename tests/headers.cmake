@@ -1,0 +1,42 @@
+# Every public header compiled by itself, once as the only thing a source includes and in C++17, and
+# once in C++20 behind what gets in the way elsewhere: on Windows the system's header without
+# NOMINMAX, and macros called min and max everywhere. A header that fails stops the build.
+file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include"
+  "${PROJECT_SOURCE_DIR}/include/ortholan/*.h")
+list(APPEND headers ortholan/version.h)
+
+# Standard headers come first, because theirs is another matter; g++'s undefine the macros.
+set(surroundings "#include <algorithm>
+#include <list>
+#include <string>
+#include <vector>
+")
+if(WIN32)
+  string(APPEND surroundings "#include <windows.h>\n")
+endif()
+string(APPEND surroundings "#undef min
+#undef max
+#define min(a, b) ((a) < (b) ? (a) : (b))
+#define max(a, b) ((a) > (b) ? (a) : (b))
+")
+
+set(alone "")
+set(surrounded "")
+foreach(header IN LISTS headers)
+  string(MAKE_C_IDENTIFIER "${header}" name)
+  set(include "#include <${header}>\n")
+  file(CONFIGURE OUTPUT headers/${name}_alone.cpp CONTENT "@include@@include@" @ONLY)
+  file(CONFIGURE OUTPUT headers/${name}_surrounded.cpp CONTENT "@surroundings@@include@" @ONLY)
+  list(APPEND alone "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}_alone.cpp")
+  list(APPEND surrounded "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}_surrounded.cpp")
+endforeach()
+
+add_library(headers_alone OBJECT ${alone})
+add_library(headers_surrounded OBJECT ${surrounded})
+set_target_properties(headers_alone PROPERTIES CXX_STANDARD 17)
+set_target_properties(headers_surrounded PROPERTIES CXX_STANDARD 20)
+foreach(target IN ITEMS headers_alone headers_surrounded)
+  target_link_libraries(${target} PRIVATE Ortholan::ortholan)
+  target_compile_options(${target} PRIVATE "$<$<NOT:$<BOOL:${MSVC}>>:-O0;-g0>")
+  ortholan_warnings(${target})
+endforeach()
