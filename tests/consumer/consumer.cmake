@@ -4,8 +4,13 @@
 # for the next run.
 set(runner "${CMAKE_CURRENT_SOURCE_DIR}/consumer/run.sh")
 set(work "${CMAKE_CURRENT_BINARY_DIR}/consumer")
+set(compiler "${CMAKE_CXX_COMPILER}")
+if(CMAKE_CXX_COMPILER_TARGET)
+  # What clang++ built for Windows has to serve programs of g++.
+  set(compiler x86_64-w64-mingw32-g++-posix)
+endif()
 set(environment
-  "CXX=${CMAKE_CXX_COMPILER}" "VERSION=${PROJECT_VERSION}" "OBJDUMP=${CMAKE_OBJDUMP}")
+  "CXX=${compiler}" "VERSION=${PROJECT_VERSION}" "OBJDUMP=${CMAKE_OBJDUMP}")
 if(WIN32)
   list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " wine)
   list(APPEND environment "WINDOWS=yes" "WINE=${wine}")
@@ -23,4 +28,6 @@ foreach(way IN ITEMS find_package pkg_config)
   set_property(TEST consumer_${way} APPEND PROPERTY FIXTURES_REQUIRED consumer_tree)
 endforeach()
 set_property(TEST consumer_install APPEND PROPERTY FIXTURES_SETUP consumer_tree)
-ortholan_consumer_test(add_subdirectory "${PROJECT_SOURCE_DIR}" add_subdirectory)
+if(NOT CMAKE_CXX_COMPILER_TARGET)
+  ortholan_consumer_test(add_subdirectory "${PROJECT_SOURCE_DIR}" add_subdirectory)
+endif()
