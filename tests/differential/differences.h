@@ -18,6 +18,7 @@ struct Rule {
   const char* label;
   const char* reason;
   bool (*applies)(const Case&);
+  bool rare = false;  // no record of tests/data needs it
 };
 
 // Counts what the rules of a table explain.
@@ -39,7 +40,7 @@ class Differences {
 
   void ExpectEachApplied() const {
     for (size_t i = 0; i < rules_.size(); ++i) {
-      EXPECT_GT(counts_[i], 0u) << rules_[i].label << ": explains nothing";
+      EXPECT_TRUE(rules_[i].rare || counts_[i] > 0) << rules_[i].label << ": explains nothing";
       std::cout << "  " << counts_[i] << "  " << rules_[i].label << " (" << rules_[i].reason
                 << ")\n";
     }
