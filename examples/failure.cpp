@@ -87,10 +87,16 @@ const char* Meaning(DWORD code) {
 }
 
 std::string Describe(const Failure& failure) {
+  if (!failure.excerpt.empty()) return failure.what;
   const auto code = static_cast<unsigned long>(failure.code);
   char number[48];
   std::snprintf(number, sizeof number, ": last error %lu (0x%08lX): ", code, code);
   return failure.what + number + Meaning(failure.code);
+}
+
+void ReportExcerpt(const std::string& lines) {
+  const std::string text = lines + "\n";
+  std::fwrite(text.data(), 1, text.size(), stderr);
 }
 
 void ReportLine(const std::string& text) {

@@ -13,6 +13,8 @@ namespace Example {
 struct Failure {
   Ortholan::DWORD code;
   std::string what;
+  // Lines that show the place; where there are any, `what` tells all and `code` nothing.
+  std::string excerpt = {};
 };
 
 // The command line is wrong: exit status 2.
@@ -31,6 +33,8 @@ std::string Describe(const Failure& failure);
 
 // Writes one line that begins with the program's name; line ends in `text` are made visible.
 void ReportLine(const std::string& text);
+// Writes lines in UTF-8 that show a place.
+void ReportExcerpt(const std::string& lines);
 
 }  // namespace Example
 

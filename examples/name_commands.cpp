@@ -2,6 +2,7 @@
 
 #include <ortholan/name_decoder.h>
 #include <ortholan/name_encoder.h>
+#include <ortholan/name_text_error.h>
 #include <ortholan/rdn.h>
 #include <ortholan/x509_name.h>
 
@@ -15,6 +16,7 @@
 #include "examples/input.h"
 #include "examples/name_view.h"
 #include "examples/text.h"
+#include "examples/text_failure.h"
 
 namespace Example {
 
@@ -29,17 +31,6 @@ std::string WithReason(const std::string& what, DWORD code, const std::string& r
   return code != ERROR_SUCCESS || reason.empty() ? what : what + " (" + reason + ")";
 }
 
-// Why a text is refused without a code.
-const char* TextReason(const std::wstring& text, DWORD options) {
-  X500NameEncoder encoder;
-  encoder.SetEncoderOptions(options);
-  std::list<X500NameEncoder::X500NAME_ELEM> elements;
-  if (!encoder.DevideIntoElements(text, elements)) {
-    return "not a list of type=value, or of a type that is not written";
-  }
-  return "a value that is empty or outside the alphabet of its type";
-}
-
 // Encodes `text`. Wide text is the one form that means the same whatever the thread's code page.
 IdentObj EncodeText(const std::wstring& text, DWORD options, bool sort) {
   X500NameEncoder encoder;
@@ -48,7 +39,8 @@ IdentObj EncodeText(const std::wstring& text, DWORD options, bool sort) {
   SetLastError(ERROR_SUCCESS);
   if (encoder.Encode(text, der, sort)) return der;
   const DWORD code = GetLastError();
-  Fail(code, WithReason("the text cannot be encoded", code, TextReason(text, options)));
+  FailAtText(text, DescribeNameTextError(text, options));
+  Fail(code, "the text cannot be encoded");
 }
 
 [[noreturn]] void FailToDecode(DWORD code, const IdentObj& name, const std::string& what) {

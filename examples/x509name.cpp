@@ -121,8 +121,9 @@ int Run(const std::vector<std::string>& arguments) {
   return RunCommand(command, arguments);
 }
 
-int Refuse(const std::vector<std::string>& arguments, DWORD code, const std::string& what) {
-  ReportLine((arguments.empty() ? "" : arguments[0] + ": ") + Describe({code, what}));
+int Refuse(const std::vector<std::string>& arguments, const Failure& failure) {
+  ReportLine((arguments.empty() ? "" : arguments[0] + ": ") + Describe(failure));
+  if (!failure.excerpt.empty()) ReportExcerpt(failure.excerpt);
   return 1;
 }
 
@@ -133,14 +134,15 @@ int RunGuarded(const std::vector<std::string>& arguments) {
     ReportLine(error.what);
     return 2;
   } catch (const Failure& failure) {
-    return Refuse(arguments, failure.code, failure.what);
+    return Refuse(arguments, failure);
   } catch (const XZEPStatus& failure) {
-    return Refuse(arguments, ASNTStatusToWinError(failure.GetStatus()), "the data cannot be read");
+    return Refuse(arguments,
+                  {ASNTStatusToWinError(failure.GetStatus()), "the data cannot be read"});
   } catch (const std::bad_alloc&) {
-    return Refuse(arguments, ERROR_NOT_ENOUGH_MEMORY, "not enough memory");
+    return Refuse(arguments, {ERROR_NOT_ENOUGH_MEMORY, "not enough memory"});
   } catch (...) {
     // What no type catches: the last error says why.
-    return Refuse(arguments, GetLastError(), "the name is not accepted");
+    return Refuse(arguments, {GetLastError(), "the name is not accepted"});
   }
 }
 

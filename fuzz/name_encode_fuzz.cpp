@@ -7,6 +7,7 @@
 #include <ortholan/der_helper.h>
 #include <ortholan/name_decoder.h>
 #include <ortholan/name_encoder.h>
+#include <ortholan/name_text_error.h>
 #include <ortholan/x509_name.h>
 
 #include <algorithm>
@@ -111,6 +112,15 @@ void CheckParsers(const std::wstring& text, DWORD options) {
     ++element;
     return true;
   });
+}
+
+// A place is named exactly where the text is refused, and lies in the text.
+void CheckDescribed(const std::wstring& text, DWORD options, bool encoded) {
+  const NameTextError error = DescribeNameTextError(text, options);
+  LAW((error.fault == NameTextFault::kNone) == encoded);
+  LAW(error.position <= text.size() && error.length <= text.size() - error.position);
+  LAW(text.compare(error.position, error.met.size(), error.met) == 0);
+  LAW(error.met.size() <= error.length && error.message.empty() == encoded);
 }
 
 // The 8-bit operations of the name, which throw and do not.
@@ -223,6 +233,7 @@ void FuzzNameEncode(const uint8_t* data, size_t size) {
   IdentObj sorted;
   const bool encoded = CheckWays(text, options, false, &unsorted);
   LAW(CheckWays(text, options, true, &sorted) == encoded);
+  CheckDescribed(text, options, encoded);
   CheckModel(text, options, (bits & 0x40) != 0);
   if (!encoded) return;
   CheckOrder(unsorted, sorted);

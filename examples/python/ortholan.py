@@ -79,6 +79,19 @@ class Kind(enum.IntEnum):
     REGISTERED_ID = 8
 
 
+class Fault(enum.IntEnum):
+    """What is wrong with the first place of a name text that is."""
+
+    NO_TEXT = 1
+    MISSING_TYPE = 2
+    MISSING_EQUALS = 3
+    UNKNOWN_TYPE = 4
+    MISSING_VALUE = 5
+    UNEXPECTED_EQUALS = 6
+    UNEXPECTED_TEXT = 7
+    WRONG_CHARACTER = 8
+
+
 class OrtholanError(Exception):
     """A refusal: `result` says what kind, `status` is the library's own code or 0."""
 
@@ -86,6 +99,16 @@ class OrtholanError(Exception):
         super().__init__(message)
         self.result = result
         self.status = status
+
+
+class NameTextError(OrtholanError):
+    """A name text that is refused: the fault, and its place and length in characters."""
+
+    def __init__(self, status, message, fault, position, length):
+        super().__init__(Result.NAME_TEXT, status, message)
+        self.fault = fault
+        self.position = position
+        self.length = length
 
 
 class _Attribute(ctypes.Structure):
@@ -130,6 +153,7 @@ _ARGUMENTS = {
 }
 _FUNCTIONS = {
     "name_from_text_n": "szuiH",
+    "name_text_error_n": "szuUZZT",
     "name_from_der": "pzH",
     "name_new": "H",
     "name_copy": "hH",
@@ -222,6 +246,25 @@ def _octets(name, *arguments):
         _library.ortholan_free(block)
 
 
+def _explained(octets, options, error):
+    """The refusal of a name text, with the place."""
+    fault = ctypes.c_uint32()
+    position = ctypes.c_size_t()
+    length = ctypes.c_size_t()
+    message = ctypes.c_void_p()
+    outputs = [ctypes.byref(output) for output in (fault, position, length, message)]
+    _call("name_text_error_n", octets, len(octets), options, *outputs)
+    try:
+        sentence = ctypes.string_at(message).decode("utf-8")
+    finally:
+        _library.ortholan_free(message)
+    if fault.value == 0:
+        return error
+    before = octets[: position.value].decode("utf-8")
+    met = octets[position.value : position.value + length.value].decode("utf-8")
+    return NameTextError(error.status, sentence, Fault(fault.value), len(before), len(met))
+
+
 def _number(kind, name, *arguments):
     number = kind()
     _call(name, *arguments, ctypes.byref(number))
@@ -262,7 +305,12 @@ class Name(_Handle):
             super().__init__("name_new")
         else:
             octets = text.encode("utf-8")
-            super().__init__("name_from_text_n", octets, len(octets), options, int(sort))
+            try:
+                super().__init__("name_from_text_n", octets, len(octets), options, int(sort))
+            except OrtholanError as error:
+                if error.result == Result.NAME_TEXT:
+                    raise _explained(octets, options, error) from None
+                raise
 
     @classmethod
     def from_der(cls, der):

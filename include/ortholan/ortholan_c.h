@@ -133,6 +133,33 @@ ORTHOLAN_C_API ortholan_result ortholan_name_from_text(const char* text, uint32_
 ORTHOLAN_C_API ortholan_result ortholan_name_from_text_n(const char* text, size_t size,
                                                          uint32_t options, int sort,
                                                          ortholan_name** name);
+// What is wrong with the first place of a name text that is.
+enum {
+  ORTHOLAN_FAULT_NONE = 0,               // the text is taken
+  ORTHOLAN_FAULT_NO_TEXT = 1,            // nothing but white space
+  ORTHOLAN_FAULT_MISSING_TYPE = 2,       // a delimiter, "=" or the end where a type has to stand
+  ORTHOLAN_FAULT_MISSING_EQUALS = 3,     // a type without "=", often the rest of a value
+  ORTHOLAN_FAULT_UNKNOWN_TYPE = 4,       // a type that is not written
+  ORTHOLAN_FAULT_MISSING_VALUE = 5,      // a type and "=" alone
+  ORTHOLAN_FAULT_UNEXPECTED_EQUALS = 6,  // an unquoted value that begins with "="
+  ORTHOLAN_FAULT_UNEXPECTED_TEXT = 7,    // text behind a closing quote
+  ORTHOLAN_FAULT_WRONG_CHARACTER = 8     // a character outside the type's string type
+};
+
+// Why ortholan_name_from_text refuses `text`, and where.
+//   fault     an ORTHOLAN_FAULT_ word
+//   position  octets of the text before the place
+//   length    octets that were met there, 0 at the end
+//   message   one sentence without a full stop, with the place counted in characters from 1; may be
+//             NULL; "" for ORTHOLAN_FAULT_NONE
+// Fails: ARGUMENT, UTF8, MEMORY.
+ORTHOLAN_C_API ortholan_result ortholan_name_text_error(const char* text, uint32_t options,
+                                                        uint32_t* fault, size_t* position,
+                                                        size_t* length, char** message);
+ORTHOLAN_C_API ortholan_result ortholan_name_text_error_n(const char* text, size_t size,
+                                                          uint32_t options, uint32_t* fault,
+                                                          size_t* position, size_t* length,
+                                                          char** message);
 // Takes over the encoding of one name, octet for octet. BER is accepted. What can be read is what
 // the library reads: types and values are told apart by tag number, values are not looked at.
 // Fails: ARGUMENT, DER, MULTI_VALUED, MEMORY.

@@ -1,5 +1,8 @@
 #include "names/encoder/name_parser.h"
 
+#include <algorithm>
+#include <functional>
+
 #include "names/encoder/encoder_options.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/type_resolver.h"
@@ -19,13 +22,6 @@ constexpr DelimiterRow kDelimiters[] = {
 };
 constexpr unsigned kAllDelimiters = kIsComma | kIsSemicolon | kIsCrLf;
 
-unsigned DelimitersFor(DWORD options) {
-  for (const DelimiterRow& row : kDelimiters) {
-    if ((options & row.option) != 0) return row.classes;
-  }
-  return kAllDelimiters;
-}
-
 constexpr char kQuote = '"';
 
 template <typename Char>
@@ -35,23 +31,37 @@ bool HasDoubledQuote(std::basic_string_view<Char> text, size_t quote) {
 
 }  // namespace
 
+unsigned DelimitersFor(DWORD options) {
+  for (const DelimiterRow& row : kDelimiters) {
+    if ((options & row.option) != 0) return row.classes;
+  }
+  return kAllDelimiters;
+}
+
 template <typename Char>
 NameParser<Char>::NameParser(View trimmedText, DWORD options, const AttributeRow* unfinished)
-    : next_(trimmedText.data()),
+    : begin_(trimmedText.data()),
+      next_(begin_),
       end_(next_ + trimmedText.size()),
       delimiters_(DelimitersFor(options)),
       row_(unfinished) {}
 
 template <typename Char>
 bool NameParser<Char>::Parse_NameElems() {
-  if (!GetToken(TokenKind::kType) || !Parse_ElemType() || !Parse_ElemComponents()) return false;
+  if (!Parse_NameElem()) return false;
   for (;;) {
     AppendElem();
-    if (!GetToken()) return false;
+    if (!GetToken()) return RefuseToken(NameTextFault::kUnexpectedText);
     if (kind_ == TokenKind::kEnd) return true;
-    if (kind_ != TokenKind::kDelimiter) return false;
-    if (!GetToken(TokenKind::kType) || !Parse_ElemType() || !Parse_ElemComponents()) return false;
+    if (kind_ != TokenKind::kDelimiter) return RefuseToken(NameTextFault::kUnexpectedText);
+    if (!Parse_NameElem()) return false;
   }
+}
+
+template <typename Char>
+bool NameParser<Char>::Parse_NameElem() {
+  if (!GetToken(TokenKind::kType)) return RefuseForType();
+  return Parse_ElemType() && Parse_ElemComponents();
 }
 
 template <typename Char>
@@ -64,7 +74,8 @@ void NameParser<Char>::AppendElem() {
 
 template <typename Char>
 bool NameParser<Char>::Parse_ElemType() {
-  return ResolveType(Trimmed(token_), &row_);
+  type_ = Trimmed(token_);
+  return ResolveType(type_, &row_) || Refuse(NameTextFault::kUnknownType, type_);
 }
 
 template <typename Char>
@@ -78,10 +89,10 @@ void NameParser<Char>::Parse_ElemValue() {
 template <typename Char>
 bool NameParser<Char>::Parse_ElemComponents() {
   if (!GetToken()) return true;
-  if (kind_ != TokenKind::kEquals) return false;
+  if (kind_ != TokenKind::kEquals) return RefuseToken(NameTextFault::kMissingEquals);
   // Where the type was not resolved this reads another type, which is no value either.
   if (!GetToken()) return true;
-  if (kind_ != TokenKind::kValue) return false;
+  if (kind_ != TokenKind::kValue) return RefuseForValue();
   Parse_ElemValue();
   return true;
 }
@@ -121,9 +132,8 @@ bool NameParser<Char>::ReadType() {
   kind_ = TokenKind::kType;
   const Char* const first = next_;
   while (!AtEnd() && *next_ != Char('=')) ++next_;
-  if (AtEnd()) return false;
   token_ = {first, static_cast<size_t>(next_ - first)};
-  return true;
+  return !AtEnd();
 }
 
 // The alphabets are found on the way: this loop is where most of a text is read.
@@ -176,7 +186,60 @@ auto NameParser<Char>::Unescape(View quoted, size_t doubled) -> View {
     *out++ = quoted[i];
     if (quoted[i] == Char(kQuote)) ++i;
   }
+  copies_.push_back({View(copy, size), quoted});
   return {copy, size};
+}
+
+template <typename Char>
+const Char* NameParser<Char>::Origin(const Char* at) const {
+  const std::less_equal<const Char*> not_behind;
+  for (const Copy& made : copies_) {
+    if (!not_behind(made.copy.data(), at) || !not_behind(at, made.copy.data() + made.copy.size())) {
+      continue;
+    }
+    const View before = made.copy.substr(0, static_cast<size_t>(at - made.copy.data()));
+    const auto quotes = std::count(before.begin(), before.end(), Char(kQuote));
+    return made.source.data() + before.size() + quotes;
+  }
+  return at;
+}
+
+template <typename Char>
+bool NameParser<Char>::Refuse(NameTextFault fault, View stop) {
+  fault_ = fault;
+  stop_ = stop;
+  return false;
+}
+
+template <typename Char>
+auto NameParser<Char>::Token() const -> View {
+  switch (kind_) {
+    case TokenKind::kType:
+      return Trimmed(token_);
+    case TokenKind::kEquals:
+      return {next_ - 1, 1};
+    case TokenKind::kDelimiter: {
+      const Char* first = next_ - 1;
+      while (first != begin_ && IsElementDelimiter(first[-1])) --first;
+      return {first, static_cast<size_t>(next_ - first)};
+    }
+    default:
+      return {next_, 0};
+  }
+}
+
+template <typename Char>
+bool NameParser<Char>::RefuseForType() {
+  if (kind_ == TokenKind::kType) return RefuseToken(NameTextFault::kMissingEquals);
+  const bool is_empty = elements_.size() == 0 && kind_ == TokenKind::kEnd;
+  return RefuseToken(is_empty ? NameTextFault::kNoText : NameTextFault::kMissingType);
+}
+
+template <typename Char>
+bool NameParser<Char>::RefuseForValue() {
+  if (row_ == nullptr) return Refuse(NameTextFault::kUnknownType, type_);
+  const bool is_equals = kind_ == TokenKind::kEquals;
+  return RefuseToken(is_equals ? NameTextFault::kUnexpectedEquals : NameTextFault::kMissingValue);
 }
 
 template class NameParser<char>;

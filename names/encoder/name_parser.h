@@ -2,11 +2,13 @@
 #ifndef ORTHOLAN_NAMES_ENCODER_NAME_PARSER_H_
 #define ORTHOLAN_NAMES_ENCODER_NAME_PARSER_H_
 
+#include <ortholan/name_text_error.h>
 #include <ortholan/platform.h>
 
 #include <cstdint>
 #include <iterator>
 #include <string_view>
+#include <vector>
 
 #include "foundation/arena.h"
 #include "foundation/chunked_list.h"
@@ -63,6 +65,9 @@ class NameElem {
 template <typename Char>
 using NameElems = ChunkedList<NameElem<Char>, 16>;
 
+// The character classes that end an element under these options.
+unsigned DelimitersFor(DWORD options);
+
 // Parses one text: UTF-16 in wide characters, or ASCII in bytes, which most texts are and which
 // goes faster. The elements' values are views into the text, or into the parser where a doubled
 // quote had to be written once: both must outlive them.
@@ -75,11 +80,20 @@ class NameParser {
   // the element that it broke off in.
   NameParser(View trimmedText, DWORD options, const AttributeRow* unfinished);
 
-  // The whole sequence. False where the text is no such sequence.
+  // The whole sequence. False where the text is no such sequence; fault() and stop() tell why and
+  // where then.
   bool Parse_NameElems();
 
   NameElems<Char>& elements() { return elements_; }
   const AttributeRow* unfinished() const { return row_; }
+
+  NameTextFault fault() const { return fault_; }
+  // What stands where the text is refused: empty, at the end of the text or where something lacks.
+  View stop() const { return stop_; }
+  // Type text of the last element that was begun.
+  View last_type() const { return type_; }
+  // Where the text has the character that a value has at `at`.
+  const Char* Origin(const Char* at) const;
 
  private:
   enum class TokenKind { kEnd, kType, kValue, kDelimiter, kEquals };
@@ -96,13 +110,23 @@ class NameParser {
   View Unescape(View quoted, size_t doubled);
 
   bool GetToken(TokenKind kind) { return GetToken() && kind_ == kind; }
+  // Keeps why and where the text is refused; false.
+  bool Refuse(NameTextFault fault, View stop);
+  bool RefuseToken(NameTextFault fault) { return Refuse(fault, Token()); }
+  bool RefuseForType();
+  bool RefuseForValue();
+  // The last token as it stands in the text.
+  View Token() const;
+
   void AppendElem();
+  bool Parse_NameElem();
   bool Parse_ElemType();
   void Parse_ElemValue();
   // The "=" and the value of an element whose type was just read. A text that ends there leaves
   // the value empty.
   bool Parse_ElemComponents();
 
+  const Char* begin_;
   const Char* next_;
   const Char* end_;
   unsigned delimiters_;  // the classes that end an unquoted value
@@ -113,8 +137,17 @@ class NameParser {
   const AttributeRow* row_;
   View value_;
   unsigned value_classes_ = kInBoth;
+  View type_;
   NameElems<Char> elements_;
   Arena unescaped_;
+  // Quoted values that were copied, with the text that they came from.
+  struct Copy {
+    View copy;
+    View source;
+  };
+  std::vector<Copy> copies_;
+  NameTextFault fault_ = NameTextFault::kNone;
+  View stop_;
 };
 
 extern template class NameParser<char>;

@@ -170,4 +170,13 @@ bool ResolveType(std::string_view text, const AttributeRow** row) {
   return ResolveRemembered(text, row);
 }
 
+std::string ListKeywords() {
+  std::string list;
+  for (const Keyword& keyword : kKeywords) {
+    if (!list.empty()) list += ", ";
+    list += keyword.text;
+  }
+  return list;
+}
+
 }  // namespace Ortholan

@@ -2,6 +2,7 @@
 #ifndef ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_
 #define ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_
 
+#include <string>
 #include <string_view>
 
 #include "names/attribute_table.h"
@@ -14,6 +15,9 @@ namespace Ortholan {
 // ASCII.
 bool ResolveType(std::wstring_view text, const AttributeRow** row);
 bool ResolveType(std::string_view text, const AttributeRow** row);
+
+// The keywords of kAttributes, with ", " between them.
+std::string ListKeywords();
 
 }  // namespace Ortholan
 

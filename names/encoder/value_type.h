@@ -10,19 +10,28 @@
 
 namespace Ortholan {
 
+// The alphabet that the attribute's values have to be in; 0 for free text.
+constexpr unsigned PrescribedAlphabet(ValueRule rule) {
+  switch (rule) {
+    case ValueRule::kPrintable:
+      return kInPrintable;
+    case ValueRule::kIA5:
+      return kInIA5;
+    default:
+      return 0;
+  }
+}
+
 // The platform's number of the string type that a value of these character classes is written in:
 // CERT_RDN_PRINTABLE_STRING, _IA5_STRING, _BMP_STRING or _UTF8_STRING. False for a value outside
 // the alphabet of the type that the attribute prescribes.
 inline bool DetermineTargetType(ValueRule rule, unsigned classes, DWORD options, DWORD* valueType) {
-  if (rule == ValueRule::kIA5) {
-    *valueType = CERT_RDN_IA5_STRING;
-    return (classes & kInIA5) != 0;
+  const unsigned alphabet = PrescribedAlphabet(rule);
+  if (alphabet != 0) {
+    *valueType = alphabet == kInIA5 ? CERT_RDN_IA5_STRING : CERT_RDN_PRINTABLE_STRING;
+    return (classes & alphabet) != 0;
   }
   const bool printable = (classes & kInPrintable) != 0;
-  if (rule == ValueRule::kPrintable) {
-    *valueType = CERT_RDN_PRINTABLE_STRING;
-    return printable;
-  }
   const bool utf8 = (options & kOptionUtf8) != 0;
   const bool always = utf8 && (options & kOptionAlways) != 0;
   if (printable && !always) {

@@ -107,6 +107,23 @@ static void TestNullNames(ortholan_name* good) {
   EXPECT_TEXT("unchanged", "3000", HexOf(good));
 }
 
+static void TestNullTextErrors(void) {
+  uint32_t fault = 77;
+  size_t position = 77;
+  size_t length = 77;
+  char* message = &untouched;
+  REFUSES(ortholan_name_text_error(NULL, 0, &fault, &position, &length, &message));
+  EXPECT("text_error", fault == 0 && position == 0 && length == 0 && message == NULL);
+  message = &untouched;
+  REFUSES(ortholan_name_text_error("a", 0, NULL, &position, &length, &message));
+  EXPECT("text_error", message == NULL);
+  REFUSES(ortholan_name_text_error("a", 0, &fault, NULL, &length, NULL));
+  REFUSES(ortholan_name_text_error("a", 0, &fault, &position, NULL, NULL));
+  REFUSES(ortholan_name_text_error_n(NULL, 1, 0, &fault, &position, &length, NULL));
+  EXPECT_RESULT("broken text", ORTHOLAN_ERROR_UTF8,
+                ortholan_name_text_error("CN=\xFF", 0, &fault, &position, &length, NULL));
+}
+
 static void TestNullGeneralNames(void) {
   ortholan_general_name* name = (ortholan_general_name*)&untouched;
   ortholan_general_names* names = (ortholan_general_names*)&untouched;
@@ -211,6 +228,7 @@ void TestErrors(void) {
   EXPECT_RESULT("good", ORTHOLAN_OK, ortholan_extensions_new(&list));
   EXPECT_RESULT("good", ORTHOLAN_OK, ortholan_extension_new("2.5.29.15", 0, NULL, 0, &extension));
   TestNullNames(name);
+  TestNullTextErrors();
   TestNullGeneralNames();
   TestNullExtensions(extension, list);
   TestTooLarge();

@@ -221,9 +221,48 @@ static void TestEqual(void) {
   }
 }
 
+static const struct {
+  const char* label;
+  const char* text;
+  uint32_t fault;
+  size_t position;
+  size_t length;
+  const char* message;
+} kFaults[] = {
+    {"none", "CN=Alpha", ORTHOLAN_FAULT_NONE, 0, 0, ""},
+    {"a missing value", "CN=", ORTHOLAN_FAULT_MISSING_VALUE, 3, 0,
+     "end of the text at character 4: expected a value"},
+    // Two letters of two octets and one of four, two UTF-16 units, stand before it.
+    {"behind other letters", "O=\xD0\x90\xD0\x91\xF0\x9F\x98\x80,C=\xD0\x90",
+     ORTHOLAN_FAULT_WRONG_CHARACTER, 13, 2,
+     "\"\xD0\x90\" at character 10: expected letters, digits, blank and '()+,-./:? alone in the "
+     "value of C"},
+};
+
+static void TestTextErrors(void) {
+  for (size_t i = 0; i < COUNT_OF(kFaults); ++i) {
+    uint32_t fault = 77;
+    size_t position = 77;
+    size_t length = 77;
+    char* message = NULL;
+    EXPECT_RESULT(
+        kFaults[i].label, ORTHOLAN_OK,
+        ortholan_name_text_error(kFaults[i].text, 0, &fault, &position, &length, &message));
+    EXPECT(kFaults[i].label, fault == kFaults[i].fault);
+    EXPECT(kFaults[i].label, position == kFaults[i].position && length == kFaults[i].length);
+    EXPECT_TEXT(kFaults[i].label, kFaults[i].message, message);
+    ortholan_free(message);
+    EXPECT_RESULT(kFaults[i].label, ORTHOLAN_OK,
+                  ortholan_name_text_error_n(kFaults[i].text, strlen(kFaults[i].text), 0, &fault,
+                                             &position, &length, NULL));
+    EXPECT(kFaults[i].label, fault == kFaults[i].fault);
+  }
+}
+
 void TestNames(void) {
   TestTexts();
   TestRefusedTexts();
+  TestTextErrors();
   TestRefusedOctets();
   TestOddValues();
   TestEqual();

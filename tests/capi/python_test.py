@@ -17,7 +17,7 @@ CERTIFICATES = ROOT / "tests" / "data" / "certificates"
 sys.path.insert(0, str(EXAMPLES))
 
 import ortholan  # noqa: E402
-from ortholan import Encode, Kind, Name, OrtholanError, Result, Style  # noqa: E402
+from ortholan import Encode, Fault, Kind, Name, NameTextError, OrtholanError, Result, Style  # noqa: E402
 
 ALPHA = bytes.fromhex("3010310E300C06035504031305416C706861")
 MULTI_VALUED = bytes.fromhex("301C311A300A060355040A13034F7267300C06035504031305416C706861")
@@ -48,7 +48,15 @@ class Names(unittest.TestCase):
             with self.subTest(label), self.assertRaises(OrtholanError) as raised:
                 refused()
             self.assertEqual((result, status), (raised.exception.result, raised.exception.status))
-            self.assertTrue(str(raised.exception).startswith("ortholan_name_"), label)
+            explained = result == Result.NAME_TEXT
+            self.assertNotEqual(explained, str(raised.exception).startswith("ortholan_name_"), label)
+
+    def test_place_in_a_text(self):
+        with self.assertRaises(NameTextError) as raised:
+            Name("O=\U0001F600 \u0410, C=R_U")
+        error = raised.exception
+        self.assertEqual((Fault.WRONG_CHARACTER, 10, 1), (error.fault, error.position, error.length))
+        self.assertIn('"_" at character', str(error))
 
     def test_attributes(self):
         name = Name().add("C", "RU").add("2.5.4.3", "\u0410\0\U0001F600").add("1.2.3.4", "x")
@@ -111,7 +119,7 @@ class Library(unittest.TestCase):
                 try:
                     Name(text) if not text else Name().add(text, "")
                 except OrtholanError as error:
-                    where = "from_text" if not text else "add"
+                    where = "a type such as CN" if not text else "add"
                     if error.result != result or where not in str(error):
                         wrong.append((text, error.result, str(error)))
 
@@ -159,7 +167,7 @@ class Program(unittest.TestCase):
                 ],
                 "",
             ),
-            ("refused", ["C=R_"], 1, [], "C=R_: ortholan_name_from_text_n: "),
+            ("refused", ["C=R_"], 1, [], 'C=R_: "_" at character 4: expected '),
             ("usage", [], 2, [], "Shows names"),
         ]
         for label, arguments, status, lines, error in rows:

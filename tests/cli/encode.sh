@@ -40,20 +40,28 @@ row "semicolon separates alone" 0 "300E310C300A06035504031303612C62$line" "" \
 row "postal address, a string a line" 0 "3011310F300D06035504103006130161130162$line" "" \
   encode $'POSTALADDRESS="a\nb"'
 
-# Refusals.
-prefix="x509name: encode: the text cannot be encoded"
-form="$prefix \\(not a list of type=value, .+\\)$(code 0)"
-value="$prefix \\(a value that is empty or .+\\)$(code 0)"
-row "empty" 1 "" "$prefix$(code 160)" encode ''
-row "blanks" 1 "" "$form" encode '   '
-row "no equals sign" 1 "" "$form" encode 'CN'
-row "unknown keyword" 1 "" "$form" encode 'XYZ=a'
-row "unknown type of known length, last" 1 "" "$prefix$(code 1326)" encode '2.5.4.42=a'
-row "OID. prefix" 1 "" "$form" encode 'OID.2.5.4.3=a'
-row "backslash does not escape" 1 "" "$form" encode 'CN=a\,b, O=c'
-row "country outside PrintableString" 1 "" "$value" encode 'C=Ru_s'
-row "e-mail outside IA5String" 1 "" "$value" encode 'E=почта'
-row "empty value" 1 "" "$value" encode 'CN='
+# Refusals, with a mark under the place.
+prefix="x509name: encode:"
+row "empty" 1 "" "$prefix end of the text at character 1: expected a type .+$line  $line  \\^" encode ''
+row "no equals sign" 1 "" "$prefix \"CN\" at character 1: expected .+$line  CN$line  \\^\\^" encode 'CN'
+row "unknown keyword" 1 "" \
+  "$prefix \"XYZ\" at character 7: expected one of .+$line  CN=a, XYZ=b$line        \\^\\^\\^" \
+  encode 'CN=a, XYZ=b'
+row "unknown type of known length, last" 1 "" "3:$prefix \"2.5.4.42\" at character 1: .+" \
+  encode '2.5.4.42=a'
+row "OID. prefix" 1 "" "3:$prefix \"OID.2.5.4.3\" at character 1: .+" encode 'OID.2.5.4.3=a'
+row "backslash does not escape" 1 "" \
+  "$prefix \"b\" at character 7: .+ a backslash escapes nothing$line  CN=a\\\\,b, O=c$line {8}\\^" \
+  encode 'CN=a\,b, O=c'
+row "country outside PrintableString" 1 "" \
+  "$prefix \"_\" at character 5: expected letters, .+ in the value of C$line  C=Ru_s$line      \\^" \
+  encode 'C=Ru_s'
+row "e-mail outside IA5String" 1 "" \
+  "$prefix \"п\" at character 11: .+$line  CN=я😀, E=почта$line           \\^" encode 'CN=я😀, E=почта'
+row "empty value" 1 "" "$prefix end of the text at character 4: expected a value$line  CN=$line     \\^" \
+  encode 'CN='
+row "line ends in the text" 1 "" \
+  "$prefix \"b\" at character 6: .+$line  CN=a\\\\u000Ab$line            \\^" encode $'CN=a\nb'
 
 # Files.
 row "octets into a file" 0 "" "" encode --out alpha.der 'CN=Alpha'

@@ -43,8 +43,8 @@ octets() {
 #
 # OUTPUT is all of standard output, exactly; ~PATTERN matches a line of it instead, and #HEX gives
 # its octets. ERROR is an extended regular expression for the one line on standard error, empty for
-# no line; with a number of lines and a colon before it, for one of that many, with a star and a
-# colon of any number. Standard input comes from the file `stdin_file`, if that is set.
+# no line, of several lines for all of them; with a number of lines and a colon before it, for one of
+# that many, with a star and a colon of any number. Standard input comes from the file `stdin_file`, if that is set.
 row() {
   local label=$1 status=$2 output=$3 error=$4 actual=0 lines=0 failed=
   shift 4
@@ -67,10 +67,15 @@ row() {
       lines=${error%%:*}
       error=${error#*:}
     fi
-    [[ -z $error ]] || grep -qxE -e "$error" result/err || fault "error «$(<result/err)» is not «$error»"
+    if [[ $error == *$'\n'* ]]; then
+      lines=$(wc -l <<<"$error")
+      [[ $(<result/err) =~ ^$error$ ]] || fault "error «$(<result/err)» is not «$error»"
+    elif [[ -n $error ]]; then
+      grep -qxE -e "$error" result/err || fault "error «$(<result/err)» is not «$error»"
+    fi
   fi
   # A sanitizer's report, or the system's about a crash.
-  ! grep -qv '^x509name: ' result/err || fault "error «$(<result/err)»"
+  ! grep -qv -e '^x509name: ' -e '^  ' result/err || fault "error «$(<result/err)»"
   [[ $lines == '*' ]] || (($(wc -l <result/err) == lines)) || fault "error «$(<result/err)» has not $lines line(s)"
   [[ -z $failed ]] || failures=$((failures + 1))
 }

@@ -167,6 +167,21 @@ struct Case {
 };
 
 const Case kCases[] = {
+    {"name_text_error",
+     [](const Arm& arm) {
+       char* message = nullptr;
+       uint32_t fault = 77;
+       size_t position = 77;
+       size_t length = 77;
+       const std::string text = kText + ", C=\"\"\"_\"";
+       const ortholan_result result = arm([&] {
+         return ortholan_name_text_error(text.c_str(), 0, &fault, &position, &length, &message);
+       });
+       EXPECT_EQ(result == ORTHOLAN_OK, message != nullptr);
+       EXPECT_EQ(result == ORTHOLAN_OK, fault == ORTHOLAN_FAULT_WRONG_CHARACTER);
+       ortholan_free(message);
+       return result;
+     }},
     {"name_from_text",
      [](const Arm& arm) {
        return arm.Make(ortholan_name_free, [](ortholan_name** name) {
