@@ -18,6 +18,7 @@ constexpr BYTE kCriticalElement[] = {kTagBoolean, 1, 0xFF};
 constexpr size_t kMaxChildren = 3;
 // Enough for the header of any record but one with a padded tag number.
 constexpr DWORD kHeaderRead = 64;
+constexpr DWORD kReadOn = 8;  // times as much where it was not enough
 
 // Tells the caller how it went: where it asked, or in the last error.
 void ReportCode(DWORD code, int* error) {
@@ -118,39 +119,45 @@ DWORD Decode(ByteView bytes, CertExtension* extension, size_t* consumed) {
   }
 }
 
-// Bytes of the record at the front of `available` bytes of the file: all of them where the header
-// does not tell.
-Status RecordSize(ByteView front, uint64_t available, uint64_t* size) {
+// Whether the bytes at the front of a record tell how many it has: its header does, or, in the
+// indefinite form, the record is whole.
+bool TellSize(ByteView front, uint64_t* size) {
   ElementHeader header;
-  *size = available;
-  const Status status = ReadHeader(front, &header);
-  if (status != Status::kOk || header.indefinite) {
-    return available > front.size ? Status::kOk : status;
-  }
+  if (ReadHeader(front, &header) != Status::kOk) return false;
   *size = static_cast<uint64_t>(header.content - front.data) + header.length;
-  return *size <= available ? Status::kOk : Status::kCorrupt;
+  if (!header.indefinite) return true;
+  ElementReader reader(front);
+  for (Element child; reader.Next(&child);) continue;
+  *size = reader.position();
+  return !reader.fault();
 }
 
-// Reads the bytes of the record at the file's position. The platform's error code, 0 on success.
+// Reads on until `record` holds `size` bytes. The platform's error code, 0 on success.
+DWORD ReadUpTo(const CZEPFile& file, DWORD size, IdentObj* record) {
+  const DWORD before = record->cbData;
+  DWORD read = 0;
+  record->Resize(size);
+  if (!file.Read(record->pbData + before, size - before, &read)) return GetLastError();
+  return read == size - before ? ERROR_SUCCESS : WinErrorOf(Status::kCorrupt);
+}
+
+// Reads the bytes of the record at the file's position, and no more than a few times as many where
+// its header does not tell. The platform's error code, 0 on success.
 DWORD ReadRecordBytes(const CZEPFile& file, uint64_t position, DWORD limit, IdentObj* record) {
   uint64_t end = 0;
   if (!file.GetSize(&end)) return GetLastError();
   const uint64_t available = end > position ? std::min<uint64_t>(limit, end - position) : 0;
-  const DWORD first = static_cast<DWORD>(std::min<uint64_t>(available, kHeaderRead));
-  record->Allocate(first);
-  DWORD read = 0;
-  if (!file.Read(record->pbData, first, &read)) return GetLastError();
   uint64_t size = 0;
-  const Status status = RecordSize(ByteView(record->pbData, read), available, &size);
-  if (status != Status::kOk) return WinErrorOf(status);
-  const DWORD total = static_cast<DWORD>(size);
-  if (total > read) {
-    record->Resize(total);
-    DWORD rest = 0;
-    if (!file.Read(record->pbData + read, total - read, &rest)) return GetLastError();
-    if (rest != total - read) return WinErrorOf(Status::kCorrupt);
+  for (uint64_t tried = kHeaderRead;; tried *= kReadOn) {
+    const uint64_t wanted = std::min(tried, available);
+    const DWORD code = ReadUpTo(file, static_cast<DWORD>(wanted), record);
+    if (code != ERROR_SUCCESS) return code;
+    if (TellSize(ByteView(*record), &size)) break;
+    // What cannot be read is told by whoever decodes it.
+    if (wanted == available) return ERROR_SUCCESS;
   }
-  return ERROR_SUCCESS;
+  if (size > available) return WinErrorOf(Status::kCorrupt);
+  return size > record->cbData ? ReadUpTo(file, static_cast<DWORD>(size), record) : ERROR_SUCCESS;
 }
 
 DWORD DecodeFrom(const CZEPFile& file, uint64_t position, DWORD limit, CertExtension* extension,
