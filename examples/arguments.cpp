@@ -29,9 +29,9 @@ Arguments::Arguments(const std::vector<std::string>& all, std::size_t first,
       const std::string name = argument.substr(0, equals);
       const Option& option = FindOption(name, options);
       if (equals != std::string::npos) {
-        if (!option.takesValue) throw UsageError{name + " takes no value"};
+        if (option.argument == nullptr) throw UsageError{name + " takes no value"};
         values_[name] = argument.substr(equals + 1);
-      } else if (!option.takesValue) {
+      } else if (option.argument == nullptr) {
         values_[name].clear();
       } else if (++i < all.size()) {
         values_[name] = all[i];

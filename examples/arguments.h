@@ -13,8 +13,9 @@
 namespace Example {
 
 struct Option {
-  const char* name;  // with its two hyphens; null behind the last
-  bool takesValue;
+  const char* name = nullptr;      // with its two hyphens; null behind the last
+  const char* argument = nullptr;  // what its value is called; null where it takes none
+  const char* about = nullptr;
 };
 
 class Arguments {

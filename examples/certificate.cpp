@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "examples/failure.h"
-#include "examples/pem.h"
 
 namespace Example {
 
@@ -23,8 +22,6 @@ constexpr std::size_t kMaxCertificateBytes = std::size_t{4} << 20;
 constexpr BYTE kSequence = 0x30;
 constexpr BYTE kVersion = 0xA0;
 constexpr BYTE kExtensions = 0xA3;
-
-using Callback = std::function<void(std::size_t, const std::string&)>;
 
 const BYTE* Octets(std::string_view text) { return reinterpret_cast<const BYTE*>(text.data()); }
 
@@ -44,7 +41,9 @@ std::size_t ElementSize(std::string_view rest) {
   return length <= rest.size() - header ? header + length : 0;
 }
 
-std::size_t ForEachDer(std::string_view file, const Callback& found, const Callback& bad) {
+std::size_t ForEachDer(std::string_view file, const CertificateFound& found,
+                       const CertificateBad& bad) {
+  const std::size_t whole = file.size();
   std::size_t number = 0;
   while (!file.empty()) {
     const std::size_t size = Octets(file)[0] == kSequence ? ElementSize(file) : 0;
@@ -53,8 +52,9 @@ std::size_t ForEachDer(std::string_view file, const Callback& found, const Callb
       bad(++number, "neither PEM nor the start of a whole DER sequence");
       break;
     }
-    found(++number, std::string(file.substr(0, size)));
+    const std::string der(file.substr(0, size));
     file.remove_prefix(size);
+    found(++number, der, whole - file.size());
   }
   return number;
 }
@@ -108,8 +108,8 @@ Certificate ReadCertificate(const std::string& der) {
   return certificate;
 }
 
-std::size_t ForEachCertificate(const std::string& file, const Callback& found,
-                               const Callback& bad) {
+std::size_t ForEachCertificate(const std::string& file, const CertificateFound& found,
+                               const CertificateBad& bad) {
   // The second octet of a certificate's encoding is a length above 127, and no text.
   const bool isDer = file.size() > 1 && Octets(file)[0] == kSequence && Octets(file)[1] >= 0x80;
   if (!isDer && HasPemBlock(file)) return ForEachPemBlock(file, found, bad);

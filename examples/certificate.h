@@ -5,9 +5,10 @@
 #include <ortholan/ident_obj.h>
 
 #include <cstddef>
-#include <functional>
 #include <list>
 #include <string>
+
+#include "examples/pem.h"
 
 namespace Example {
 
@@ -18,13 +19,11 @@ struct Certificate {
   std::list<Ortholan::IdentObj> extensions;  // one record each
 };
 
-// Calls `found` with the number, from 1, and the octets of each certificate in a file: PEM blocks,
-// other blocks and the text around them left out, or DER, one certificate behind the other. A place
-// that cannot be read as either goes to `bad` with its number and a description, and the next
-// follows. Returns how many there were, good and bad.
-std::size_t ForEachCertificate(const std::string& file,
-                               const std::function<void(std::size_t, const std::string&)>& found,
-                               const std::function<void(std::size_t, const std::string&)>& bad);
+// Calls `found` for each certificate in a file: PEM blocks, other blocks and the text around them
+// left out, or DER, one certificate behind the other. A place that cannot be read as either goes to
+// `bad`, and the next follows. Returns how many there were, good and bad.
+std::size_t ForEachCertificate(const std::string& file, const CertificateFound& found,
+                               const CertificateBad& bad);
 
 // Throws Failure for octets that are no certificate.
 Certificate ReadCertificate(const std::string& der);

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <iterator>
 
+#include "examples/colour.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -101,7 +102,8 @@ void ReportExcerpt(const std::string& lines) {
 
 void ReportLine(const std::string& text) {
   // Not FromUtf8: a file's name may be any octets.
-  const std::string line = "x509name: " + Visible(DerHelper::ToWString(text, CP_UTF8)) + "\n";
+  const std::string line = Paint(Colour::kFault, "x509name:", Stream::kError) + " " +
+                           Visible(DerHelper::ToWString(text, CP_UTF8)) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

@@ -35,10 +35,18 @@ std::string ReadStream(std::istream& stream, const std::string& name) {
   return bytes;
 }
 
+// A second reading would find it empty.
+std::string ReadStandardInput() {
+  static bool isRead = false;
+  if (isRead) throw UsageError{"standard input can be named once"};
+  isRead = true;
+  return ReadStream(std::cin, "standard input");
+}
+
 }  // namespace
 
 std::string ReadOctets(const std::string& path) {
-  if (path == "-") return ReadStream(std::cin, "standard input");
+  if (path == "-") return ReadStandardInput();
 
   // Streams report no cause of their own.
   const std::filesystem::path file = std::filesystem::u8path(path);
@@ -60,6 +68,14 @@ void WriteOctets(const std::string& path, const IdentObj& bytes) {
   }
   stream.close();
   if (!stream) Fail(ERROR_WRITE_FAULT, "cannot write " + path);
+}
+
+std::wstring ReadText(const std::string& argument) {
+  if (argument != "-") return FromUtf8(argument);
+  std::string text = ReadStandardInput();
+  if (!text.empty() && text.back() == '\n') text.pop_back();
+  if (!text.empty() && text.back() == '\r') text.pop_back();
+  return FromUtf8(text);
 }
 
 IdentObj ReadElement(const std::string& argument) {

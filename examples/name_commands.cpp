@@ -11,10 +11,12 @@
 #include <string>
 #include <utility>
 
+#include "examples/colour.h"
 #include "examples/commands.h"
 #include "examples/failure.h"
 #include "examples/input.h"
-#include "examples/name_view.h"
+#include "examples/json.h"
+#include "examples/name_text.h"
 #include "examples/text.h"
 #include "examples/text_failure.h"
 
@@ -60,12 +62,29 @@ AttributeTree ReadTree(const X509Name& name, const char* what) {
   FailToDecode(GetLastError(), name, what);
 }
 
+// A type and the lines of its value.
+using Pair = std::pair<std::wstring, std::list<std::wstring>>;
+
+std::string PairLine(const Pair& pair) {
+  std::wstring joined;
+  for (const std::wstring& value : pair.second) {
+    joined += (&value == &pair.second.front() ? L"" : L" | ") + value;
+  }
+  return Paint(Colour::kKey, ToUtf8(pair.first)) + "\t" + ToUtf8(joined) + "\n";
+}
+
+std::string PairJson(const Pair& pair) {
+  std::list<std::string> values;
+  for (const std::wstring& value : pair.second) values.push_back(JsonString(value));
+  return JsonObject().AddText("type", pair.first).Add("values", JsonArray(values)).End();
+}
+
 X509Name ReadName(const std::string& argument) { return X509Name(ReadElement(argument)); }
 
 }  // namespace
 
 int RunEncode(const Arguments& arguments) {
-  const IdentObj der = EncodeText(FromUtf8(arguments.operands[0]), arguments.Number("--options", 0),
+  const IdentObj der = EncodeText(ReadText(arguments.operands[0]), arguments.Number("--options", 0),
                                   arguments.Has("--sort"));
   if (const auto path = arguments.Value("--out")) {
     WriteOctets(*path, der);
@@ -85,7 +104,11 @@ int RunDecode(const Arguments& arguments) {
   if (!decoder.Decode(der, text, options)) {
     FailToDecode(GetLastError(), der, "the name cannot be decoded");
   }
-  Print(ToUtf8(text) + "\n");
+  if (arguments.Has("--json")) {
+    Print(JsonObject().AddText("text", text).End() + "\n");
+  } else {
+    Print(ToUtf8(text) + "\n");
+  }
   return 0;
 }
 
@@ -93,17 +116,17 @@ int RunPairs(const Arguments& arguments) {
   const DWORD style = arguments.Number("--style", kShortKeys);
   const IdentObj der = ReadElement(arguments.operands[0]);
   X500NameDecoder decoder;
-  std::list<std::pair<std::wstring, std::list<std::wstring>>> pairs;
+  std::list<Pair> pairs;
   SetLastError(ERROR_SUCCESS);
   if (!decoder.Decode(der, pairs, style)) {
     FailToDecode(GetLastError(), der, "the name cannot be decoded");
   }
-  for (const auto& [type, values] : pairs) {
-    std::wstring joined;
-    for (const std::wstring& value : values) {
-      joined += (&value == &values.front() ? L"" : L" | ") + value;
-    }
-    Print(ToUtf8(type) + "\t" + ToUtf8(joined) + "\n");
+  if (arguments.Has("--json")) {
+    std::list<std::string> objects;
+    for (const Pair& pair : pairs) objects.push_back(PairJson(pair));
+    Print(JsonArray(objects) + "\n");
+  } else {
+    for (const Pair& pair : pairs) Print(PairLine(pair));
   }
   return 0;
 }

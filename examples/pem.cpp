@@ -80,9 +80,9 @@ bool HasPemBlock(std::string_view file) {
   return StartsWith(file, kBegin) || file.find("\n-----BEGIN ") != std::string_view::npos;
 }
 
-std::size_t ForEachPemBlock(std::string_view file,
-                            const std::function<void(std::size_t, const std::string&)>& found,
-                            const std::function<void(std::size_t, const std::string&)>& bad) {
+std::size_t ForEachPemBlock(std::string_view file, const CertificateFound& found,
+                            const CertificateBad& bad) {
+  const std::size_t whole = file.size();
   std::size_t number = 0;
   bool inside = false;
   std::string_view label;
@@ -106,7 +106,7 @@ std::size_t ForEachPemBlock(std::string_view file,
       } else if (!bytes) {
         bad(number, "a PEM block that is no base64");
       } else {
-        found(number, *bytes);
+        found(number, *bytes, whole - file.size());
       }
     }
   }

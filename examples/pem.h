@@ -10,14 +10,19 @@
 
 namespace Example {
 
+// The number of a certificate, from 1, its octets, and where in the file it ends.
+using CertificateFound =
+    std::function<void(std::size_t number, const std::string& der, std::size_t position)>;
+// The number of what cannot be read, and a description.
+using CertificateBad = std::function<void(std::size_t number, const std::string& what)>;
+
 // Whether a line of `file` opens a block.
 bool HasPemBlock(std::string_view file);
 
-// Calls `found` with the number, from 1, and the octets of each certificate's block, `bad` with the
-// number and a description for a block that cannot be read. Returns how many there were.
-std::size_t ForEachPemBlock(std::string_view file,
-                            const std::function<void(std::size_t, const std::string&)>& found,
-                            const std::function<void(std::size_t, const std::string&)>& bad);
+// Calls `found` for each certificate's block, `bad` for one that cannot be read. Returns how many
+// there were.
+std::size_t ForEachPemBlock(std::string_view file, const CertificateFound& found,
+                            const CertificateBad& bad);
 
 // The octets of base64 text (RFC 4648 section 4) with white space anywhere; nothing where it is
 // none.

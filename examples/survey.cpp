@@ -14,7 +14,8 @@
 #include "examples/commands.h"
 #include "examples/failure.h"
 #include "examples/input.h"
-#include "examples/name_view.h"
+#include "examples/name_text.h"
+#include "examples/progress.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -154,9 +155,14 @@ void Survey::PrintResult() const {
 int RunSurvey(const Arguments& arguments) {
   Survey survey;
   for (const std::string& path : arguments.operands) {
+    const std::string file = ReadOctets(path);
+    Progress progress(file.size());
     ForEachCertificate(
-        ReadOctets(path),
-        [&survey](std::size_t, const std::string& der) { survey.CountCertificate(der); },
+        file,
+        [&](std::size_t number, const std::string& der, std::size_t position) {
+          survey.CountCertificate(der);
+          progress.Show(number, position);
+        },
         [&survey](std::size_t, const std::string&) { survey.CountBad(); });
   }
   survey.PrintResult();

@@ -36,22 +36,26 @@ struct Range {
 constexpr Range kHidden[] = {
     {0x0000, 0x001F}, {0x007F, 0x009F}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
 
+}  // namespace
+
 bool IsHidden(wchar_t unit) {
   return std::any_of(std::begin(kHidden), std::end(kHidden), [unit](const Range& range) {
     return unit >= range.first && unit <= range.last;
   });
 }
 
-}  // namespace
+std::wstring UnitEscape(wchar_t unit) {
+  const auto value = static_cast<unsigned>(unit);
+  return L"\\u" + X500NameDecoder::ToHex(static_cast<unsigned char>(value >> 8)) +
+         X500NameDecoder::ToHex(static_cast<unsigned char>(value & 0xFF));
+}
 
 std::string Visible(const std::wstring& text) {
   std::wstring shown;
   shown.reserve(text.size());
   for (const wchar_t unit : text) {
     if (IsHidden(unit)) {
-      const auto value = static_cast<unsigned>(unit);
-      shown += L"\\u" + X500NameDecoder::ToHex(static_cast<unsigned char>(value >> 8)) +
-               X500NameDecoder::ToHex(static_cast<unsigned char>(value & 0xFF));
+      shown += UnitEscape(unit);
     } else {
       shown += unit;
     }

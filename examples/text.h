@@ -17,8 +17,13 @@ std::wstring FromUtf8(const std::string& text);
 // A surrogate without its partner becomes U+FFFD.
 std::string ToUtf8(const std::wstring& text);
 
-// For a person's eyes, in UTF-8: control characters, line ends among them, and those that turn the
-// direction of writing are shown as \uXXXX, so that no certificate can forge a line of the output.
+// Control characters, line ends among them, and those that turn the direction of writing.
+bool IsHidden(wchar_t unit);
+// \uXXXX
+std::wstring UnitEscape(wchar_t unit);
+
+// For a person's eyes, in UTF-8: what is hidden is shown as \uXXXX, so that no certificate can
+// forge a line of the output.
 std::string Visible(const std::wstring& text);
 
 // Upper-case hexadecimal digits, without and with blanks between the octets.

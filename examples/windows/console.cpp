@@ -14,15 +14,27 @@
 namespace Example {
 namespace {
 
+bool IsConsole(DWORD handle, DWORD& mode) {
+  return GetConsoleMode(GetStdHandle(handle), &mode) != FALSE;
+}
+
 UINT outputCodePage = 0;
 
 // A console shows octets in a code page of its own, which stays with it after the program's end.
 void ShowUtf8() {
   DWORD mode = 0;
-  if (GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) == FALSE) return;
+  if (!IsConsole(STD_OUTPUT_HANDLE, mode) && !IsConsole(STD_ERROR_HANDLE, mode)) return;
   outputCodePage = GetConsoleOutputCP();
   if (outputCodePage == 0 || SetConsoleOutputCP(CP_UTF8) == FALSE) return;
   std::atexit([] { SetConsoleOutputCP(outputCodePage); });
+}
+
+// Consoles before Windows 10 have no such mode. It belongs to the console's buffer and stays on, as
+// the command interpreter sets it anew for each program.
+bool TakesSequences(DWORD handle) {
+  DWORD mode = 0;
+  if (!IsConsole(handle, mode)) return false;
+  return SetConsoleMode(GetStdHandle(handle), mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
 }
 
 }  // namespace
@@ -41,6 +53,12 @@ std::vector<std::string> OpenConsole(int /*argc*/, char** /*argv*/) {
   }
   LocalFree(texts);
   return arguments;
+}
+
+bool IsTerminal(Stream stream) {
+  static const bool output = TakesSequences(STD_OUTPUT_HANDLE);
+  static const bool error = TakesSequences(STD_ERROR_HANDLE);
+  return stream == Stream::kOutput ? output : error;
 }
 
 }  // namespace Example

@@ -63,6 +63,23 @@ row "empty value" 1 "" "$prefix end of the text at character 4: expected a value
 row "line ends in the text" 1 "" \
   "$prefix \"b\" at character 6: .+$line  CN=a\\\\u000Ab$line            \\^" encode $'CN=a\nb'
 
+# Standard input.
+stdin_file=text
+printf 'CN=Alpha\n' >text
+row "standard input" 0 "$alpha$line" "" encode -
+printf 'CN=Alpha\r\n' >text
+row "standard input, ended by CR LF" 0 "$alpha$line" "" encode -
+printf 'CN=Alpha' >text
+row "standard input without a line end" 0 "$alpha$line" "" encode -
+# 06 03 55 04 10 again
+printf 'POSTALADDRESS="a\nb"\n' >text
+row "standard input of two lines" 0 "3011310F300D06035504103006130161130162$line" "" encode -
+: >text
+row "standard input, empty" 1 "" "$prefix$(code 160)" encode -
+printf 'CN=\377\n' >text
+row "standard input that is no UTF-8" 1 "" "x509name: encode: the text is not UTF-8$(code 1113)" encode -
+stdin_file=
+
 # Files.
 row "octets into a file" 0 "" "" encode --out alpha.der 'CN=Alpha'
 row "and back" 0 "CN=Alpha$line" "" decode alpha.der

@@ -2,7 +2,15 @@
 # The command line itself.
 
 row "help" 0 '~usage: x509name COMMAND .*' "" --help
-row "help of a command" 0 '~usage: x509name COMMAND .*' "" encode --help
+row "help has examples" 0 "~  x509name encode --sort 'CN=Alpha, O=Org, C=RU'" "" -h
+row "version" 0 '~x509name [0-9]+\.[0-9]+\.[0-9]+' "" --version
+for command in encode decode pairs get set equal show survey extension general-name; do
+  row "help names $command" 0 "~  $command  .*" "" --help
+  row "$command: help" 0 "~usage: x509name $command .*" "" "$command" --help
+  row "$command: help has an example" 0 "~  x509name $command .*" "" "$command" -h
+done
+row "help of a command behind other words" 0 '~  --sort  .*' "" encode --sort CN=a --help
+row "text that looks like an option" 1 "" "x509name: encode: .*$(code 0)" encode -- --help
 row "no command" 2 "" "x509name: a command is needed; .*"
 row "unknown command" 2 "" "x509name: there is no command frob; .*" frob
 row "unknown option" 2 "" "x509name: there is no option --frob" decode --frob 3000
@@ -17,3 +25,8 @@ for number in '' 3x -1 +3 ' 3' 0x 09 0x100000000 99999999999999999999; do
 done
 row "largest number" 0 $'\n' "" decode --options 0xFFFFFFFF 3000
 row "line end in a message" 1 "" 'x509name: decode: cannot open a\\u000Ab: .*' decode $'a\nb'
+stdin_file=number
+printf '3000' >number
+row "standard input named twice" 2 "" "x509name: standard input can be named once" equal - -
+stdin_file=
+row "result that cannot be decoded" 1 "" 'x509name: decode: .*' decode --json 04

@@ -1,4 +1,4 @@
-#include "examples/general_name_view.h"
+#include "examples/general_names.h"
 
 #include <ortholan/asn1.h>
 #include <ortholan/der_helper.h>
@@ -7,11 +7,8 @@
 
 #include <cstddef>
 #include <iterator>
-#include <list>
 
-#include "examples/failure.h"
-#include "examples/input.h"
-#include "examples/name_view.h"
+#include "examples/name_text.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -62,29 +59,30 @@ std::string Ip6Text(const IdentObj& address) {
   return text;
 }
 
-std::string AddressReading(const IdentObj& address) {
-  if (address.cbData == 16) return Ip6Text(address);
-  if (address.cbData != 4) return SpacedHex(address);
-  return Visible(GeneralName(iPAddress, address).ToString(0, 0));
+std::wstring AddressReading(const IdentObj& address) {
+  if (address.cbData == 16) return FromUtf8(Ip6Text(address));
+  if (address.cbData != 4) return FromUtf8(SpacedHex(address));
+  return GeneralName(iPAddress, address).ToString(0, 0);
 }
 
 // [4] EXPLICIT Name
-std::string DirectoryReading(const GeneralName& name) {
+std::wstring DirectoryReading(const GeneralName& name) {
   const std::list<IdentObj> parts = Parts(name.GetContent());
   if (parts.size() != 1) return {};
   const NameText text = ReadNameText(parts.front());
-  return text.accepted ? Visible(text.text) : "(refused: " + text.reason + ")";
+  return text.accepted ? text.text : FromUtf8("(refused: " + text.reason + ")");
 }
 
 // [0] SEQUENCE { OBJECT IDENTIFIER, [0] EXPLICIT value }
-std::string OtherReading(const GeneralName& name) {
+std::wstring OtherReading(const GeneralName& name) {
   const std::list<IdentObj> parts = Parts(name.GetContent());
   if (parts.size() != 2) return {};
-  return DerHelper::DecodeOid(parts.front(), false) + " " + SpacedHex(Content(parts.back()));
+  return FromUtf8(DerHelper::DecodeOid(parts.front(), false) + " " +
+                  SpacedHex(Content(parts.back())));
 }
 
 // What the octets of a name hold whose text is raw octets; empty for the other kinds.
-std::string Reading(const GeneralName& name) {
+std::wstring Reading(const GeneralName& name) {
   switch (name.GetTag()) {
     case otherName:
       return OtherReading(name);
@@ -97,38 +95,42 @@ std::string Reading(const GeneralName& name) {
   }
 }
 
-std::string Text(GeneralName name) {
+std::wstring Text(GeneralName name) {
   std::wstring text = name.ToString(0, 0);
   // An other name's text has as many NULs behind it as it has octets, an EDI party's a line end.
   while (!text.empty() && (text.back() == L'\0' || text.back() == L'\n')) text.pop_back();
-  return Visible(text);
+  return text;
 }
 
-void PrintGeneralName(const IdentObj& der, const std::string& indent) {
-  const GeneralName name = GeneralName::DerDecode(der);
-  std::string lines = indent + Kind(name.GetTag()) + ": " + Text(name) + "\n";
-  const std::string reading = Reading(name);
-  if (!reading.empty()) lines += indent + "  = " + reading + "\n";
-  Print(lines);
+GeneralNameReading ReadOne(const IdentObj& der) {
+  GeneralNameReading reading;
+  reading.octets = der;
+  try {
+    const GeneralName name = GeneralName::DerDecode(der);
+    reading.kind = Kind(name.GetTag());
+    reading.text = Text(name);
+    reading.meaning = Reading(name);
+    reading.isRead = true;
+  } catch (const XZEPStatus&) {
+    reading.isRead = false;
+  }
+  return reading;
 }
 
 }  // namespace
 
-bool PrintGeneralNames(const IdentObj& value, const std::string& indent) {
+GeneralNamesReading ReadGeneralNames(const IdentObj& value) {
+  GeneralNamesReading reading;
   std::list<IdentObj> names;
   DWORD status = 0;
   ASNTGetSequence(names, value.pbData, value.cbData, &status);
-  bool isWhole = status == 0;
+  reading.isWhole = status == 0;
+  if (status != 0) reading.faulty = value;
   for (const IdentObj& der : names) {
-    try {
-      PrintGeneralName(der, indent);
-    } catch (const XZEPStatus&) {
-      Print(indent + "(unreadable) " + SpacedHex(der) + "\n");
-      isWhole = false;
-    }
+    reading.names.push_back(ReadOne(der));
+    reading.isWhole = reading.isWhole && reading.names.back().isRead;
   }
-  if (status != 0) Print(indent + "(cannot be read further) " + SpacedHex(value) + "\n");
-  return isWhole;
+  return reading;
 }
 
 }  // namespace Example

@@ -1,6 +1,6 @@
-// A name for a person's eyes: its text, its tree, and why the library refuses it.
-#ifndef ORTHOLAN_EXAMPLES_NAME_VIEW_H_
-#define ORTHOLAN_EXAMPLES_NAME_VIEW_H_
+// A name's text, or why the library refuses it.
+#ifndef ORTHOLAN_EXAMPLES_NAME_TEXT_H_
+#define ORTHOLAN_EXAMPLES_NAME_TEXT_H_
 
 #include <ortholan/ident_obj.h>
 #include <ortholan/platform.h>
@@ -22,10 +22,6 @@ struct NameText {
 // The name's text with short keys (style 3).
 NameText ReadNameText(const Ortholan::IdentObj& name);
 
-// Prints the name as a tree: a line an RDN, below it a line an attribute with its type, string type
-// and value. Also for names that the decoders refuse, as far as their encoding goes.
-void PrintNameTree(const Ortholan::IdentObj& name, const std::string& indent);
-
 }  // namespace Example
 
-#endif  // ORTHOLAN_EXAMPLES_NAME_VIEW_H_
+#endif  // ORTHOLAN_EXAMPLES_NAME_TEXT_H_

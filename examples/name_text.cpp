@@ -1,0 +1,72 @@
+#include "examples/name_text.h"
+
+#include <ortholan/x509_name.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <list>
+
+#include "examples/failure.h"
+#include "examples/name_tree.h"
+
+namespace Example {
+
+using namespace Ortholan;
+
+namespace {
+
+constexpr DWORD kShortKeys = CERT_X500_NAME_STR;
+
+// What in the tree of `name` the decoders refuse without a code; empty where it is not the tree.
+std::string ShapeFault(const IdentObj& name) {
+  std::list<IdentObj> rdns;
+  if (!Split(name, rdns)) return {};
+  for (const IdentObj& rdn : rdns) {
+    std::list<IdentObj> attributes;
+    if (!Split(rdn, attributes)) return "an RDN that is corrupt";
+    if (attributes.empty()) return "an RDN without attributes";
+    if (attributes.size() > 1) return "several attributes in one RDN";
+    std::list<IdentObj> parts;
+    if (!Split(attributes.front(), parts) || parts.size() != 2 ||
+        std::count_if(parts.begin(), parts.end(), IsTypeElement) != 1) {
+      return "an attribute that is not one type and one value";
+    }
+  }
+  return {};
+}
+
+// Whether every RDN can be read and one has several attributes.
+bool IsMultiValued(const IdentObj& name) {
+  std::list<IdentObj> rdns;
+  std::size_t most = 0;
+  if (!Split(name, rdns)) return false;
+  for (const IdentObj& rdn : rdns) {
+    std::list<IdentObj> attributes;
+    if (!Split(rdn, attributes)) return false;
+    for (const IdentObj& attribute : attributes) {
+      std::list<IdentObj> parts;
+      if (!Split(attribute, parts) || parts.size() != 2) return false;
+    }
+    if (attributes.empty()) return false;
+    most = std::max(most, attributes.size());
+  }
+  return most > 1;
+}
+
+}  // namespace
+
+NameText ReadNameText(const IdentObj& name) {
+  NameText result;
+  SetLastError(ERROR_SUCCESS);
+  result.accepted = name.cbData != 0 && X509Name(name).TryGetX500String(result.text, kShortKeys);
+  if (result.accepted) return result;
+  result.code = GetLastError();
+  result.reason = Meaning(result.code);
+  if (result.code == ERROR_SUCCESS) {
+    result.reason = name.cbData != 0 ? ShapeFault(name) : "no octets";
+    result.isMultiValued = IsMultiValued(name);
+  }
+  return result;
+}
+
+}  // namespace Example
