@@ -29,6 +29,14 @@ install(DIRECTORY
 
 if(TARGET x509name)
   install(TARGETS x509name RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT program)
+  if(NOT WIN32)
+    install(FILES "${PROJECT_SOURCE_DIR}/examples/x509name.1"
+      DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT program)
+    # bash-completion looks there for a file with the command's name.
+    install(FILES "${PROJECT_SOURCE_DIR}/examples/x509name.bash"
+      DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME x509name
+      COMPONENT program)
+  endif()
 endif()
 
 install(FILES

@@ -66,6 +66,7 @@ CMake and pkg-config need to find the library.")
   set(CPACK_DEBIAN_PROGRAM_DESCRIPTION
     "converts and shows names of X.509 certificates\n${about}
 .
-This package holds the command x509name.")
+This package holds the command x509name, its manual page and its completion
+for bash.")
 endif()
 include(CPack)

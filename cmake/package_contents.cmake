@@ -1,5 +1,5 @@
 # Run by CPack in its staging directory, before it packs. For Debian: what its policy wants beside
-# the installed files. For Windows: debug information in files of its own.
+# the installed files, and manual pages compressed. For Windows: debug information in files of its own.
 
 # debian_documents(<package> <root>): copyright and changelogs; the licence is in the former.
 function(debian_documents package root)
@@ -63,6 +63,8 @@ if(CPACK_GENERATOR STREQUAL "DEB")
     string(TOUPPER ${group} upper)
     debian_documents("${CPACK_DEBIAN_${upper}_PACKAGE_NAME}" "${stage}/${group}")
   endforeach()
+  file(GLOB pages "${stage}/program/usr/share/man/man1/*.1")
+  execute_process(COMMAND gzip -9nf ${pages} COMMAND_ERROR_IS_FATAL ANY)
   file(GLOB_RECURSE archives "${stage}/development/*.a")
   foreach(archive IN LISTS archives)
     execute_process(COMMAND "${CPACK_ORTHOLAN_OBJCOPY}" --strip-debug --enable-deterministic-archives

@@ -34,7 +34,7 @@ const Command kCommands[] = {
      1,
      "[--options N] [--json] NAME",
      "the text of a name",
-     "Prints the text as it stands, control characters as well; --json escapes them.\n",
+     "Prints the text in one line, or with CR LF as the separator in several.\n",
      "x509name decode 3010310E300C06035504031305416C706861\n"
      "    CN=Alpha\n"
      "x509name encode 'CN=Alpha, C=RU' | x509name decode -\n"

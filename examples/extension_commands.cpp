@@ -34,7 +34,7 @@ int RunExtension(const Arguments& arguments) {
 
 int RunGeneralName(const Arguments& arguments) {
   GeneralName name = GeneralName::DerDecode(ReadElement(arguments.operands[0]));
-  const std::string text = ToUtf8(name.ToString(0, 0));
+  const std::string text = Output(name.ToString(0, 0));
   Print(std::to_string(name.GetTag()) + "\t" + text + "\n");
   return 0;
 }

@@ -70,7 +70,7 @@ std::string PairLine(const Pair& pair) {
   for (const std::wstring& value : pair.second) {
     joined += (&value == &pair.second.front() ? L"" : L" | ") + value;
   }
-  return Paint(Colour::kKey, ToUtf8(pair.first)) + "\t" + ToUtf8(joined) + "\n";
+  return Paint(Colour::kKey, Output(pair.first)) + "\t" + Output(joined) + "\n";
 }
 
 std::string PairJson(const Pair& pair) {
@@ -107,7 +107,7 @@ int RunDecode(const Arguments& arguments) {
   if (arguments.Has("--json")) {
     Print(JsonObject().AddText("text", text).End() + "\n");
   } else {
-    Print(ToUtf8(text) + "\n");
+    Print(Output(text) + "\n");
   }
   return 0;
 }
@@ -141,7 +141,7 @@ int RunGet(const Arguments& arguments) {
   if (!name.GetSimpleRDN(oid.c_str(), value)) {
     Fail(static_cast<DWORD>(CRYPT_E_NOT_FOUND), "the name has no attribute " + oid);
   }
-  Print(ToUtf8(value) + "\n");
+  Print(Output(value) + "\n");
   return 0;
 }
 

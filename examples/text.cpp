@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "examples/console.h"
 #include "examples/failure.h"
 
 namespace Example {
@@ -50,17 +51,31 @@ std::wstring UnitEscape(wchar_t unit) {
          X500NameDecoder::ToHex(static_cast<unsigned char>(value & 0xFF));
 }
 
-std::string Visible(const std::wstring& text) {
+namespace {
+
+template <typename IsEscaped>
+std::string Escaped(const std::wstring& text, IsEscaped isEscaped) {
   std::wstring shown;
   shown.reserve(text.size());
   for (const wchar_t unit : text) {
-    if (IsHidden(unit)) {
+    if (isEscaped(unit)) {
       shown += UnitEscape(unit);
     } else {
       shown += unit;
     }
   }
   return ToUtf8(shown);
+}
+
+}  // namespace
+
+std::string Visible(const std::wstring& text) { return Escaped(text, IsHidden); }
+
+std::string Output(const std::wstring& text) {
+  if (!IsTerminal(Stream::kOutput)) return ToUtf8(text);
+  return Escaped(text, [](wchar_t unit) {
+    return unit != L'\r' && unit != L'\n' && unit != L'\t' && IsHidden(unit);
+  });
 }
 
 std::string Hex(const IdentObj& bytes) {

@@ -26,6 +26,10 @@ std::wstring UnitEscape(wchar_t unit);
 // forge a line of the output.
 std::string Visible(const std::wstring& text);
 
+// For standard output, in UTF-8: as it stands, but on a terminal, which would obey them, with
+// hidden characters other than line ends and tabs shown as \uXXXX.
+std::string Output(const std::wstring& text);
+
 // Upper-case hexadecimal digits, without and with blanks between the octets.
 std::string Hex(const Ortholan::IdentObj& bytes);
 std::string SpacedHex(const Ortholan::IdentObj& bytes);

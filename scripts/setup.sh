@@ -12,8 +12,8 @@ windows=(g++-mingw-w64-x86-64-posix googletest wine64)
 case ${1-} in
   native) packages=("${native[@]}") ;;
   test)
-    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format libssl-dev pkg-config
-      python3 valgrind)
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format gdb libssl-dev
+      mandoc pkg-config python3 valgrind)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)

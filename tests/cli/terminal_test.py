@@ -123,6 +123,35 @@ def check_colour(program):
               run(program, arguments, False, False))
 
 
+# ESC ] 0 ; x BEL sets a terminal's title; U+202E turns the direction.
+HOSTILE = "\x1b]0;x\x07\u202e"
+
+
+def check_hidden(program):
+    def element(tag, *content):
+        content = b"".join(content)
+        return bytes([tag, len(content)]) + content
+
+    value = element(0x0C, f"a{HOSTILE}\tb".encode())
+    digits = element(0x30, element(0x31, element(0x30, b"\6\3\x55\4\3", value))).hex()
+    shown = b"a\\u001B]0;x\\u0007\\u202E\tb"
+    # Label, command line, standard output on a terminal without colour.
+    rows = [
+        ("decode", ["decode", digits], b'CN="' + shown + b'"\n'),
+        ("pairs", ["pairs", digits], b"CN\t" + shown + b"\n"),
+        ("get", ["get", "2.5.4.3", digits], shown + b"\n"),
+        ("general name", ["general-name", b"\x82".hex() + value[1:].hex()], b"2\t" + shown + b"\n"),
+        ("line ends", ["decode", "--options", "0x08000003", "3018310A300806035504060C0163"
+                       "310A300806035504030C0161"], b"C=c\r\nCN=a\n"),
+    ]
+    for label, arguments, expected in rows:
+        check(f"{label}: hidden characters on a terminal",
+              run(program, arguments, True, True, NO_COLOR="1"), (0, expected, b""))
+        if label != "line ends":
+            check(f"{label}: hidden characters in a pipe",
+                  HOSTILE.encode() in run(program, arguments, False, False)[1], True)
+
+
 def bundle(path, blocks):
     with open(path, "wb") as file:
         file.write(b"".join(blocks))
@@ -185,6 +214,7 @@ def main():
     os.environ["LC_ALL"] = "C.UTF-8"
     os.chdir(sys.argv[1])
     check_colour(program)
+    check_hidden(program)
     with tempfile.TemporaryDirectory() as scratch:
         check_progress(program, scratch)
     for failure in failures:

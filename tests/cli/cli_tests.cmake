@@ -1,0 +1,28 @@
+# The program as its users run it.
+set(cli "${CMAKE_CURRENT_SOURCE_DIR}/cli")
+set(runs_x509name ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:x509name>)
+
+function(ortholan_cli_test name)
+  add_test(NAME cli_${name} COMMAND ${ARGN})
+  ortholan_test_properties(cli_${name})
+  # A process for each command line.
+  set_tests_properties(cli_${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# A table of command lines each.
+foreach(table IN ITEMS encode decode usage certificates hostile)
+  ortholan_cli_test(${table} "${cli}/run.sh" ${table}.sh ${runs_x509name})
+endforeach()
+
+set(certificates "${CMAKE_CURRENT_SOURCE_DIR}/data/certificates")
+ortholan_cli_test(json python3 "${cli}/json_test.py" "${certificates}" ${runs_x509name})
+if(NOT WIN32)
+  # Wine's console is not the one of Windows.
+  ortholan_cli_test(terminal python3 "${cli}/terminal_test.py" "${certificates}" ${runs_x509name})
+  ortholan_cli_test(completion
+    "${cli}/completion.sh" "${PROJECT_SOURCE_DIR}/examples/x509name.bash" ${runs_x509name})
+endif()
+if(ORTHOLAN_CHECK_SOURCES)
+  ortholan_cli_test(manual
+    "${cli}/manual.sh" "${PROJECT_SOURCE_DIR}/examples/x509name.1" ${runs_x509name})
+endif()
