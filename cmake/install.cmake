@@ -40,6 +40,19 @@ if(TARGET x509name)
 endif()
 
 install(FILES
+  "${PROJECT_SOURCE_DIR}/debug/ortholan.natvis"
+  "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/ortholan" COMPONENT development)
+if(NOT WIN32)
+  # GDB looks below its own data directory for the full path of a library that it loads: what is
+  # configured for /usr it finds by itself.
+  install(FILES "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load/${CMAKE_INSTALL_FULL_LIBDIR}"
+    RENAME "libortholan.so.${PROJECT_VERSION}-gdb.py"
+    COMPONENT development)
+endif()
+
+install(FILES
   "${PROJECT_SOURCE_DIR}/LICENSE"
   "${PROJECT_SOURCE_DIR}/README.md"
   "${PROJECT_SOURCE_DIR}/CHANGELOG.md"

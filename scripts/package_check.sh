@@ -65,6 +65,11 @@ check_debian() {
     fail "the completion does not work"
   zcat "$root/usr/share/man/man1/x509name.1.gz" | cmp -s - examples/x509name.1 ||
     fail "the manual page is not there"
+  # Where GDB looks for what belongs to a library.
+  local library
+  library=$(readlink -f "$libraries/libortholan.so")
+  cmp -s debug/ortholan_gdb.py "$root/usr/share/gdb/auto-load${library#"$root"}-gdb.py" ||
+    fail "GDB would not find the printers"
   as_root "${dpkg[@]}" --purge "${names[@]}" >"$scratch/log" 2>&1 ||
     { cat "$scratch/log" >&2; fail "not removed"; }
   [[ -z $(contents "$root") ]] || fail "left behind: $(contents "$root")"

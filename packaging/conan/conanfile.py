@@ -27,9 +27,9 @@ class OrtholanConan(ConanFile):
 
     def export_sources(self):
         root = os.path.join(self.recipe_folder, "..", "..")
-        for pattern in ("CMakeLists.txt", "LICENSE", "*.md", "abi/*", "capi/*", "cmake/*", "docs/*",
-                        "extensions/*", "foundation/*", "generalname/*", "include/*", "names/*",
-                        "platform/*"):
+        for pattern in ("CMakeLists.txt", "LICENSE", "*.md", "abi/*", "capi/*", "cmake/*", "debug/*",
+                        "docs/*", "extensions/*", "foundation/*", "generalname/*", "include/*",
+                        "names/*", "platform/*"):
             copy(self, pattern, root, self.export_sources_folder, excludes=("build/*", ".git/*"))
 
     def layout(self):
