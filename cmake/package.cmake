@@ -21,7 +21,9 @@ elseif(NOT ORTHOLAN_DPKG_SHLIBDEPS)
   set(CPACK_STRIP_FILES ON)
 else()
   set(CPACK_GENERATOR DEB)
-  set(CPACK_STRIP_FILES ON)
+  # Debug information goes into packages of its own: compilers describe a class where its virtual
+  # functions are, so that debuggers need the library's.
+  set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)
   set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/package_triggers.cmake")
 
   # One package a group; its first line of description is the synopsis.

@@ -42,6 +42,25 @@ contents() {
   find "$1" -path "$1/var/lib/dpkg" -prune -o ! -type d -print
 }
 
+# check_debugger ROOT LIBRARIES: a program built without special options is seen through the stripped
+# library, by the debug information that goes with it.
+check_debugger() {
+  local root=$1 libraries=$2 said
+  dpkg-deb -x "$native"/packages/libortholan*-dbgsym_"$VERSION"-*.ddeb "$scratch/symbols"
+  g++ -std=c++17 -g -O0 -I"$root/usr/include" tests/debug/printed.cpp "$libraries/libortholan.so" \
+    -o "$scratch/printed"
+  echo 301D310B3009060355040613025255310E300C06035504030C05416C706861 >"$scratch/names"
+  said=$(LD_LIBRARY_PATH=$libraries gdb -nx -batch \
+    -iex "set debug-file-directory $scratch/symbols/usr/lib/debug" -iex 'set auto-load safe-path /' \
+    -ex "source $root/usr/share/ortholan/ortholan_gdb.py" -ex 'break Inspect' -ex run \
+    -ex 'output names[0]' --args "$scratch/printed" "$scratch/names" 2>&1)
+  [[ $said == *'C=RU,CN=Alpha' ]] || fail "GDB shows a name as '$said'"
+  # Where GDB looks by itself for what belongs to a library.
+  cmp -s debug/ortholan_gdb.py \
+    "$root/usr/share/gdb/auto-load${libraries#"$root"}/libortholan.so.$VERSION-gdb.py" ||
+    fail "GDB would not find the printers"
+}
+
 check_debian() {
   local root=$scratch/debian packages=("$native"/packages/*_"$VERSION"-*.deb) names=() package
   ((${#packages[@]} == 3)) || fail "not three Debian packages but: ${packages[*]}"
@@ -65,11 +84,7 @@ check_debian() {
     fail "the completion does not work"
   zcat "$root/usr/share/man/man1/x509name.1.gz" | cmp -s - examples/x509name.1 ||
     fail "the manual page is not there"
-  # Where GDB looks for what belongs to a library.
-  local library
-  library=$(readlink -f "$libraries/libortholan.so")
-  cmp -s debug/ortholan_gdb.py "$root/usr/share/gdb/auto-load${library#"$root"}-gdb.py" ||
-    fail "GDB would not find the printers"
+  check_debugger "$root" "$libraries"
   as_root "${dpkg[@]}" --purge "${names[@]}" >"$scratch/log" 2>&1 ||
     { cat "$scratch/log" >&2; fail "not removed"; }
   [[ -z $(contents "$root") ]] || fail "left behind: $(contents "$root")"

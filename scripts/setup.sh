@@ -21,8 +21,8 @@ case ${1-} in
       libbotan-2-dev libmbedtls-dev)
     ;;
   docs) packages=("${native[@]}" doxygen graphviz) ;;
-  package) packages=("${native[@]}" "${windows[@]}" dpkg-dev fakeroot file lintian pkg-config
-    unzip) ;;
+  package) packages=("${native[@]}" "${windows[@]}" dpkg-dev fakeroot file gdb lintian
+    pkg-config unzip) ;;
   *)
     echo "usage: setup.sh native|test|fuzz|bench|docs|package" >&2
     exit 2
