@@ -75,7 +75,7 @@ row "standard input without a line end" 0 "$alpha$line" "" encode -
 printf 'POSTALADDRESS="a\nb"\n' >text
 row "standard input of two lines" 0 "3011310F300D06035504103006130161130162$line" "" encode -
 : >text
-row "standard input, empty" 1 "" "$prefix$(code 160)" encode -
+row "standard input, empty" 1 "" "3:$prefix end of the text at character 1: .+" encode -
 printf 'CN=\377\n' >text
 row "standard input that is no UTF-8" 1 "" "x509name: encode: the text is not UTF-8$(code 1113)" encode -
 stdin_file=

@@ -10,7 +10,7 @@ for command in encode decode pairs get set equal show survey extension general-n
   row "$command: help has an example" 0 "~  x509name $command .*" "" "$command" -h
 done
 row "help of a command behind other words" 0 '~  --sort  .*' "" encode --sort CN=a --help
-row "text that looks like an option" 1 "" "x509name: encode: .*$(code 0)" encode -- --help
+row "text that looks like an option" 1 "" '3:x509name: encode: "--help" at character 1: .+' encode -- --help
 row "no command" 2 "" "x509name: a command is needed; .*"
 row "unknown command" 2 "" "x509name: there is no command frob; .*" frob
 row "unknown option" 2 "" "x509name: there is no option --frob" decode --frob 3000
