@@ -29,12 +29,32 @@ void ShowUtf8() {
   std::atexit([] { SetConsoleOutputCP(outputCodePage); });
 }
 
-// Consoles before Windows 10 have no such mode. It belongs to the console's buffer and stays on, as
-// the command interpreter sets it anew for each program.
+// Whether a sequence leaves the cursor where it was; what is shown of one is wiped away.
+bool Obeys(HANDLE console) {
+  static constexpr char kReset[] = "\x1B[0m";
+  constexpr DWORD kSize = sizeof kReset - 1;
+  CONSOLE_SCREEN_BUFFER_INFO before = {};
+  CONSOLE_SCREEN_BUFFER_INFO after = {};
+  DWORD written = 0;
+  if (GetConsoleScreenBufferInfo(console, &before) == FALSE) return false;
+  if (WriteConsoleA(console, kReset, kSize, &written, nullptr) == FALSE) return false;
+  if (GetConsoleScreenBufferInfo(console, &after) == FALSE) return false;
+  const COORD place = before.dwCursorPosition;
+  if (place.X == after.dwCursorPosition.X && place.Y == after.dwCursorPosition.Y) return true;
+  SetConsoleCursorPosition(console, place);
+  FillConsoleOutputCharacterA(console, ' ', kSize, place, &written);
+  return false;
+}
+
+// Consoles before Windows 10 have no such mode, and Wine's takes it and shows the sequences. It
+// belongs to the console's buffer and stays on, as the command interpreter sets it anew for each
+// program.
 bool TakesSequences(DWORD handle) {
   DWORD mode = 0;
   if (!IsConsole(handle, mode)) return false;
-  return SetConsoleMode(GetStdHandle(handle), mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
+  HANDLE const console = GetStdHandle(handle);
+  if (SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) == FALSE) return false;
+  return Obeys(console);
 }
 
 }  // namespace
