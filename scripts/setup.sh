@@ -20,7 +20,7 @@ case ${1-} in
     packages=("${native[@]}" "${windows[@]}" libbenchmark-dev libssl-dev libgnutls28-dev
       libbotan-2-dev libmbedtls-dev)
     ;;
-  docs) packages=("${native[@]}" doxygen graphviz) ;;
+  docs) packages=("${native[@]}" doxygen graphviz python3) ;;
   package) packages=("${native[@]}" "${windows[@]}" dpkg-dev fakeroot file gdb lintian
     pkg-config unzip) ;;
   *)

@@ -39,6 +39,7 @@ class ORTHOLAN_EXPORT CASNTBaseRecord {
   // Reads the header at the front of `data` into the record, which is cleared first. Returns the
   // header's size in bytes, 0 on failure (205, 206).
   DWORD ReadASNInfo(const void* data, DWORD size, DWORD* status = nullptr);
+  // The header that was read last; all zero before the first.
   const ASNT_ASN_STRUCT_INFO& GetASNInfo() const noexcept;
 
  private:

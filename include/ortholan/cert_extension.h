@@ -22,9 +22,11 @@ class ORTHOLAN_EXPORT CertExtension {
   CertExtension();
   CertExtension(const CertExtension& other);
   CertExtension(CertExtension&& other) noexcept;
+  // The platform's structure, copied.
   CertExtension(const CERT_EXTENSION& extension);
   CertExtension& operator=(const CertExtension& other);
   CertExtension& operator=(CertExtension&& other) noexcept;
+  // The platform's structure, copied.
   CertExtension& operator=(const CERT_EXTENSION& extension);
   virtual ~CertExtension();
 
@@ -60,8 +62,8 @@ class ORTHOLAN_EXPORT CertExtension {
   DWORD ReadData(const void* data, DWORD size, int* error);
   DWORD ReadData(const CZEPFile& file, DWORD size, int* error);
 
-  IdentObj oid;  // characters of the dotted identifier, without a terminator
-  BOOL critical;
+  IdentObj oid;    // characters of the dotted identifier, without a terminator
+  BOOL critical;   // 0, or anything else for a critical extension
   IdentObj value;  // content of the record's OCTET STRING
 };
 

@@ -7,6 +7,7 @@
 #define ORTHOLAN_EXPORT_H_
 
 #if !defined(_WIN32)
+// Stands before every class and function that crosses the library's border.
 #define ORTHOLAN_EXPORT __attribute__((visibility("default")))
 #elif defined(ORTHOLAN_STATIC)
 #define ORTHOLAN_EXPORT

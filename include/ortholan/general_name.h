@@ -28,9 +28,10 @@ enum GeneralNameTag : uint32_t {
   registeredID = 8,
 };
 
+// The two texts of an ediPartyName.
 struct ORTHOLAN_EXPORT EdiPartyName {
-  std::wstring nameAssigner;
-  std::wstring partyName;
+  std::wstring nameAssigner;  // who gave the name; may be empty
+  std::wstring partyName;     // the name itself
 };
 
 // A plain value: a tag and the DER element of the chosen alternative. All failures are exceptions:
@@ -38,6 +39,7 @@ struct ORTHOLAN_EXPORT EdiPartyName {
 class ORTHOLAN_EXPORT GeneralName {
  public:
   GeneralName();
+  // Both as they stand.
   GeneralName(GeneralNameTag tag, const IdentObj& content);
   GeneralName(const GeneralName&);
   GeneralName(GeneralName&&) noexcept;
@@ -47,15 +49,18 @@ class ORTHOLAN_EXPORT GeneralName {
 
   // The element with its own universal tag, or for a decoded name the whole tagged element.
   const IdentObj& GetContent() const noexcept;
+  // Which alternative it is, or the tag number that was decoded.
   GeneralNameTag GetTag() const noexcept;
 
-  // An IA5String; letters outside ASCII become what the platform's US-ASCII has for them. A URI is
-  // stored like a DNS name, with tag 2.
+  // An IA5String; letters outside ASCII become what the platform's US-ASCII has for them.
   static GeneralName CreateRfc822Name(const std::wstring& text);
+  // The same as a DNS name, tag 2.
   static GeneralName CreateDnsName(const std::wstring& text);
+  // The same; stored like a DNS name, with tag 2.
   static GeneralName CreateUri(const std::wstring& text);
-  // The encoding as it stands, under tag 3 and 4.
+  // The encoding as it stands, under tag 3.
   static GeneralName CreateX400Address(const IdentObj& der);
+  // The encoding of a Name as it stands, under tag 4.
   static GeneralName CreateDirectoryName(const IdentObj& der);
   // A SEQUENCE of both names, [0] and [1], also where they are empty; stored with tag 4.
   static GeneralName CreateEdiPartyName(const EdiPartyName& name);

@@ -26,10 +26,12 @@ class ORTHOLAN_EXPORT IdentObj : public CRYPT_DATA_BLOB {
   IdentObj(const void* data, DWORD size);
   IdentObj(const IdentObj& other);
   IdentObj(IdentObj&& other) noexcept;
+  // A copy of the platform's blob.
   IdentObj(const CRYPT_DATA_BLOB& blob);
 
   IdentObj& operator=(const IdentObj& other);
   IdentObj& operator=(IdentObj&& other) noexcept;
+  // Becomes a copy of the platform's blob.
   IdentObj& operator=(const CRYPT_DATA_BLOB& blob);
   // The characters of `text` without the terminator; null is "".
   IdentObj& operator=(const char* text);
@@ -45,7 +47,9 @@ class ORTHOLAN_EXPORT IdentObj : public CRYPT_DATA_BLOB {
   // A copy of `size` bytes at `data`; the empty blob where `data` is null.
   void Assign(const void* data, DWORD size);
 
+  // Sizes and bytes are equal.
   bool operator==(const IdentObj& other) const;
+  // Sizes or bytes differ.
   bool operator!=(const IdentObj& other) const;
 
   // Bytes that the blob takes when stored as a 32-bit length and its content: cbData + 4.

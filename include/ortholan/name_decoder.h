@@ -55,6 +55,7 @@ class ORTHOLAN_EXPORT X500NameDecoder {
   // Only the high 16 bits are kept: 0x08000000 separates RDNs by CR LF, otherwise 0x40000000 by
   // ";", otherwise they are separated by ",".
   void SetDecoderOptions(DWORD options);
+  // What was kept of them.
   DWORD GetDecoderOptions() const;
 
   // Renders `name`. The low 16 bits of `options` are the name style from now on: 1 values alone

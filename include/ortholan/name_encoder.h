@@ -46,9 +46,10 @@ class ORTHOLAN_EXPORT X500NameEncoder {
     std::wstring value;
   };
 
-  // The alphabets that decide a value's string type: letters, digits and "()+,-./:? '" with CR and
-  // LF (no "=", unlike X.680's PrintableString); and ASCII's printing characters with CR and LF.
+  // The alphabet that decides a value's string type: letters, digits and "()+,-./:? '" with CR and
+  // LF (no "=", unlike X.680's PrintableString).
   static const std::wstring PrintableString;
+  // The alphabet of e-mail addresses: ASCII's printing characters with CR and LF.
   static const std::wstring IA5String;
 
   X500NameEncoder() noexcept;
@@ -56,10 +57,13 @@ class ORTHOLAN_EXPORT X500NameEncoder {
   X500NameEncoder& operator=(const X500NameEncoder& other) noexcept;
   virtual ~X500NameEncoder();
 
+  // Replaces the option bits.
   void SetEncoderOptions(unsigned long options);
-  // The argument is ignored.
+  // The option bits; the argument is ignored.
   unsigned long GetEncoderOptions(unsigned long) const;
+  // Sets these bits.
   void AddEncoderOption(unsigned long bits);
+  // Clears these bits.
   void RemoveEncoderOption(unsigned long bits);
 
   // Splits `text` into its elements, in order. True with no elements for "". On failure `elements`

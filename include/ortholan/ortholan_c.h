@@ -40,6 +40,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
+// Marks the functions below.
 #define ORTHOLAN_C_API ORTHOLAN_EXPORT
 
 #ifdef __cplusplus
@@ -167,7 +168,9 @@ ORTHOLAN_C_API ortholan_result ortholan_name_from_der(const uint8_t* der, size_t
                                                       ortholan_name** name);
 // The name without RDNs (30 00), to be filled with ortholan_name_add.
 ORTHOLAN_C_API ortholan_result ortholan_name_new(ortholan_name** name);
+// A copy that lives on its own.
 ORTHOLAN_C_API ortholan_result ortholan_name_copy(const ortholan_name* name, ortholan_name** copy);
+// Releases the handle; NULL is ignored.
 ORTHOLAN_C_API void ortholan_name_free(ortholan_name* name);
 
 // The name as text, for display; "" for the name without RDNs. Values of the old 8-bit string types
@@ -236,6 +239,7 @@ ORTHOLAN_C_API ortholan_result ortholan_name_equal(const ortholan_name* a, const
 
 // ---- General names (RFC 5280 4.2.1.6) ----------------------------------------------------------
 
+// One alternative name, held as its encoding.
 typedef struct ortholan_general_name ortholan_general_name;
 // The value of a subjectAltName extension and the like: SEQUENCE OF GeneralName.
 typedef struct ortholan_general_names ortholan_general_names;
@@ -256,6 +260,7 @@ enum {
 // Takes over one element whose content lies within it. Fails: ARGUMENT, DER, MEMORY.
 ORTHOLAN_C_API ortholan_result ortholan_general_name_from_der(const uint8_t* der, size_t size,
                                                               ortholan_general_name** name);
+// Releases the handle; NULL is ignored.
 ORTHOLAN_C_API void ortholan_general_name_free(ortholan_general_name* name);
 // The tag number, whatever the class; also one that ORTHOLAN_OTHER_NAME and so on do not list.
 ORTHOLAN_C_API ortholan_result ortholan_general_name_kind(const ortholan_general_name* name,
@@ -274,10 +279,12 @@ ORTHOLAN_C_API ortholan_result ortholan_general_name_value(const ortholan_genera
 ORTHOLAN_C_API ortholan_result ortholan_general_name_der(const ortholan_general_name* name,
                                                          uint8_t** der, size_t* size);
 
-// Fails: ARGUMENT, DER (also for a single name that cannot be read), MEMORY.
+// Reads the SEQUENCE. Fails: ARGUMENT, DER (also for a single name that cannot be read), MEMORY.
 ORTHOLAN_C_API ortholan_result ortholan_general_names_from_der(const uint8_t* der, size_t size,
                                                                ortholan_general_names** names);
+// Releases the handle; NULL is ignored.
 ORTHOLAN_C_API void ortholan_general_names_free(ortholan_general_names* names);
+// Number of names in the list.
 ORTHOLAN_C_API ortholan_result ortholan_general_names_count(const ortholan_general_names* names,
                                                             size_t* count);
 // A copy of the name at `index`, counted from 0. Fails: ARGUMENT, NOT_FOUND, MEMORY.
@@ -303,6 +310,7 @@ ORTHOLAN_C_API ortholan_result ortholan_extension_new(const char* oid, int criti
 // Reads one extension. Fails: ARGUMENT, DER, MEMORY.
 ORTHOLAN_C_API ortholan_result ortholan_extension_from_der(const uint8_t* der, size_t size,
                                                            ortholan_extension** extension);
+// Releases the handle; NULL is ignored.
 ORTHOLAN_C_API void ortholan_extension_free(ortholan_extension* extension);
 // Dotted identifier.
 ORTHOLAN_C_API ortholan_result ortholan_extension_oid(const ortholan_extension* extension,
@@ -324,14 +332,16 @@ ORTHOLAN_C_API ortholan_result ortholan_extensions_new(ortholan_extensions** ext
 // identifier all stay. Fails: ARGUMENT, DER, MEMORY.
 ORTHOLAN_C_API ortholan_result ortholan_extensions_from_der(const uint8_t* der, size_t size,
                                                             ortholan_extensions** extensions);
+// Releases the handle; NULL is ignored.
 ORTHOLAN_C_API void ortholan_extensions_free(ortholan_extensions* extensions);
+// Number of extensions in the list.
 ORTHOLAN_C_API ortholan_result ortholan_extensions_count(const ortholan_extensions* extensions,
                                                          size_t* count);
-// A copy of the extension at `index`, counted from 0, or of the first one with the dotted
-// identifier. Fails: ARGUMENT, NOT_FOUND, MEMORY.
+// A copy of the extension at `index`, counted from 0. Fails: ARGUMENT, NOT_FOUND, MEMORY.
 ORTHOLAN_C_API ortholan_result ortholan_extensions_get(const ortholan_extensions* extensions,
                                                        size_t index,
                                                        ortholan_extension** extension);
+// A copy of the first extension with the dotted identifier. Fails as ortholan_extensions_get does.
 ORTHOLAN_C_API ortholan_result ortholan_extensions_find(const ortholan_extensions* extensions,
                                                         const char* oid,
                                                         ortholan_extension** extension);

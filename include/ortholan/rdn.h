@@ -14,7 +14,7 @@ namespace Ortholan {
 struct ORTHOLAN_EXPORT RDNAttr {
   CZEPString oid;       // dotted identifier
   DWORD valueType = 0;  // CERT_RDN_*
-  IdentObj value;
+  IdentObj value;       // its bytes, as above
 
   RDNAttr();
   RDNAttr(const RDNAttr&);
@@ -23,12 +23,16 @@ struct ORTHOLAN_EXPORT RDNAttr {
   RDNAttr& operator=(RDNAttr&&) noexcept;
   ~RDNAttr();
 
+  // The platform's structure, copied; a null identifier is "".
   RDNAttr(const CERT_RDN_ATTR& attr);
+  // The three fields as they stand; null is "".
   RDNAttr(const char* oid, unsigned long valueType, const IdentObj& value);
   // As SetBy(key, value).
   RDNAttr(const char* key, const char* value);
 
+  // As SetBy(attr).
   RDNAttr& operator=(const CERT_RDN_ATTR& attr);
+  // Becomes a copy of the platform's structure.
   void SetBy(const CERT_RDN_ATTR& attr);
   // From a keyword or dotted identifier and text, as X509Name::MakeRDNAttr does and fails.
   void SetBy(const char* key, const char* value);
@@ -39,10 +43,11 @@ struct ORTHOLAN_EXPORT RDNAttr {
 // One attribute as a person sees it: key text (a dotted identifier wherever the library makes it)
 // and value text, both 8-bit in the thread's code page.
 struct ORTHOLAN_EXPORT SimpleRDN {
-  CZEPString key;
-  CZEPString value;
+  CZEPString key;    // "2.5.4.3"
+  CZEPString value;  // "Alpha", without quotes
 
   SimpleRDN();
+  // Both texts as they stand; null is "".
   SimpleRDN(const char* key, const char* value);
   SimpleRDN(const SimpleRDN&);
   SimpleRDN(SimpleRDN&&) noexcept;
@@ -57,6 +62,7 @@ struct ORTHOLAN_EXPORT SimpleRDN {
   // By key, then by value, as CZEPString compares: an empty text is neither less nor greater than
   // any other, so this is no order to sort by where texts may be empty.
   struct ORTHOLAN_EXPORT CompareSimpleRDN {
+    // Whether `a` comes before `b`.
     bool operator()(const SimpleRDN& a, const SimpleRDN& b) const;
   };
 };

@@ -25,12 +25,15 @@ class ORTHOLAN_EXPORT XZEPBaseMsg {
 // Adds the name of the operation that failed; "" where there is none.
 class ORTHOLAN_EXPORT XZEPMsg : public XZEPBaseMsg {
  public:
+  // `text` is copied, null is ""; the flag is kept for who catches.
   explicit XZEPMsg(const char* text, bool flag = false);
   XZEPMsg(const XZEPMsg&) noexcept;
   XZEPMsg& operator=(const XZEPMsg&) noexcept;
   ~XZEPMsg() override;
 
+  // The operation's name, valid as long as the exception.
   const char* GetMessageText() const noexcept;
+  // The flag; the library throws all with false.
   bool GetFlag() const noexcept;
 
  private:
@@ -45,12 +48,15 @@ class ORTHOLAN_EXPORT XZEPMsg : public XZEPBaseMsg {
 //   206  corrupt or truncated ASN.1
 class ORTHOLAN_EXPORT XZEPStatus : public XZEPMsg {
  public:
+  // Without an operation's name.
   explicit XZEPStatus(DWORD status, bool flag = false);
+  // With one.
   XZEPStatus(DWORD status, const char* where, bool flag = false);
   XZEPStatus(const XZEPStatus&) noexcept;
   XZEPStatus& operator=(const XZEPStatus&) noexcept;
   ~XZEPStatus() override;
 
+  // The code.
   DWORD GetStatus() const noexcept;
   // "Status = " and the code in decimal.
   virtual CZEPString GetText() const;

@@ -41,6 +41,7 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   X509Name() noexcept;
   X509Name(const X509Name& other);
   X509Name(X509Name&& other) noexcept;
+  // The bytes as they are.
   X509Name(const IdentObj& der);
   X509Name(IdentObj&& der) noexcept;
   // As SetBy(..., true).
@@ -48,15 +49,19 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   X509Name(const std::list<std::list<RDNAttr>>& rdns);
   // As SetBy(list, true, true).
   X509Name(const std::list<SimpleRDN>& list);
+  // As SetBy(text, options, sort).
   X509Name(const char* text, unsigned long options, bool sort);
   ~X509Name() override;
 
   X509Name& operator=(const X509Name& other);
   X509Name& operator=(X509Name&& other) noexcept;
+  // The bytes as they are.
   X509Name& operator=(const IdentObj& der);
   X509Name& operator=(IdentObj&& der) noexcept;
+  // As SetBy(..., true).
   X509Name& operator=(const CERT_NAME_INFO& info);
   X509Name& operator=(const std::list<std::list<RDNAttr>>& rdns);
+  // As SetBy(list, true, true).
   X509Name& operator=(const std::list<SimpleRDN>& list);
 
   // Encode another form into this name. With `flag` free text is written as UTF8String always.
@@ -97,8 +102,9 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
 
   // One pair of dotted identifier and value text an RDN, in the order of the encoding.
   void GetSimpleRDNList(std::list<SimpleRDN>& out, bool flag) const;
-  void GetSimpleRDNVector(std::vector<SimpleRDN>& out) const;
   bool TryGetSimpleRDNList(std::list<SimpleRDN>& out) const;
+  // The same pairs as a vector.
+  void GetSimpleRDNVector(std::vector<SimpleRDN>& out) const;
 
   // Brings the first entry of `target` with `key` in line with that of `source`: its value is
   // replaced, or it is appended or erased. Keys match without regard to ASCII case.
@@ -109,13 +115,15 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   // often. The string type of a value does not matter, letter case does. Two empty objects are
   // equal. Costs O(n log n) for n RDNs.
   bool operator==(const X509Name& other) const;
+  // Not ==.
   bool operator!=(const X509Name& other) const;
 
-  // Text between double quotes, its double quotes doubled; and back, where a lone double quote is
-  // dropped wherever it stands. What was quoted comes back, but for text of double quotes alone
-  // and the empty text, which come back with one quote more.
+  // Text between double quotes, its double quotes doubled.
   static void QuoteString(const char* src, CZEPString& out);
   static void QuoteString(CZEPString& s);
+  // The way back, where a lone double quote is dropped wherever it stands. What was quoted comes
+  // back, but for text of double quotes alone and the empty text, which come back with one quote
+  // more.
   static void UnquoteString(const char* src, CZEPString& out);
   static void UnquoteString(CZEPString& s);
   // key, "=", quoted value.

@@ -17,6 +17,7 @@ namespace Ortholan {
 // file, though its position moves.
 class ORTHOLAN_EXPORT CZEPFile {
  public:
+  // What Open is to do with the file.
   enum Mode {
     kRead,       // must exist
     kReadWrite,  // must exist
@@ -32,6 +33,7 @@ class ORTHOLAN_EXPORT CZEPFile {
   bool Open(const char* path, Mode mode);
   // What the system could not write until now is reported here. True where nothing was open.
   bool Close();
+  // Whether a file is open.
   bool IsOpen() const noexcept;
 
   // Reads up to `size` bytes; `*read` is less only at the end of the file.
@@ -39,8 +41,11 @@ class ORTHOLAN_EXPORT CZEPFile {
   // Writes all of `size` bytes or fails.
   bool Write(const void* data, DWORD size);
 
+  // Moves to `position`.
   bool Seek(uint64_t position) const;
+  // Where reading and writing go on.
   bool GetPosition(uint64_t* position) const;
+  // Bytes of the whole file.
   bool GetSize(uint64_t* size) const;
 
  private:

@@ -29,6 +29,7 @@ class ORTHOLAN_EXPORT CZEPReference {
   virtual int32_t Release();
 
  protected:
+  // Whether there is more than one holder.
   bool IsShared() const noexcept;
 
  private:
@@ -47,7 +48,9 @@ class ORTHOLAN_EXPORT CZEPString {
   virtual ~CZEPString();
 
   CZEPString() noexcept;
+  // A copy of terminated text.
   CZEPString(const char* text);
+  // One character.
   CZEPString(char character);
   // The first `length` bytes of `text`, NULs included.
   CZEPString(const char* text, size_t length);
@@ -58,6 +61,7 @@ class ORTHOLAN_EXPORT CZEPString {
 
   // Terminated text, never null; valid until this string changes.
   const char* c_str() const noexcept;
+  // Bytes, NULs inside included.
   int32_t GetLength() const noexcept;
 
   // By bytes, unsigned. An empty string is neither less nor greater than anything.
@@ -65,8 +69,10 @@ class ORTHOLAN_EXPORT CZEPString {
   bool operator>(const CZEPString& other) const noexcept;
   // By bytes; two empty strings are equal.
   bool operator==(const CZEPString& other) const noexcept;
+  // Not ==.
   bool operator!=(const CZEPString& other) const noexcept;
 
+  // Appends; constant time a byte where nobody shares the text.
   CZEPString& operator+=(const CZEPString& other);
   CZEPString& operator+=(char character);
 
