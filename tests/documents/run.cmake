@@ -1,0 +1,22 @@
+# Runs a program of a document and compares what it prints: cmake -D EXPECTED=<file> -P
+# run.cmake -- <command>...; an empty file expects nothing.
+set(command "")
+set(seen FALSE)
+math(EXPR last "${CMAKE_ARGC} - 1")
+foreach(i RANGE ${last})
+  if(seen)
+    list(APPEND command "${CMAKE_ARGV${i}}")
+  elseif(CMAKE_ARGV${i} STREQUAL "--")
+    set(seen TRUE)
+  endif()
+endforeach()
+
+execute_process(COMMAND ${command} RESULT_VARIABLE result OUTPUT_VARIABLE said)
+if(NOT result STREQUAL "0")
+  message(FATAL_ERROR "ended with ${result}")
+endif()
+string(REPLACE "\r\n" "\n" said "${said}")
+file(READ "${EXPECTED}" expected)
+if(NOT said STREQUAL expected)
+  message(FATAL_ERROR "printed\n${said}and not\n${expected}")
+endif()

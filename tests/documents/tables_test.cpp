@@ -1,0 +1,211 @@
+// Each table of a page, row by row, against the library.
+
+#include <gtest/gtest.h>
+#include <ortholan/ortholan.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <list>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/documents/page.h"
+#include "tests/support/hex.h"
+
+namespace Ortholan::testing {
+namespace {
+
+constexpr UINT kUtf8 = 65001;
+constexpr char kRefused[] = "refused";
+
+std::wstring Wide(const std::string& utf8) { return DerHelper::ToWString(utf8, kUtf8); }
+std::string Narrow(const std::wstring& text) { return DerHelper::ToString(text, kUtf8); }
+
+std::string HexOf(const IdentObj& blob) {
+  return Hex(std::string(reinterpret_cast<const char*>(blob.pbData), blob.cbData));
+}
+
+IdentObj Blob(const std::string& hex) {
+  const std::string octets = Octets(hex);
+  return IdentObj(octets.data(), static_cast<DWORD>(octets.size()));
+}
+
+bool Says(const Cell& cell, std::string_view word) {
+  return cell.text.find(word) != std::string::npos;
+}
+
+// All numbers of the cell together.
+DWORD Options(const Cell& cell) {
+  unsigned long word = 0;
+  for (const std::string& number : cell.code) word |= std::stoul(number, nullptr, 0);
+  return static_cast<DWORD>(word);
+}
+
+std::string Encoded(const std::string& text, DWORD options, bool sort) {
+  X500NameEncoder encoder;
+  encoder.SetEncoderOptions(options);
+  IdentObj der;
+  return encoder.Encode(Wide(text), der, sort) ? HexOf(der) : kRefused;
+}
+
+std::string Rendered(const IdentObj& name, DWORD options) {
+  X500NameDecoder decoder;
+  decoder.SetDecoderOptions(options);
+  std::wstring text;
+  return decoder.Decode(name, text, options) ? Narrow(text) : kRefused;
+}
+
+// Hexadecimal digits in pairs, or a text to be encoded.
+IdentObj Name(const std::string& source) {
+  return Blob(source.compare(0, 3, "30 ") == 0 ? source : Encoded(source, 0, false));
+}
+
+std::string WithoutEllipsis(const std::string& hex) { return hex.substr(0, hex.find(" ...")); }
+
+struct Table {
+  const char* label;
+  const char* page;
+  const char* head;
+  void (*check)(const std::vector<Cell>& cells);
+};
+
+void PrintTo(const Table& table, std::ostream* out) { *out << table.label; }
+
+void CheckFirstExamples(const std::vector<Cell>& cells) {
+  const DWORD options =
+      Says(cells[0], "as UTF8String") ? CERT_NAME_STR_ENABLE_UTF8_UNICODE_FLAG : 0;
+  const std::string der = Encoded(cells[0].Value(), options, Says(cells[0], "sorted"));
+  const std::string expected = WithoutEllipsis(cells[1].Value());
+  EXPECT_EQ(der.substr(0, expected.size()), expected);
+  EXPECT_EQ(Rendered(Blob(der), CERT_X500_NAME_STR), cells[2].Value());
+}
+
+void CheckEncoding(const std::vector<Cell>& cells) {
+  EXPECT_EQ(Encoded(cells[1].Value(), Options(cells[0]), Says(cells[1], "sorted")),
+            Says(cells[2], kRefused) ? kRefused : cells[2].Value());
+}
+
+void CheckText(const std::vector<Cell>& cells) {
+  SetLastError(ERROR_SUCCESS);
+  const std::string der = Encoded(cells[0].Value(), 0, false);
+  if (Says(cells[1], kRefused)) {
+    EXPECT_EQ(der, kRefused);
+    EXPECT_EQ(GetLastError(), cells[1].code.empty() ? 0 : std::stoul(cells[1].Value()));
+  } else {
+    EXPECT_EQ(Rendered(Blob(der), CERT_X500_NAME_STR), cells[1].Value());
+  }
+}
+
+void CheckRendering(const std::vector<Cell>& cells) {
+  EXPECT_EQ(Rendered(Name(cells[1].Value()), Options(cells[0])), cells[2].Value());
+}
+
+void CheckName(const std::vector<Cell>& cells) {
+  EXPECT_EQ(HexOf(Name(cells[0].Value())), cells[1].Value());
+}
+
+void CheckAttributeType(const std::vector<Cell>& cells) {
+  const std::string& identifier = cells[1].text;
+  EXPECT_EQ(GetAttrPriority(Wide(identifier)), std::stoi(cells[0].text));
+  const bool printable = Says(cells[4], "PrintableString") || Says(cells[4], "IA5String");
+  EXPECT_EQ(Encoded(identifier + "=\xD0\x90", 0, false) == kRefused, printable);
+  const IdentObj name = Name(identifier + "=Value");
+  std::string keywords = cells[2].text;
+  while (!keywords.empty()) {
+    const std::size_t end = std::min(keywords.find(", "), keywords.size());
+    const std::string keyword = keywords.substr(0, end);
+    EXPECT_EQ(Encoded(keyword + "=Value", 0, false), HexOf(name)) << keyword;
+    keywords.erase(0, end + 2);
+  }
+  const std::string key = cells[3].code.empty() ? identifier : cells[3].Value();
+  EXPECT_EQ(Rendered(name, CERT_X500_NAME_STR), key + "=Value");
+}
+
+void CheckStatus(const std::vector<Cell>& cells) {
+  if (cells[0].text.find_first_not_of("0123456789") != std::string::npos) return;
+  EXPECT_EQ(ASNTStatusToWinError(static_cast<DWORD>(std::stoul(cells[0].text))),
+            std::stoul(cells[2].text, nullptr, 0));
+}
+
+void CheckExtension(const std::vector<Cell>& cells) {
+  CertExtension extension;
+  extension.oid = cells[0].Value().c_str();
+  extension.critical = cells[1].text == "yes" ? TRUE : FALSE;
+  extension.value = Blob(cells[2].Value());
+  int error = -1;
+  const IdentObj record = extension.WriteData(&error);
+  EXPECT_EQ(error, 0);
+  EXPECT_EQ(HexOf(record), cells[3].Value());
+  CertExtension read;
+  EXPECT_EQ(read.ReadData(record.pbData, record.cbData, &error), record.cbData);
+  EXPECT_TRUE(read == extension);
+}
+
+void CheckSequence(const std::vector<Cell>& cells) {
+  std::list<IdentObj> records;
+  for (const std::string& hex : cells[0].code) records.push_back(Blob(hex));
+  EXPECT_EQ(HexOf(ASNTPutSequence(records, 16)), cells[1].Value());
+}
+
+void CheckGeneralName(const std::vector<Cell>& cells) {
+  GeneralName name = GeneralName::DerDecode(Blob(cells[1].Value()));
+  EXPECT_EQ(name.GetTag(), std::stoul(cells[0].text));
+  EXPECT_EQ(Narrow(name.ToString(0, 0)), cells[2].Value());
+}
+
+GeneralName Made(const std::string& function, const std::string& argument) {
+  if (function == "CreateRfc822Name") return GeneralName::CreateRfc822Name(Wide(argument));
+  if (function == "CreateDnsName") return GeneralName::CreateDnsName(Wide(argument));
+  if (function == "CreateUri") return GeneralName::CreateUri(Wide(argument));
+  if (function == "CreateRegisteredId") return GeneralName::CreateRegisteredId(argument);
+  if (function == "CreateDirectoryName") return GeneralName::CreateDirectoryName(Blob(argument));
+  if (function == "CreateEdiPartyName") {
+    return GeneralName::CreateEdiPartyName({L"", Wide(argument)});
+  }
+  ADD_FAILURE() << "no such function: " << function;
+  return {};
+}
+
+void CheckMade(const std::vector<Cell>& cells) {
+  EXPECT_EQ(HexOf(Made(cells[0].Value(), cells[1].Value()).DerEncode()), cells[2].Value());
+}
+
+const Table kTables[] = {
+    {"first examples", "README.md", "Text | DER | Rendered", CheckFirstExamples},
+    {"encoder options", "docs/options.md", "Options | Text | DER", CheckEncoding},
+    {"decoder options", "docs/options.md", "Options | Name | Text", CheckRendering},
+    {"texts", "docs/name-text.md", "Text | Read as", CheckText},
+    {"attribute types", "docs/name-text.md",
+     "Rank | Identifier | Keywords, in any letter case | Rendered, style 3 | String type",
+     [](const std::vector<Cell>& cells) {
+       if (cells[1].text != "any other") CheckAttributeType(cells);
+     }},
+    {"status codes", "docs/status-codes.md", "Status | Meaning | Last error", CheckStatus},
+    {"names", "docs/der.md", "Name | DER", CheckName},
+    {"extensions", "docs/der.md", "Identifier | Critical | Value | Record", CheckExtension},
+    {"extension lists", "docs/der.md", "Records | List", CheckSequence},
+    {"general names", "docs/der.md", "Tag | Encoding | Text", CheckGeneralName},
+    {"general names made", "docs/der.md", "Made by | From | DER", CheckMade},
+};
+
+class Tables : public ::testing::TestWithParam<Table> {};
+
+TEST_P(Tables, HoldForTheLibrary) {
+  const std::vector<TableRow> rows = TableRows(GetParam().page, GetParam().head);
+  ASSERT_FALSE(rows.empty()) << GetParam().page << " has no table of " << GetParam().head;
+  for (const TableRow& row : rows) {
+    SCOPED_TRACE(row.label + ": " + row.cells.front().text);
+    GetParam().check(row.cells);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, Tables, ::testing::ValuesIn(kTables), [](const auto& row) {
+  std::string name = row.param.label;
+  for (char& c : name) c = c == ' ' ? '_' : c;
+  return name;
+});
+
+}  // namespace
+}  // namespace Ortholan::testing
