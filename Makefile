@@ -17,7 +17,7 @@ help:
 	@echo '                  docs/performance.md)'
 	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
 	@echo '                  make bench-baseline records anew'
-	@echo 'make docs         reference manual into build/native/docs'
+	@echo 'make docs         the site: pages and public declarations, into build/native/docs/html'
 	@echo 'make abi          record the symbols that both libraries export in abi/'
 	@echo 'make format       format the sources'
 	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'

@@ -13,7 +13,8 @@ what Doxygen takes for documentation:
 - A comment behind a field or an enumerator describes it.
 - Copying, moving and releasing need no words where they do what their names say.
 
-Pages keep their text; links to files that are no pages lose the link, for the site does not have them.
+Pages keep their text; their headings and links get the names of the site, and links to files that are
+no pages become code, for the site does not have them.
 """
 import os
 import re
@@ -108,6 +109,8 @@ def special(text, name, scope):
     own = re.match(rf"(const )?{scope}\s*(&&?)", argument) if scope else None
     if "= delete" in text:
         return "Not to be copied."
+    if name == scope and argument in ("", "void"):
+        return "An object that holds nothing yet."
     if name == "~" + scope:
         return "Releases what the object holds."
     if own and name == scope:
@@ -232,18 +235,61 @@ class Header:
         return i
 
 
+def slug(heading):
+    """The anchor that web hosts give a heading."""
+    return re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", "-")
+
+
+def identifier(path, anchor=""):
+    """The site's name for a page, or for a heading in it."""
+    stem = os.path.splitext(os.path.basename(path))[0].lower()
+    return f"{stem}--{anchor}" if anchor else stem
+
+
+def prose(text):
+    """Lines with whether they stand outside of code blocks."""
+    fenced = False
+    for line in text.splitlines():
+        fence = line.startswith("```")
+        yield line, not fenced and not fence
+        fenced ^= fence
+
+
+def anchors(path):
+    with open(path, encoding="utf-8") as file:
+        return {slug(line.lstrip("# ")) for line, outside in prose(file.read())
+                if outside and line.startswith("#")}
+
+
 def page(text, path):
+    """A page whose headings and links have the site's names; a link that leads nowhere is an error."""
     directory = os.path.dirname(path)
 
     def link(match):
-        target = match[2].split("#")[0]
-        if match[2].startswith(("http:", "https:", "#")) or target.endswith(".md"):
+        words, target = match[1], match[2]
+        if target.startswith(("http:", "https:")):
             return match[0]
-        if not os.path.exists(os.path.join(directory, target)):
-            raise SystemExit(f"{path}: no file {target}")
-        return match[1] if "`" in match[1] else f"`{match[1]}`"
+        name, _, anchor = target.partition("#")
+        file = os.path.join(directory, name) if name else path
+        if not os.path.exists(file) or (anchor and anchor not in anchors(file)):
+            raise SystemExit(f"{path}: no such place: {target}")
+        if file.endswith(".md"):
+            return f"[{words}](@ref {identifier(file, anchor)})"
+        return words if "`" in words else f"`{words}`"
 
-    return re.sub(r"\[([^\]\n]*)\]\(([^)\s]+)\)", link, text)
+    out = []
+    for line, outside in prose(text):
+        heading = re.match(r"(#+) (.*)", line) if outside else None
+        if heading and heading[1] == "#":
+            # The main page has its name already.
+            if not path.endswith("README.md"):
+                line += f" {{#{identifier(path)}}}"
+        elif heading:
+            line += f" {{#{identifier(path, slug(heading[2]))}}}"
+        elif outside:
+            line = re.sub(r"\[([^\]\n]*)\]\(([^)\s]+)\)", link, line)
+        out.append(line)
+    return "\n".join(out) + "\n"
 
 
 def convert(path):

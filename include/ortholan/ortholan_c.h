@@ -53,9 +53,11 @@ extern "C" {
 typedef int32_t ortholan_result;
 
 enum {
+  // No failure.
   ORTHOLAN_OK = 0,
   // A pointer is NULL that may not be, or a size passes 4 GiB - 1.
   ORTHOLAN_ERROR_ARGUMENT = 1,
+  // Out of memory.
   ORTHOLAN_ERROR_MEMORY = 2,
   // Text that is no UTF-8 (Unicode 15, 3.9): cut short, overlong, a surrogate, beyond U+10FFFF.
   ORTHOLAN_ERROR_UTF8 = 3,
@@ -104,11 +106,11 @@ typedef struct ortholan_name ortholan_name;
 
 // How text is written into a name; words are made with |. All other bits change nothing.
 enum {
-  // Elements are separated by "," only, by ";" only, by CR and LF only; the first one that is set
-  // wins in this order. Without any: by all four.
+  // Elements are separated by "," only. Of the three separators the first one that is set wins in
+  // this order; without any all four characters separate.
   ORTHOLAN_ENCODE_COMMA = 0x04000000,
-  ORTHOLAN_ENCODE_SEMICOLON = 0x40000000,
-  ORTHOLAN_ENCODE_CRLF = 0x08000000,
+  ORTHOLAN_ENCODE_SEMICOLON = 0x40000000,  // by ";" only
+  ORTHOLAN_ENCODE_CRLF = 0x08000000,       // by CR and LF only
   // Text outside PrintableString as UTF8String instead of BMPString.
   ORTHOLAN_ENCODE_UTF8 = 0x00040000,
   // With ORTHOLAN_ENCODE_UTF8: all free text as UTF8String, printable or not.
@@ -117,11 +119,11 @@ enum {
 
 // How a name is written as text: one style, and with | one separator. Without a separator: ",".
 enum {
-  ORTHOLAN_STYLE_VALUES = 1,  // values alone, always separated by ","
-  ORTHOLAN_STYLE_OIDS = 2,    // 2.5.4.3=Alpha
-  ORTHOLAN_STYLE_KEYS = 3,    // CN=Alpha
-  ORTHOLAN_SEPARATE_SEMICOLON = 0x40000000,
-  ORTHOLAN_SEPARATE_CRLF = 0x08000000  // before the semicolon where both are set
+  ORTHOLAN_STYLE_VALUES = 1,                 // values alone, always separated by ","
+  ORTHOLAN_STYLE_OIDS = 2,                   // 2.5.4.3=Alpha
+  ORTHOLAN_STYLE_KEYS = 3,                   // CN=Alpha
+  ORTHOLAN_SEPARATE_SEMICOLON = 0x40000000,  // ";" between RDNs
+  ORTHOLAN_SEPARATE_CRLF = 0x08000000        // CR LF; before the semicolon where both are set
 };
 
 // Encodes a name text: `type = value` elements, each an RDN (docs/name-text.md).

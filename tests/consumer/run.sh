@@ -5,6 +5,7 @@
 #   run.sh find_package TREE WORK           builds and runs the consumer against what TREE holds
 #   run.sh pkg_config TREE WORK
 #   run.sh add_subdirectory SOURCE WORK     ... with the library as a part of its own build
+#   run.sh getting_started TREE WORK        builds and runs the page's project, which WORK holds
 #
 # From the environment: CXX, VERSION of the library, and for Windows WINDOWS=yes, OBJDUMP and WINE,
 # the words before a program. A tree from a package may hold a lower directory such as usr/.
@@ -55,16 +56,18 @@ check() {
   [[ $said == "$VERSION C=RU,O=Org,CN=Alpha 3 1" ]] || fail "$program says '$said'"
 }
 
+source=$here
 # Compiles for Windows without a toolchain file: no more than a stranger would say.
 configure() {
   local system=()
   if [[ $windows ]]; then system=(-DCMAKE_SYSTEM_NAME=Windows); fi
-  cmake -G Ninja -S "$here" -B "$work" -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_BUILD_TYPE= \
+  cmake -G Ninja -S "$source" -B "$work" -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_BUILD_TYPE= \
     ${system[@]+"${system[@]}"} "$@" >"$work.log" || { cat "$work.log" >&2; fail "not configured"; }
 }
 
+# build TARGET...
 build() {
-  cmake --build "$work" -j 2 --target consumer_shared consumer_static >"$work.log" ||
+  cmake --build "$work" -j 2 --target "$@" >"$work.log" ||
     { cat "$work.log" >&2; fail "not built"; }
 }
 
@@ -91,7 +94,7 @@ install_tree() {
 find_package() {
   local tree=$1
   configure -DCMAKE_PREFIX_PATH="$(dirname "$(locate "$tree" include)")"
-  build
+  build consumer_shared consumer_static
   check "$work/consumer_shared" shared "$(library_directory "$tree")"
   check "$work/consumer_static" static "$(library_directory "$tree")"
 }
@@ -112,16 +115,33 @@ pkg_config() {
   done
 }
 
+getting_started() {
+  local tree=$1 libraries said
+  libraries=$(library_directory "$tree")
+  source=$work
+  work+=/build
+  rm -rf "$work"
+  configure -DCMAKE_PREFIX_PATH="$(dirname "$(locate "$tree" include)")"
+  build app
+  if [[ $windows ]]; then
+    said=$(WINEPATH="Z:$libraries" "${wine[@]}" "$work/app.exe" | tr -d '\r')
+  else
+    said=$("$work/app")
+  fi
+  [[ $said == "$(cat "$source/expected.txt")" ]] || fail "app says '$said'"
+}
+
 # The work directory stays, so that only the first run compiles the library. It has no optimisation
 # and the compiler's own warnings.
 add_subdirectory() {
   configure -DORTHOLAN_SOURCE_DIR="$1"
-  build
+  build consumer_shared consumer_static
   check "$work/consumer_static" static ""
   check "$work/consumer_shared" shared "$work/ortholan"
 }
 
-[[ $# -eq 3 ]] || fail "usage: run.sh install|find_package|pkg_config|add_subdirectory FROM TO"
+[[ $# -eq 3 ]] ||
+  fail "usage: run.sh install|find_package|pkg_config|add_subdirectory|getting_started FROM TO"
 work=$3
 mkdir -p "$(dirname "$work")"
 case $1 in
@@ -131,7 +151,7 @@ case $1 in
     mkdir "$work"
     "$1" "$2"
     ;;
-  add_subdirectory)
+  add_subdirectory | getting_started)
     mkdir -p "$work"
     "$1" "$2"
     ;;
