@@ -77,7 +77,7 @@ def render(lines, parameters=(), opening=False):
             # What follows belongs to the function again.
             out.append("@par")
             continue
-        fence = ("code{.cpp}", "endcode") if opening else ("verbatim", "endverbatim")
+        fence = ("code{.cpp}", "endcode") if opening else ("code{.unparsed}", "endcode")
         out.append("@" + fence[0])
         out.extend(text[3:] for text in block)
         out.append("@" + fence[1])

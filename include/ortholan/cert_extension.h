@@ -16,7 +16,7 @@
 
 namespace Ortholan {
 
-// Owned data; copies are deep.
+// One extension, which owns its data; copies are deep.
 class ORTHOLAN_EXPORT CertExtension {
  public:
   CertExtension();

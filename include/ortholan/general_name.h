@@ -34,8 +34,9 @@ struct ORTHOLAN_EXPORT EdiPartyName {
   std::wstring partyName;     // the name itself
 };
 
-// A plain value: a tag and the DER element of the chosen alternative. All failures are exceptions:
-// XZEPStatus as the DerHelper operations throw it, and the standard ones of containers.
+// One alternative name, a plain value: a tag and the DER element of the chosen alternative. All
+// failures are exceptions: XZEPStatus as the DerHelper operations throw it, and the standard ones
+// of containers.
 class ORTHOLAN_EXPORT GeneralName {
  public:
   GeneralName();

@@ -14,8 +14,8 @@
 
 namespace Ortholan {
 
-// Owns its buffer alone: copies are deep, moves hand the buffer over. Sizes are bytes. The empty
-// blob has size 0 and a null pointer. Content is raw and never terminated.
+// A byte string that owns its buffer alone: copies are deep, moves hand the buffer over. Sizes are
+// bytes. The empty blob has size 0 and a null pointer. Content is raw and never terminated.
 //
 // Every allocation that fails throws XZEPStatus with status 16 and no text; the blob is then
 // unchanged. An argument may point into the blob itself.

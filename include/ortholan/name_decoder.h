@@ -37,7 +37,8 @@ class ORTHOLAN_EXPORT CertNameInfoWrapper {
   CERT_NAME_INFO info_;
 };
 
-// Holds the name style and the option bits between calls; one decoder serves one call at a time.
+// Reads names. Holds the name style and the option bits between calls; one decoder serves one call
+// at a time.
 //
 // Operations return false on refusal. The last-error code is 0x80093103 or 0x8009310B for bytes
 // that are no ASN.1 of the shape wanted, the platform's for a value that it refuses, and unchanged

@@ -30,8 +30,8 @@ namespace Ortholan {
 
 struct AttributeRow;
 
-// One encoder serves one call at a time. After a text that failed between a type and its value the
-// encoder, and a copy of it, refuses every further text: take a fresh one.
+// Writes names. One encoder serves one call at a time. After a text that failed between a type and
+// its value the encoder, and a copy of it, refuses every further text: take a fresh one.
 //
 // All operations return false on refusal. The last-error code is then
 //   160   text empty after trimming, or an empty SimpleRDN list

@@ -31,8 +31,8 @@ namespace Ortholan {
 
 class CertNameInfoWrapper;
 
-// A plain value. The empty object (no bytes) holds no name, which is not the name without RDNs
-// (30 00). Bytes are not looked at when they are copied in, only when they are read.
+// One name, a plain value. The empty object (no bytes) holds no name, which is not the name without
+// RDNs (30 00). Bytes are not looked at when they are copied in, only when they are read.
 //
 // Encoder options are those of X500NameEncoder, decoder options those of X500NameDecoder: the low
 // 16 bits are the name style (1 values, 3 keys, other identifiers), the high ones the separator.

@@ -12,9 +12,9 @@
 
 namespace Ortholan {
 
-// Closes itself. Every operation returns false with the platform's code in the last error where it
-// fails. Positions are bytes from the start. Reading and seeking are const: they do not change the
-// file, though its position moves.
+// A file that closes itself. Every operation returns false with the platform's code in the last
+// error where it fails. Positions are bytes from the start. Reading and seeking are const: they do
+// not change the file, though its position moves.
 class ORTHOLAN_EXPORT CZEPFile {
  public:
   // What Open is to do with the file.

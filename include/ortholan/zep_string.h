@@ -36,10 +36,10 @@ class ORTHOLAN_EXPORT CZEPReference {
   std::atomic<int32_t> references_;
 };
 
-// Copies share one representation, which is never changed while it is shared. Lengths are bytes
-// without the terminator. Where memory runs out the string becomes empty; nothing throws
-// but LoadString, FormatMessage and Compare with `useLocale`: std::bad_alloc.
-// `const char*` arguments may be null, which is "", and may point into the string itself.
+// An 8-bit string. Copies share one representation, which is never changed while it is shared.
+// Lengths are bytes without the terminator. Where memory runs out the string becomes empty; nothing
+// throws but LoadString, FormatMessage and Compare with `useLocale`: std::bad_alloc. `const char*`
+// arguments may be null, which is "", and may point into the string itself.
 class ORTHOLAN_EXPORT CZEPString {
  public:
   // Loads the format by `id` as LoadString does, then formats as Format does.

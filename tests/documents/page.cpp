@@ -8,8 +8,8 @@
 namespace Ortholan::testing {
 namespace {
 
-constexpr char kCr[] = "\xE2\x90\x8D";
-constexpr char kLf[] = "\xE2\x90\x8A";
+constexpr char kCr[] = "<CR>";
+constexpr char kLf[] = "<LF>";
 
 std::string Trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \r");

@@ -12,7 +12,7 @@ namespace Ortholan::testing {
 // One cell of a table.
 struct Cell {
   std::string text;               // the whole cell, without blanks at its ends
-  std::vector<std::string> code;  // what stands between backquotes; U+240D, U+240A: CR and LF
+  std::vector<std::string> code;  // what stands between backquotes, <CR> and <LF> replaced
 
   // The first code of the cell, "" where it has none.
   std::string Value() const { return code.empty() ? std::string() : code.front(); }
