@@ -287,6 +287,8 @@ def page(text, path):
         elif heading:
             line += f" {{#{identifier(path, slug(heading[2]))}}}"
         elif outside:
+            # To Doxygen a single quote ends what a single backquote began.
+            line = re.sub(r"(?<!`)`([^`]*'[^`]*)`(?!`)", r"`` \1 ``", line)
             line = re.sub(r"\[([^\]\n]*)\]\(([^)\s]+)\)", link, line)
         out.append(line)
     return "\n".join(out) + "\n"

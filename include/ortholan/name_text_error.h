@@ -30,13 +30,16 @@ enum class NameTextFault : DWORD {
   kWrongCharacter = 8,    // a character outside the string type that the attribute prescribes
 };
 
+// The first place of a text that keeps it from being encoded.
 struct NameTextError {
-  NameTextFault fault = NameTextFault::kNone;
-  // Where, in characters of the text from 0, and how many were met there: 0 at the end.
+  NameTextFault fault = NameTextFault::kNone;  // what is wrong there
+  // Where, in characters of the text from 0.
   size_t position = 0;
+  // How many characters were met there: 0 at the end.
   size_t length = 0;
-  // What was met, at most 40 characters of it, and what was expected instead.
+  // What was met, at most 40 characters of it.
   std::wstring met;
+  // What was expected instead.
   std::wstring expected;
   // Both and the place, counted from 1, in one sentence without a full stop; "" for kNone.
   std::wstring message;

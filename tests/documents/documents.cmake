@@ -14,7 +14,8 @@ if(WIN32)
   add_custom_target(ortholan_c_import DEPENDS "${ORTHOLAN_C_LIBRARY}")
 endif()
 
-foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/c-interface.md)
+foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/name-text.md
+    docs/c-interface.md)
   ortholan_document_programs(${document})
 endforeach()
 

@@ -98,6 +98,14 @@ void CheckText(const std::vector<Cell>& cells) {
   }
 }
 
+void CheckRefusal(const std::vector<Cell>& cells) {
+  const std::wstring text = Wide(cells[0].Value());
+  const NameTextError error = DescribeNameTextError(text, 0);
+  EXPECT_EQ(static_cast<DWORD>(error.fault), std::stoul(cells[1].text));
+  EXPECT_EQ(Narrow(error.message), cells[2].Value());
+  EXPECT_EQ(Encoded(cells[0].Value(), 0, false), kRefused);
+}
+
 void CheckRendering(const std::vector<Cell>& cells) {
   EXPECT_EQ(Rendered(Name(cells[1].Value()), Options(cells[0])), cells[2].Value());
 }
@@ -177,6 +185,7 @@ const Table kTables[] = {
     {"encoder options", "docs/options.md", "Options | Text | DER", CheckEncoding},
     {"decoder options", "docs/options.md", "Options | Name | Text", CheckRendering},
     {"texts", "docs/name-text.md", "Text | Read as", CheckText},
+    {"refusals", "docs/name-text.md", "Refused text | Fault | Message", CheckRefusal},
     {"attribute types", "docs/name-text.md",
      "Rank | Identifier | Keywords, in any letter case | Rendered, style 3 | String type",
      [](const std::vector<Cell>& cells) {
