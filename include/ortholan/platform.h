@@ -117,7 +117,8 @@ using ::WideCharToMultiByte;
 
 #include <cstdint>
 
-// All of the library but its C interface; elsewhere than on Windows the platform's declarations too.
+// All of the library but its C interface; elsewhere than on Windows the platform's declarations
+// too.
 namespace Ortholan {
 
 // The names and widths that they have on 64-bit Windows.
