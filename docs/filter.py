@@ -1,20 +1,20 @@
 #!/usr/bin/env python3
 """Hands a public header or a Markdown page to Doxygen: filter.py FILE.
 
-Doxygen does not notice a filter that fails, so that filter.py --check FILE... does nothing else first.
+Doxygen does not notice a filter that fails: filter.py --check FILE... tells beforehand.
 
 Headers are written for people who read them in an editor, with plain // comments. Here they become
 what Doxygen takes for documentation:
 
-- The comment that opens a header describes the file. Any other describes the declaration on the next
-  line, and the overloads and the Try form that follow without a comment of their own.
+- The comment that opens a header describes the file. Any other describes the declaration on the
+  next line, and the overloads and the Try form that follow without a comment of their own.
 - "// ---- Title ---" opens a group of declarations.
 - Lines set in by three blanks or more explain parameters ("name  text"), or are kept as they stand.
 - A comment behind a field or an enumerator describes it.
 - Copying, moving and releasing need no words where they do what their names say.
 
-Pages keep their text; their headings and links get the names of the site, and links to files that are
-no pages become code, for the site does not have them.
+Pages keep their text; their headings and links get the names of the site, and links to files that
+are no pages become code, for the site does not have them.
 """
 import os
 import re
