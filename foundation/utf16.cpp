@@ -18,6 +18,18 @@ constexpr bool IsPair(uint32_t character) {
   return character - kFirstPair <= kLastCodePoint - kFirstPair;
 }
 
+// Low surrogates from `first` to `end` with a high one before them.
+uint64_t CountPairs(const wchar_t* units, size_t first, size_t end) {
+  uint32_t pairs = 0;
+  for (size_t k = first; k < end; ++k) {
+    const auto high = static_cast<uint32_t>(units[k - 1]);
+    const auto low = static_cast<uint32_t>(units[k]);
+    pairs +=
+        static_cast<uint32_t>(IsHighSurrogate(high)) & static_cast<uint32_t>(IsLowSurrogate(low));
+  }
+  return pairs;
+}
+
 }  // namespace
 
 size_t CountUnits(std::wstring_view text) {
@@ -27,7 +39,7 @@ size_t CountUnits(std::wstring_view text) {
 }
 
 // A unit takes one to three octets; the two surrogates of a pair take four instead of six. No
-// branch in the inner loop: the compiler takes many units at a time.
+// branch in the inner loops: the compiler takes many units at a time.
 uint64_t CountUtf8(std::wstring_view text) {
   constexpr size_t kBlock = 4096;
   const wchar_t* const units = text.data();
@@ -35,19 +47,15 @@ uint64_t CountUtf8(std::wstring_view text) {
   for (size_t i = 0; i < text.size(); i += kBlock) {
     const size_t end = std::min(text.size(), i + kBlock);
     uint32_t more = 0;
+    uint32_t lows = 0;
     for (size_t k = i; k < end; ++k) {
       const auto c = static_cast<uint32_t>(units[k]);
       more += static_cast<uint32_t>(c >= 0x80) + static_cast<uint32_t>(c >= 0x800) +
               static_cast<uint32_t>(IsPair(c));
+      lows += static_cast<uint32_t>(IsLowSurrogate(c));
     }
-    uint32_t pairs = 0;
-    for (size_t k = std::max<size_t>(i, 1); k < end; ++k) {
-      const auto high = static_cast<uint32_t>(units[k - 1]);
-      const auto low = static_cast<uint32_t>(units[k]);
-      pairs +=
-          static_cast<uint32_t>(IsHighSurrogate(high)) & static_cast<uint32_t>(IsLowSurrogate(low));
-    }
-    octets += more - 2 * pairs;
+    octets += more;
+    if (lows != 0) octets -= 2 * CountPairs(units, std::max<size_t>(i, 1), end);
   }
   return octets;
 }

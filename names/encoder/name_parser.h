@@ -30,10 +30,7 @@ class NameElem {
         uint64_t{value.size()} << kLengthShift | place << kRowShift | classes << kClassesShift;
   }
   // What was decided about the value.
-  void Plan(DWORD type, uint64_t size) {
-    packed_ |= type;
-    size_ = size;
-  }
+  void Plan(DWORD type) { packed_ |= type; }
 
   // Null: the type text resolved to nothing.
   const AttributeRow* row() const {
@@ -44,9 +41,8 @@ class NameElem {
   View value() const { return {text_, static_cast<size_t>(packed_ >> kLengthShift)}; }
   // The alphabets that all of the value is in.
   unsigned classes() const { return packed_ >> kClassesShift & kInBoth; }
-  // CERT_RDN_* that the value is written as, and the octets of its encoding.
+  // CERT_RDN_* that the value is written as.
   DWORD type() const { return packed_ & kTypeMask; }
-  uint64_t size() const { return size_; }
 
  private:
   // No text is so long that its length lacks the bits for the rest.
@@ -59,7 +55,6 @@ class NameElem {
 
   const Char* text_;
   uint64_t packed_;
-  uint64_t size_;
 };
 
 template <typename Char>

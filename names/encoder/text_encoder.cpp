@@ -69,13 +69,16 @@ class RankPlaces {
 // Octets of an RDN of one attribute with so much content.
 constexpr uint64_t RdnSize(uint64_t content) { return ElementSize(ElementSize(content)); }
 
+// Chooses the value's string type and tells the octets of its encoding, which are not kept:
+// measuring twice costs less than the room.
 template <typename Elem>
-inline bool PlanElement(DWORD options, const AttributeRow& row, Elem* elem) {
+inline bool PlanElement(DWORD options, const AttributeRow& row, Elem* elem, uint64_t* size) {
   const auto value = elem->value();
   DWORD type = 0;
   if (value.empty() || !DetermineTargetType(row.rule, elem->classes(), options, &type))
     return false;
-  elem->Plan(type, MeasureValue(value, type, row.lines));
+  elem->Plan(type);
+  *size = MeasureValue(value, type, row.lines);
   return true;
 }
 
@@ -87,9 +90,10 @@ bool PlanElements(DWORD options, Elems* elems, Places* places) {
   const bool typed = elems->ForEach([&](auto& elem) {
     const AttributeRow* const row = elem.row();
     if (row == nullptr) return FailWith(Status::kNotEncodable);
-    planned = planned && PlanElement(options, *row, &elem);
+    uint64_t size = 0;
+    planned = planned && PlanElement(options, *row, &elem, &size);
     if (!planned) return Places::kSorted;
-    places->Add(*row, RdnSize(row->der.size + elem.size()));
+    places->Add(*row, RdnSize(row->der.size + size));
     return true;
   });
   return typed && planned;
@@ -106,7 +110,9 @@ BYTE* WriteOid(const OidDer& der, BYTE* out, const BYTE* end) {
 // the RDN's own end, which `*out` becomes. False where the platform refuses the value.
 template <typename Elem>
 inline bool WriteElement(const Elem& elem, const AttributeRow& row, const BYTE* end, BYTE** out) {
-  const ValuePlan value = {elem.value(), elem.type(), row.lines, elem.size()};
+  const DWORD type = elem.type();
+  const ValuePlan value = {elem.value(), type, row.lines,
+                           MeasureValue(elem.value(), type, row.lines)};
   const uint64_t content = row.der.size + value.size;
   BYTE* at = WriteHeader(*out, kSetOctet, ElementSize(content));
   at = WriteHeader(at, kSequenceOctet, content);
