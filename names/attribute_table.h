@@ -11,11 +11,11 @@
 
 namespace Ortholan {
 
-// Which string type an attribute's value is written in.
-enum class ValueRule {
-  kFreeText,   // chosen by the value's characters and the encoder's options
-  kPrintable,  // PrintableString always
-  kIA5,        // IA5String always
+// Which string type an attribute's value is written in: the alphabet that is prescribed.
+enum class ValueRule : unsigned char {
+  kFreeText = 0,   // chosen by the value's characters and the encoder's options
+  kPrintable = 1,  // PrintableString always
+  kIA5 = 2,        // IA5String always
 };
 
 // The identifier in DER, made from its dotted text by the compiler.
@@ -26,7 +26,8 @@ struct OidDer {
   explicit constexpr OidDer(std::string_view dotted);
 };
 
-struct AttributeRow {
+// Aligned so that a row's place in the table is a shift away.
+struct alignas(128) AttributeRow {
   std::string_view oid;
   std::wstring_view wide_oid;
   OidDer der;

@@ -48,13 +48,14 @@ NameParser<Char>::NameParser(View trimmedText, DWORD options, const AttributeRow
 
 template <typename Char>
 bool NameParser<Char>::Parse_NameElems() {
-  if (!Parse_NameElem()) return false;
   for (;;) {
-    AppendElem();
-    if (!GetToken()) return RefuseToken(NameTextFault::kUnexpectedText);
-    if (kind_ == TokenKind::kEnd) return true;
-    if (kind_ != TokenKind::kDelimiter) return RefuseToken(NameTextFault::kUnexpectedText);
     if (!Parse_NameElem()) return false;
+    AppendElem();
+    const bool read = GetToken();
+    if (read && kind_ == TokenKind::kEnd) return true;
+    if (!read || kind_ != TokenKind::kDelimiter) {
+      return RefuseToken(NameTextFault::kUnexpectedText);
+    }
   }
 }
 

@@ -11,16 +11,9 @@
 namespace Ortholan {
 
 // The alphabet that the attribute's values have to be in; 0 for free text.
-constexpr unsigned PrescribedAlphabet(ValueRule rule) {
-  switch (rule) {
-    case ValueRule::kPrintable:
-      return kInPrintable;
-    case ValueRule::kIA5:
-      return kInIA5;
-    default:
-      return 0;
-  }
-}
+constexpr unsigned PrescribedAlphabet(ValueRule rule) { return static_cast<unsigned>(rule); }
+static_assert(PrescribedAlphabet(ValueRule::kPrintable) == kInPrintable);
+static_assert(PrescribedAlphabet(ValueRule::kIA5) == kInIA5);
 
 // The platform's number of the string type that a value of these character classes is written in:
 // CERT_RDN_PRINTABLE_STRING, _IA5_STRING, _BMP_STRING or _UTF8_STRING. False for a value outside
