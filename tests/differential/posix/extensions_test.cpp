@@ -7,6 +7,7 @@
 #include <ortholan/cert_extension.h>
 
 #include "tests/differential/differences.h"
+#include "tests/differential/posix/every_sample.h"
 #include "tests/differential/posix/identifiers.h"
 #include "tests/differential/posix/openssl_reader.h"
 #include "tests/differential/samples.h"
@@ -82,10 +83,7 @@ const Rule<Case> kAnswersDiffer[] = {
 };
 
 // Records that show what none of tests/data does.
-const struct {
-  const char* label;
-  const char* record;
-} kCrafted[] = {
+constexpr Crafted kCrafted[] = {
     {"long tag of a BOOLEAN", "30 0A 06 01 2A 1F 01 01 FF 04 01 00"},
     {"long form of length 0", "30 06 06 01 2A 04 81 00"},
     {"arc of 33 bits", "30 0B 06 06 2A 90 80 80 80 00 04 01 00"},
@@ -146,22 +144,11 @@ void ExtensionsByOpenssl::Compare(const std::string& octets, size_t* agreed) {
 }
 
 TEST_F(ExtensionsByOpenssl, AreReadAlike) {
-  size_t agreed = 0;
-  size_t spoiled = 0;
-  for (const std::string& octets : Samples("extensions.txt")) {
-    SCOPED_TRACE(Hex(octets));
-    Compare(octets, &agreed);
-    ForEachMutation(octets, kMutations, [&](const std::string& mutation) {
-      SCOPED_TRACE("spoiled: " + Hex(mutation));
-      Compare(mutation, &spoiled);
-    });
-  }
-  for (const auto& crafted : kCrafted) {
-    SCOPED_TRACE(crafted.label);
-    Compare(Octets(crafted.record), &agreed);
-  }
-  EXPECT_GT(agreed, 25u);
-  EXPECT_GT(spoiled, 2000u);
+  const Agreed agreed = CompareEverySample(
+      "extensions.txt", kMutations, kCrafted,
+      [this](const std::string& octets, size_t* count) { Compare(octets, count); });
+  EXPECT_GT(agreed.whole, 25u);
+  EXPECT_GT(agreed.spoiled, 2000u);
   they_refuse_.ExpectEachApplied();
   we_refuse_.ExpectEachApplied();
   answers_differ_.ExpectEachApplied();

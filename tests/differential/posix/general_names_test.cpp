@@ -7,6 +7,7 @@
 #include <ortholan/general_name.h>
 
 #include "tests/differential/differences.h"
+#include "tests/differential/posix/every_sample.h"
 #include "tests/differential/posix/identifiers.h"
 #include "tests/differential/posix/openssl_reader.h"
 #include "tests/differential/samples.h"
@@ -180,10 +181,7 @@ bool HasSameValue(const Case& name) {
 }
 
 // General names that show what none of tests/data does.
-const struct {
-  const char* label;
-  const char* name;
-} kCrafted[] = {
+constexpr Crafted kCrafted[] = {
     {"constructed, indefinite", "A2 80 16 01 61 00 00"},
     {"primitive, indefinite", "82 80 61 62 00 00"},
     {"long form of length 0", "82 81 00"},
@@ -233,22 +231,11 @@ void GeneralNamesByOpenssl::Compare(const std::string& octets, size_t* agreed) {
 }
 
 TEST_F(GeneralNamesByOpenssl, AreReadAlike) {
-  size_t agreed = 0;
-  size_t spoiled = 0;
-  for (const std::string& octets : Samples("general-names.txt")) {
-    SCOPED_TRACE(Hex(octets));
-    Compare(octets, &agreed);
-    ForEachMutation(octets, kMutations, [&](const std::string& mutation) {
-      SCOPED_TRACE("spoiled: " + Hex(mutation));
-      Compare(mutation, &spoiled);
-    });
-  }
-  for (const auto& crafted : kCrafted) {
-    SCOPED_TRACE(crafted.label);
-    Compare(Octets(crafted.name), &agreed);
-  }
-  EXPECT_GT(agreed, 30u);
-  EXPECT_GT(spoiled, 2000u);
+  const Agreed agreed = CompareEverySample(
+      "general-names.txt", kMutations, kCrafted,
+      [this](const std::string& octets, size_t* count) { Compare(octets, count); });
+  EXPECT_GT(agreed.whole, 30u);
+  EXPECT_GT(agreed.spoiled, 2000u);
   they_refuse_.ExpectEachApplied();
   we_refuse_.ExpectEachApplied();
   values_differ_.ExpectEachApplied();

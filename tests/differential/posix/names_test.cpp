@@ -9,6 +9,7 @@
 
 #include "tests/differential/differences.h"
 #include "tests/differential/our_name.h"
+#include "tests/differential/posix/every_sample.h"
 #include "tests/differential/posix/identifiers.h"
 #include "tests/differential/posix/openssl_reader.h"
 #include "tests/differential/samples.h"
@@ -159,10 +160,7 @@ const Rule<Case> kWeRefuse[] = {
 };
 
 // Names that show what no record of tests/data does.
-const struct {
-  const char* label;
-  const char* name;
-} kCrafted[] = {
+constexpr Crafted kCrafted[] = {
     {"surrogates", "30 11 31 0F 30 0D 06 03 55 04 03 1E 06 00 61 D8 3D DE 00"},
     {"long form of length 0", "30 81 00"},
     {"primitive SEQUENCE", "30 0E 31 0C 30 0A 06 03 55 04 10 10 03 0C 01 61"},
@@ -303,22 +301,11 @@ void NamesByOpenssl::Compare(const std::string& octets, size_t* agreed) {
 }
 
 TEST_F(NamesByOpenssl, AreReadAlike) {
-  size_t agreed = 0;
-  size_t spoiled = 0;
-  for (const std::string& octets : Samples("names.txt")) {
-    SCOPED_TRACE(Hex(octets));
-    Compare(octets, &agreed);
-    ForEachMutation(octets, kMutations, [&](const std::string& mutation) {
-      SCOPED_TRACE("spoiled: " + Hex(mutation));
-      Compare(mutation, &spoiled);
-    });
-  }
-  for (const auto& crafted : kCrafted) {
-    SCOPED_TRACE(crafted.label);
-    Compare(Octets(crafted.name), &agreed);
-  }
-  EXPECT_GT(agreed, 30u);
-  EXPECT_GT(spoiled, 3000u);
+  const Agreed agreed = CompareEverySample(
+      "names.txt", kMutations, kCrafted,
+      [this](const std::string& octets, size_t* count) { Compare(octets, count); });
+  EXPECT_GT(agreed.whole, 30u);
+  EXPECT_GT(agreed.spoiled, 3000u);
   they_refuse_.ExpectEachApplied();
   we_refuse_.ExpectEachApplied();
   types_differ_.ExpectEachApplied();
