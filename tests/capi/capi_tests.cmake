@@ -19,7 +19,7 @@ if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
   ortholan_document_example(text "${PROJECT_SOURCE_DIR}/docs/c-interface.md" python)
   set(example "${CMAKE_CURRENT_BINARY_DIR}/c_interface_example.py")
   file(CONFIGURE OUTPUT "${example}" CONTENT "@text@" @ONLY)
-  find_program(ORTHOLAN_PYTHON python3 REQUIRED)
+  find_program(ORTHOLAN_PYTHON python3)
   add_test(NAME python_tests
     COMMAND "${ORTHOLAN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/capi/python_test.py")
   add_test(NAME python_example COMMAND "${ORTHOLAN_PYTHON}" -B "${example}")
