@@ -10,34 +10,56 @@
 
 namespace Ortholan {
 
+// Where items go, whatever their type. Growing is kept apart, so that adding is a few instructions.
+class Chunks {
+ protected:
+  struct Chunk {
+    std::unique_ptr<unsigned char[]> bytes;
+    size_t items;
+  };
+
+  // Adds a chunk of `items` items of `itemSize` bytes.
+  void Grow(size_t items, size_t itemSize);
+
+  std::vector<Chunk> chunks_;
+  unsigned char* next_;
+  unsigned char* end_;
+};
+
 // The first N items need no allocation; behind them come chunks, each as large as all before it but
 // neither tiny nor huge, so that little is ever unused and nothing is copied. Items are trivial and
 // not initialised.
 template <typename T, size_t N>
-class ChunkedList {
+class ChunkedList : private Chunks {
   static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
+  static_assert(alignof(T) <= alignof(std::max_align_t));
 
  public:
-  ChunkedList() noexcept {}
+  ChunkedList() noexcept {
+    next_ = first_;
+    end_ = next_ + sizeof(first_);
+  }
   ChunkedList(const ChunkedList&) = delete;
   ChunkedList& operator=(const ChunkedList&) = delete;
 
   // Room for one more item. Throws std::bad_alloc, the list unchanged.
   T* Add() {
-    if (next_ == end_) Grow();
+    if (next_ == end_) Grow(std::clamp(size_, kSmallest, kLargest), sizeof(T));
     ++size_;
-    return next_++;
+    T* const item = reinterpret_cast<T*>(next_);
+    next_ += sizeof(T);
+    return item;
   }
   size_t size() const { return size_; }
 
   // Calls `use` with each item, in order, until it returns false; whether none did.
   template <typename Use>
   bool ForEach(Use use) {
-    if (!ForEachOf(reinterpret_cast<T*>(first_), std::min(size_, N), use)) return false;
+    if (!ForEachOf(first_, std::min(size_, N), use)) return false;
     size_t left = size_ - std::min(size_, N);
     for (const Chunk& chunk : chunks_) {
-      if (!ForEachOf(chunk.items.get(), std::min(left, chunk.size), use)) return false;
-      left -= std::min(left, chunk.size);
+      if (!ForEachOf(chunk.bytes.get(), std::min(left, chunk.items), use)) return false;
+      left -= std::min(left, chunk.items);
     }
     return true;
   }
@@ -46,30 +68,16 @@ class ChunkedList {
   static constexpr size_t kSmallest = 64;
   static constexpr size_t kLargest = 4096;
 
-  struct Chunk {
-    std::unique_ptr<T[]> items;
-    size_t size;
-  };
-
   template <typename Use>
-  static bool ForEachOf(T* items, size_t count, Use& use) {
+  static bool ForEachOf(unsigned char* bytes, size_t count, Use& use) {
+    T* const items = reinterpret_cast<T*>(bytes);
     for (T* item = items; item != items + count; ++item) {
       if (!use(*item)) return false;
     }
     return true;
   }
 
-  void Grow() {
-    const size_t count = std::clamp(size_, kSmallest, kLargest);
-    chunks_.push_back({std::unique_ptr<T[]>(new T[count]), count});
-    next_ = chunks_.back().items.get();
-    end_ = next_ + count;
-  }
-
   size_t size_ = 0;
-  T* next_ = reinterpret_cast<T*>(first_);
-  T* end_ = next_ + N;
-  std::vector<Chunk> chunks_;
   alignas(T) unsigned char first_[N * sizeof(T)];
 };
 

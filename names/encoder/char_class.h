@@ -21,9 +21,6 @@ enum CharClass : uint8_t {
   kInPrintable = 1,
   kInIA5 = 2,
   kInBoth = kInPrintable | kInIA5,
-  kIsComma = 4,
-  kIsSemicolon = 8,
-  kIsCrLf = 16,
 };
 
 constexpr size_t kAsciiCount = 0x80;
@@ -32,10 +29,6 @@ constexpr std::array<uint8_t, kAsciiCount> MakeCharClasses() {
   std::array<uint8_t, kAsciiCount> classes = {};
   for (const wchar_t c : kPrintableAlphabet) classes[static_cast<size_t>(c)] |= kInPrintable;
   for (const wchar_t c : kIA5Alphabet) classes[static_cast<size_t>(c)] |= kInIA5;
-  classes[','] |= kIsComma;
-  classes[';'] |= kIsSemicolon;
-  classes['\r'] |= kIsCrLf;
-  classes['\n'] |= kIsCrLf;
   return classes;
 }
 inline constexpr std::array<uint8_t, kAsciiCount> kCharClasses = MakeCharClasses();

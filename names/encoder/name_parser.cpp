@@ -3,24 +3,11 @@
 #include <algorithm>
 #include <functional>
 
-#include "names/encoder/encoder_options.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/type_resolver.h"
 
 namespace Ortholan {
 namespace {
-
-// The first row whose option is set counts.
-struct DelimiterRow {
-  DWORD option;
-  unsigned classes;
-};
-constexpr DelimiterRow kDelimiters[] = {
-    {kOptionCommaOnly, kIsComma},
-    {kOptionSemicolonOnly, kIsSemicolon},
-    {kOptionCrLfOnly, kIsCrLf},
-};
-constexpr unsigned kAllDelimiters = kIsComma | kIsSemicolon | kIsCrLf;
 
 constexpr char kQuote = '"';
 
@@ -31,19 +18,12 @@ bool HasDoubledQuote(std::basic_string_view<Char> text, size_t quote) {
 
 }  // namespace
 
-unsigned DelimitersFor(DWORD options) {
-  for (const DelimiterRow& row : kDelimiters) {
-    if ((options & row.option) != 0) return row.classes;
-  }
-  return kAllDelimiters;
-}
-
 template <typename Char>
 NameParser<Char>::NameParser(View trimmedText, DWORD options, const AttributeRow* unfinished)
     : begin_(trimmedText.data()),
       next_(begin_),
       end_(next_ + trimmedText.size()),
-      delimiters_(DelimitersFor(options)),
+      chars_(ValueCharsFor(options)),
       row_(unfinished) {}
 
 template <typename Char>
@@ -140,24 +120,15 @@ bool NameParser<Char>::ReadType() {
 // The alphabets are found on the way: this loop is where most of a text is read.
 template <typename Char>
 void NameParser<Char>::ReadUnquotedValue() {
-  const Char* at = next_;
-  unsigned common = kInBoth;
-  for (; end_ - at >= 4; at += 4) {
-    const unsigned a = ClassesOf(at[0]);
-    const unsigned b = ClassesOf(at[1]);
-    const unsigned c = ClassesOf(at[2]);
-    const unsigned d = ClassesOf(at[3]);
-    if (((a | b | c | d) & delimiters_) != 0) break;
-    common &= a & b & c & d;
-  }
-  for (; at != end_; ++at) {
-    const unsigned classes = ClassesOf(*at);
-    if ((classes & delimiters_) != 0) break;
-    common &= classes;
-  }
-  token_ = {next_, static_cast<size_t>(at - next_)};
-  token_classes_ = common;
-  next_ = at;
+  const ValueChars& chars = chars_;
+  ValueChars::Entry seen = ValueChars::kAll;
+  const Char* const end = std::find_if(next_, end_, [&seen, &chars](Char c) {
+    seen = static_cast<ValueChars::Entry>(seen & chars.Of(c));
+    return seen >= 0;
+  });
+  token_ = {next_, static_cast<size_t>(end - next_)};
+  token_classes_ = static_cast<unsigned>(seen) & kInBoth;
+  next_ = end;
 }
 
 // A missing closing quote is accepted.

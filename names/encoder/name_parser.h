@@ -14,6 +14,7 @@
 #include "foundation/chunked_list.h"
 #include "names/attribute_table.h"
 #include "names/encoder/char_class.h"
+#include "names/encoder/value_chars.h"
 
 namespace Ortholan {
 
@@ -60,9 +61,6 @@ class NameElem {
 template <typename Char>
 using NameElems = ChunkedList<NameElem<Char>, 16>;
 
-// The character classes that end an element under these options.
-unsigned DelimitersFor(DWORD options);
-
 // Parses one text: UTF-16 in wide characters, or ASCII in bytes, which most texts are and which
 // goes faster. The elements' values are views into the text, or into the parser where a doubled
 // quote had to be written once: both must outlive them.
@@ -93,7 +91,7 @@ class NameParser {
  private:
   enum class TokenKind { kEnd, kType, kValue, kDelimiter, kEquals };
 
-  bool IsElementDelimiter(Char c) const { return (ClassesOf(c) & delimiters_) != 0; }
+  bool IsElementDelimiter(Char c) const { return chars_.End(c); }
   bool AtEnd() const { return next_ == end_; }
   View Rest() const { return {next_, static_cast<size_t>(end_ - next_)}; }
 
@@ -124,7 +122,7 @@ class NameParser {
   const Char* begin_;
   const Char* next_;
   const Char* end_;
-  unsigned delimiters_;  // the classes that end an unquoted value
+  const ValueChars& chars_;
   TokenKind kind_ = TokenKind::kEnd;
   View token_;
   unsigned token_classes_ = 0;  // of a value token, as far as they are known

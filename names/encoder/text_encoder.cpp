@@ -100,25 +100,41 @@ bool PlanElements(DWORD options, Elems* elems, Places* places) {
 }
 
 // A copy of fixed size where there is room for it before `end`: what is too much is written over.
-BYTE* WriteOid(const OidDer& der, BYTE* out, const BYTE* end) {
-  const size_t room = static_cast<size_t>(end - out);
-  std::memcpy(out, der.bytes, room >= sizeof(der.bytes) ? sizeof(der.bytes) : der.size);
+inline BYTE* WriteOid(const OidDer& der, BYTE* out, const BYTE* end) {
+  if (static_cast<size_t>(end - out) >= sizeof(der.bytes)) {
+    std::memcpy(out, der.bytes, sizeof(der.bytes));
+  } else {
+    std::memcpy(out, der.bytes, der.size);
+  }
   return out + der.size;
+}
+
+// The headers of an RDN and of its one attribute, which has so much content.
+inline BYTE* WriteRdnHeaders(BYTE* out, uint64_t content) {
+  if (content >= kLongForm - 2) {
+    out = WriteHeader(out, kSetOctet, ElementSize(content));
+    return WriteHeader(out, kSequenceOctet, content);
+  }
+  *out++ = kSetOctet;
+  *out++ = static_cast<BYTE>(content + 2);
+  *out++ = kSequenceOctet;
+  *out++ = static_cast<BYTE>(content);
+  return out;
 }
 
 // One attribute an RDN. Behind `*out` nothing was written yet, to `end`, or where that is null to
 // the RDN's own end, which `*out` becomes. False where the platform refuses the value.
 template <typename Elem>
 inline bool WriteElement(const Elem& elem, const AttributeRow& row, const BYTE* end, BYTE** out) {
+  const auto value = elem.value();
   const DWORD type = elem.type();
-  const ValuePlan value = {elem.value(), type, row.lines,
-                           MeasureValue(elem.value(), type, row.lines)};
-  const uint64_t content = row.der.size + value.size;
-  BYTE* at = WriteHeader(*out, kSetOctet, ElementSize(content));
-  at = WriteHeader(at, kSequenceOctet, content);
+  const uint64_t size = MeasureValue(value, type, row.lines);
+  const uint64_t content = row.der.size + size;
+  BYTE* at = WriteRdnHeaders(*out, content);
   *out = at + content;
   at = WriteOid(row.der, at, end != nullptr ? end : *out);
-  return EncodeElemData(value, at);
+  if (row.lines) return EncodeElemData({value, type, true, size}, at);
+  return EncodeStringValue(type, value.data(), value.size(), at, static_cast<size_t>(size));
 }
 
 template <typename Places, typename Elems>

@@ -85,10 +85,9 @@ void CutAtDelimiter(DWORD options, Found* found) {
       found->fault != NameTextFault::kMissingEquals) {
     return;
   }
-  const unsigned delimiters = DelimitersFor(options);
-  const auto delimiter =
-      std::find_if(found->stop.begin(), found->stop.end(),
-                   [delimiters](wchar_t c) { return (ClassesOf(c) & delimiters) != 0; });
+  const ValueChars& chars = ValueCharsFor(options);
+  const auto delimiter = std::find_if(found->stop.begin(), found->stop.end(),
+                                      [&chars](wchar_t c) { return chars.End(c); });
   if (delimiter == found->stop.end()) return;
   found->fault = NameTextFault::kMissingEquals;
   found->stop = found->stop.substr(0, static_cast<size_t>(delimiter - found->stop.begin()));
@@ -96,8 +95,8 @@ void CutAtDelimiter(DWORD options, Found* found) {
 
 // A backslash before the delimiters in front of `at`, as where somebody meant to escape them.
 bool FollowsBackslash(std::wstring_view text, const wchar_t* at, DWORD options) {
-  const unsigned delimiters = DelimitersFor(options);
-  while (at != text.data() && (IsTrimmed(at[-1]) || (ClassesOf(at[-1]) & delimiters) != 0)) --at;
+  const ValueChars& chars = ValueCharsFor(options);
+  while (at != text.data() && (IsTrimmed(at[-1]) || chars.End(at[-1]))) --at;
   return at != text.data() && at[-1] == L'\\';
 }
 

@@ -1,10 +1,10 @@
 #include "names/encoder/type_resolver.h"
 
-#include <atomic>
 #include <cstdint>
 #include <type_traits>
 
 #include "foundation/ascii.h"
+#include "names/encoder/remembered_types.h"
 #include "platform/calls.h"
 
 namespace Ortholan {
@@ -104,71 +104,18 @@ bool Resolve(std::basic_string_view<Char> text, const AttributeRow** row) {
   return MatchForm(ToForm(text, form), row);
 }
 
-// Short texts that were resolved to a row, remembered for the process without a lock: a slot is one
-// word, which holds the text, the row and the version of the platform's answers.
-class RememberedTypes {
- public:
-  static constexpr size_t kLongest = 5;
+}  // namespace
 
-  template <typename Char>
-  static uint64_t Pack(std::basic_string_view<Char> text) {
-    uint64_t packed = 0;
-    for (const Char c : text) {
-      // A NUL in front would leave no trace, and a character above 0x7F does not fit.
-      if (static_cast<std::make_unsigned_t<Char>>(c) - 1u >= 0x7Fu) return 0;
-      packed = packed << 8 | static_cast<uint64_t>(c);
-    }
-    return packed << kTextShift | AttributeInfoVersion();
-  }
-  const AttributeRow* Find(uint64_t packed) const {
-    const uint64_t word = SlotOf(packed).load(std::memory_order_relaxed);
-    return (word & ~kRowMask) == packed && word != 0
-               ? &kAttributes[((word & kRowMask) >> kRowShift) - 1]
-               : nullptr;
-  }
-  void Keep(uint64_t packed, const AttributeRow* row) {
-    const auto place = static_cast<uint64_t>(row - kAttributes) + 1;
-    SlotOf(packed).store(packed | place << kRowShift, std::memory_order_relaxed);
-  }
-
- private:
-  static constexpr unsigned kRowShift = 16;  // below it the version
-  static constexpr unsigned kTextShift = 24;
-  static constexpr uint64_t kRowMask = 0xFF0000;
-  static constexpr size_t kSlots = 64;
-
-  std::atomic<uint64_t>& SlotOf(uint64_t packed) {
-    return slots_[(packed >> kTextShift) * 0x9E3779B97F4A7C15u >> 58];
-  }
-  const std::atomic<uint64_t>& SlotOf(uint64_t packed) const {
-    return const_cast<RememberedTypes*>(this)->SlotOf(packed);
-  }
-
-  std::atomic<uint64_t> slots_[kSlots] = {};
-};
 RememberedTypes remembered_types;
 
 template <typename Char>
-bool ResolveRemembered(std::basic_string_view<Char> text, const AttributeRow** row) {
-  if (text.size() > RememberedTypes::kLongest) return Resolve(text, row);
-  const uint64_t packed = RememberedTypes::Pack(text);
-  if (packed == 0) return Resolve(text, row);
-  *row = remembered_types.Find(packed);
-  if (*row != nullptr) return true;
+bool ResolveAfresh(std::basic_string_view<Char> text, const AttributeRow** row) {
   const bool resolved = Resolve(text, row);
-  if (*row != nullptr) remembered_types.Keep(packed, *row);
+  if (*row != nullptr) remembered_types.Keep(RememberedTypes::Pack(text), *row);
   return resolved;
 }
-
-}  // namespace
-
-bool ResolveType(std::wstring_view text, const AttributeRow** row) {
-  return ResolveRemembered(text, row);
-}
-
-bool ResolveType(std::string_view text, const AttributeRow** row) {
-  return ResolveRemembered(text, row);
-}
+template bool ResolveAfresh(std::string_view, const AttributeRow**);
+template bool ResolveAfresh(std::wstring_view, const AttributeRow**);
 
 std::string ListKeywords() {
   std::string list;

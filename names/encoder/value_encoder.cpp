@@ -2,7 +2,6 @@
 
 #include "foundation/utf16.h"
 #include "names/encoder/line_splitter.h"
-#include "platform/string_value.h"
 
 namespace Ortholan {
 namespace {
@@ -13,25 +12,9 @@ bool ForEachLine(const Characters& text, Use use) {
   return GetStrings(std::wstring_view(text.wide, text.size), use);
 }
 
-bool EncodeString(const Characters& text, DWORD type, uint64_t size, BYTE* out) {
-  const size_t octets = static_cast<size_t>(size);
-  if (text.ascii != nullptr) return EncodeStringValue(type, text.ascii, text.size, out, octets);
-  return EncodeStringValue(type, text.wide, text.size, out, octets);
-}
-
-bool EncodeLines(const ValuePlan& plan, BYTE* out) {
-  out = WriteHeader(out, kSequenceOctet, MeasureLines(plan.text, plan.type));
-  return ForEachLine(plan.text, [&](const Characters& line) {
-    const uint64_t size = MeasureString(line, plan.type);
-    if (!EncodeString(line, plan.type, size, out)) return false;
-    out += size;
-    return true;
-  });
-}
-
 }  // namespace
 
-uint64_t MeasureWide(std::wstring_view text, DWORD type) {
+uint64_t MeasureString(std::wstring_view text, DWORD type) {
   switch (type) {
     case CERT_RDN_BMP_STRING:
       return ElementSize(2 * CountUnits(text));
@@ -51,8 +34,14 @@ uint64_t MeasureLines(const Characters& text, DWORD type) {
   return size;
 }
 
-bool EncodeElemData(const ValuePlan& plan, BYTE* out) {
-  return plan.lines ? EncodeLines(plan, out) : EncodeString(plan.text, plan.type, plan.size, out);
+bool EncodeLines(const ValuePlan& plan, BYTE* out) {
+  out = WriteHeader(out, kSequenceOctet, MeasureLines(plan.text, plan.type));
+  return ForEachLine(plan.text, [&](const Characters& line) {
+    const uint64_t size = MeasureString(line, plan.type);
+    if (!EncodeString(line, plan.type, size, out)) return false;
+    out += size;
+    return true;
+  });
 }
 
 }  // namespace Ortholan

@@ -9,6 +9,7 @@
 
 #include "foundation/element_writer.h"
 #include "names/encoder/char_class.h"
+#include "platform/string_value.h"
 
 namespace Ortholan {
 
@@ -36,23 +37,36 @@ struct ValuePlan {
   uint64_t size;    // octets of the whole encoding
 };
 
-uint64_t MeasureWide(std::wstring_view text, DWORD type);
-uint64_t MeasureLines(const Characters& text, DWORD type);
-
 // Octets of one string. Sized here rather than by a query of the platform: the content is the text
 // in the type's encoding, and the length field is definite and minimal.
-inline uint64_t MeasureString(const Characters& text, DWORD type) {
-  if (text.ascii == nullptr) return MeasureWide({text.wide, text.size}, type);
-  return ElementSize(type == CERT_RDN_BMP_STRING ? 2 * text.size : text.size);
+inline uint64_t MeasureString(std::string_view ascii, DWORD type) {
+  return ElementSize(type == CERT_RDN_BMP_STRING ? 2 * ascii.size() : ascii.size());
 }
+uint64_t MeasureString(std::wstring_view text, DWORD type);
+inline uint64_t MeasureString(const Characters& text, DWORD type) {
+  return text.ascii != nullptr ? MeasureString(std::string_view(text.ascii, text.size), type)
+                               : MeasureString(std::wstring_view(text.wide, text.size), type);
+}
+uint64_t MeasureLines(const Characters& text, DWORD type);
 
-inline uint64_t MeasureValue(const Characters& text, DWORD type, bool lines) {
+// Octets of a value in any of the forms above.
+template <typename Text>
+uint64_t MeasureValue(const Text& text, DWORD type, bool lines) {
   return lines ? ElementSize(MeasureLines(text, type)) : MeasureString(text, type);
 }
 
+inline bool EncodeString(const Characters& text, DWORD type, uint64_t size, BYTE* out) {
+  const size_t octets = static_cast<size_t>(size);
+  if (text.ascii != nullptr) return EncodeStringValue(type, text.ascii, text.size, out, octets);
+  return EncodeStringValue(type, text.wide, text.size, out, octets);
+}
+bool EncodeLines(const ValuePlan& plan, BYTE* out);
+
 // Writes plan.size octets to `out` with the platform's codec. False where the platform refuses; its
 // last error stands.
-bool EncodeElemData(const ValuePlan& plan, BYTE* out);
+inline bool EncodeElemData(const ValuePlan& plan, BYTE* out) {
+  return plan.lines ? EncodeLines(plan, out) : EncodeString(plan.text, plan.type, plan.size, out);
+}
 
 }  // namespace Ortholan
 

@@ -61,12 +61,12 @@ size_t ContentSize(size_t size) {
 
 }  // namespace
 
-bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t size) {
-  out = posix::WriteHeader(TagOf(valueType), ContentSize(size), out);
+bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t) {
   if (valueType != CERT_RDN_BMP_STRING) {
-    std::memcpy(out, ascii, count);
+    std::memcpy(posix::WriteHeader(TagOf(valueType), count, out), ascii, count);
     return true;
   }
+  out = posix::WriteHeader(kBmpTag, 2 * count, out);
   for (size_t i = 0; i < count; ++i) out = WriteBigEndian(static_cast<BYTE>(ascii[i]), out);
   return true;
 }
