@@ -16,6 +16,8 @@ import tempfile
 import termios
 import threading
 
+SKIPPED = 77
+
 failures = []
 
 
@@ -35,6 +37,16 @@ def read_all(descriptor):
             break
         content += block
     return content
+
+
+def has_terminals():
+    """A machine whose /dev/pts is not mounted has none to give."""
+    try:
+        for end in pty.openpty():
+            os.close(end)
+    except OSError:
+        return False
+    return True
 
 
 def channel(is_terminal):
@@ -209,6 +221,9 @@ def check_progress(program, scratch):
 
 
 def main():
+    if not has_terminals():
+        print("terminal_test.py: left out, this machine has no pseudo-terminals")
+        return SKIPPED
     program = os.path.abspath(sys.argv[2])
     os.environ.pop("NO_COLOR", None)
     os.environ["LC_ALL"] = "C.UTF-8"
