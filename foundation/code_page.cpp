@@ -10,6 +10,12 @@ namespace {
 constexpr uint64_t kHighBits = 0x8080808080808080;
 constexpr size_t kWord = sizeof(uint64_t);
 
+bool IsAsciiWord(const char* text) {
+  uint64_t word;
+  std::memcpy(&word, text, kWord);
+  return (word & kHighBits) == 0;
+}
+
 bool FitsTheCalls(size_t length) {
   if (length <= static_cast<size_t>(std::numeric_limits<int>::max())) return true;
   SetLastError(ERROR_INVALID_PARAMETER);
@@ -35,15 +41,19 @@ Conversion WidenAs(UINT codePage, DWORD flags, std::string_view text, std::wstri
 
 }  // namespace
 
-size_t AsciiPrefix(std::string_view text) {
-  size_t i = 0;
-  for (; i + kWord <= text.size(); i += kWord) {
-    uint64_t word;
-    std::memcpy(&word, text.data() + i, kWord);
-    if ((word & kHighBits) != 0) break;
+bool IsAscii(std::string_view text) {
+  const char* const data = text.data();
+  const size_t size = text.size();
+  if (size < kWord) {
+    unsigned seen = 0;
+    for (const char c : text) seen |= static_cast<unsigned char>(c);
+    return seen < 0x80;
   }
-  while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) ++i;
-  return i;
+  // The last word may overlap the one before.
+  for (size_t i = 0; i < size - kWord; i += kWord) {
+    if (!IsAsciiWord(data + i)) return false;
+  }
+  return IsAsciiWord(data + size - kWord);
 }
 
 Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out) {

@@ -32,10 +32,8 @@ void AppendAscii(std::string_view text, std::wstring* out);
 // Appends what Widen would give; false, `out` unchanged, where it fails.
 bool AppendWidened(std::string_view text, UINT codePage, std::wstring* out);
 
-// Number of leading characters below 0x80, which every code page of ours has in common.
-size_t AsciiPrefix(std::string_view text);
-
-inline bool IsAscii(std::string_view text) { return AsciiPrefix(text) == text.size(); }
+// Whether every character is below 0x80, which all code pages of ours have in common.
+bool IsAscii(std::string_view text);
 
 inline std::string_view AsText(ByteView bytes) {
   return {reinterpret_cast<const char*>(bytes.data), bytes.size};

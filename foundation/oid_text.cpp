@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <limits>
 
-#include "foundation/ascii.h"
-
 namespace Ortholan {
 namespace {
 
@@ -21,37 +19,36 @@ void AppendArc(uint32_t arc, OidText* text) {
   text->Truncate(before + static_cast<size_t>(end.ptr - first));
 }
 
-// Reads decimal digits at the front of `*rest`. False where there are none or the arc passes 32
-// bits.
-bool ReadArc(std::string_view* rest, uint32_t* arc) {
+// Reads decimal digits from `*at` on. False where there are none or the arc passes 32 bits.
+bool ReadArc(const char** at, const char* end, uint32_t* arc) {
+  const char* const first = *at;
+  const char* next = first;
   uint64_t value = 0;
-  size_t digits = 0;
-  for (; digits < rest->size() && IsAsciiDigit((*rest)[digits]); ++digits) {
-    value = value * 10 + static_cast<uint64_t>((*rest)[digits] - '0');
+  for (; next != end; ++next) {
+    const unsigned digit = static_cast<unsigned char>(*next) - unsigned{'0'};
+    if (digit > 9) break;
+    value = value * 10 + digit;
     if (value > std::numeric_limits<uint32_t>::max()) return false;
   }
-  rest->remove_prefix(digits);
+  *at = next;
   *arc = static_cast<uint32_t>(value);
-  return digits != 0;
+  return next != first;
 }
 
-bool SkipDot(std::string_view* rest) {
-  if (rest->empty() || rest->front() != '.') return false;
-  rest->remove_prefix(1);
+bool SkipDot(const char** at, const char* end) {
+  if (*at == end || **at != '.') return false;
+  ++*at;
   return true;
 }
 
-// Base 128, most significant group first.
-void AppendGroups(uint32_t arc, SmallBuffer<BYTE, kMaxOidContent>* content) {
-  if (arc < kMoreGroups) {
-    *content->Extend(1) = static_cast<BYTE>(arc);
-    return;
-  }
-  size_t groups = 2;
+// Base 128, most significant group first. False where there is no room before `end`.
+bool WriteGroups(uint32_t arc, const BYTE* end, BYTE** out) {
+  size_t groups = 1;
   while (groups < kMaxArcGroups && arc >> (7 * groups) != 0) ++groups;
-  BYTE* out = content->Extend(groups);
-  while (--groups != 0) *out++ = static_cast<BYTE>(arc >> (7 * groups) | kMoreGroups);
-  *out = static_cast<BYTE>(arc & 0x7F);
+  if (groups > static_cast<size_t>(end - *out)) return false;
+  while (--groups != 0) *(*out)++ = static_cast<BYTE>(arc >> (7 * groups) | kMoreGroups);
+  *(*out)++ = static_cast<BYTE>(arc & 0x7F);
+  return true;
 }
 
 }  // namespace
@@ -77,19 +74,22 @@ Status FormatOid(ByteView content, OidText* text) {
 }
 
 Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* content) {
-  content->clear();
+  const char* at = dotted.data();
+  const char* const end = at + dotted.size();
   uint32_t first = 0;
   uint32_t second = 0;
-  if (!ReadArc(&dotted, &first) || !SkipDot(&dotted) || !ReadArc(&dotted, &second)) {
+  if (!ReadArc(&at, end, &first) || !SkipDot(&at, end) || !ReadArc(&at, end, &second)) {
     return Status::kNotEncodable;
   }
-  content->push_back(static_cast<BYTE>(first * kSecondArcs + second));
-  while (!dotted.empty()) {
+  BYTE* const octets = content->Take(kMaxOidContent);
+  BYTE* out = octets;
+  *out++ = static_cast<BYTE>(first * kSecondArcs + second);
+  while (at != end) {
     uint32_t arc = 0;
-    if (!SkipDot(&dotted) || !ReadArc(&dotted, &arc)) return Status::kNotEncodable;
-    AppendGroups(arc, content);
-    if (content->size() > kMaxOidContent) return Status::kNotEncodable;
+    if (!SkipDot(&at, end) || !ReadArc(&at, end, &arc)) return Status::kNotEncodable;
+    if (!WriteGroups(arc, octets + kMaxOidContent, &out)) return Status::kNotEncodable;
   }
+  content->Truncate(static_cast<size_t>(out - octets));
   return Status::kOk;
 }
 

@@ -7,14 +7,17 @@
 
 #include <string_view>
 
-#include "foundation/status_code.h"
-
 namespace Ortholan {
 
-// The text; throws XZEPStatus 16 where it could not be allocated.
+// Replaces `out` by the text; throws XZEPStatus 16, `out` unchanged, where it cannot be allocated.
+void SetRequiredText(const char* text, size_t length, CZEPString* out);
+inline void SetRequiredText(std::string_view text, CZEPString* out) {
+  SetRequiredText(text.data(), text.size(), out);
+}
+
 inline CZEPString RequiredText(std::string_view text) {
-  CZEPString made(text.data(), text.size());
-  if (made.GetLength() == 0 && !text.empty()) ThrowNoMemory();
+  CZEPString made;
+  SetRequiredText(text, &made);
   return made;
 }
 

@@ -11,6 +11,8 @@
 
 #include "foundation/ascii.h"
 #include "foundation/message_loader.h"
+#include "foundation/required_text.h"
+#include "foundation/status_code.h"
 
 namespace Ortholan {
 
@@ -200,6 +202,16 @@ void CZEPString::Assign(const char* text, size_t length) {
   CZEPStringImp* fresh = length != 0 ? CZEPStringImp::Create(length) : nullptr;
   if (fresh != nullptr) fresh->Append(text, length);
   Adopt(fresh);
+}
+
+void SetRequiredText(const char* text, size_t length, CZEPString* out) {
+  CZEPString::CZEPStringImp* fresh = nullptr;
+  if (length != 0) {
+    fresh = CZEPString::CZEPStringImp::Create(length);
+    if (fresh == nullptr) ThrowNoMemory();
+    fresh->Append(text, length);
+  }
+  out->Adopt(fresh);
 }
 
 void CZEPString::Append(const char* text, size_t length) {

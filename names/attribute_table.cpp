@@ -16,7 +16,13 @@ constexpr size_t Length(std::string_view key) { return key.size(); }
 constexpr size_t Length(ByteView key) { return key.size; }
 
 bool Same(std::string_view a, std::string_view b) { return a == b; }
-bool Same(ByteView a, ByteView b) { return SameBytes(a, b); }
+// A few octets each: less work than a call of memcmp.
+bool Same(ByteView a, ByteView b) {
+  if (a.size != b.size) return false;
+  size_t i = 0;
+  while (i < a.size && a[i] == b[i]) ++i;
+  return i == a.size;
+}
 
 // A slot for each row by the size and the last item of its key, which no two rows share; the
 // factor that keeps the slots apart is found by the compiler.

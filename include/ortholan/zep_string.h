@@ -93,6 +93,7 @@ class ORTHOLAN_EXPORT CZEPString {
 
  private:
   class CZEPStringImp;
+  friend void SetRequiredText(const char* text, size_t length, CZEPString* out);
 
   void Adopt(CZEPStringImp* representation) noexcept;
   void Assign(const char* text, size_t length);

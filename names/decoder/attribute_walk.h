@@ -11,7 +11,7 @@
 
 namespace Ortholan {
 
-// The one attribute of an RDN. Views live as long as this object and the bytes.
+// The one attribute of an RDN. Views live as long as the bytes and until the next RDN is read.
 class DecodedAttribute {
  public:
   // False with the last error set for bytes that are no such structure, unchanged for an RDN of
@@ -39,11 +39,10 @@ template <typename Use>
 bool ForEachAttribute(ByteView name, Use use) {
   const DWORD before = GetLastError();
   bool read = true;
+  DecodedAttribute attribute;
   ElementReader reader(name);
   for (Element rdn; reader.Next(&rdn);) {
-    if (!read) continue;
-    DecodedAttribute attribute;
-    read = attribute.Read(rdn.bytes) && use(attribute);
+    read = read && attribute.Read(rdn.bytes) && use(attribute);
   }
   if (!reader.fault()) return read;
   SetLastError(before);

@@ -24,22 +24,28 @@ Values* AddPair(const TypeText& type, DWORD style, Pairs* pairs) {
   return &pair.second;
 }
 
-// The usual shape with a text in ASCII; false for any other, `pairs` unchanged.
-bool DecodeAsciiElem(ByteView rdn, DWORD style, Pairs* pairs) {
-  PlainAttribute plain;
-  TypeText type;
-  AsciiValue value;
-  if (!SplitPlainRdn(rdn, &plain) || !DecodeAttrOid(plain.type, &type)) return false;
-  if (!value.Decode(plain.value)) return false;
-  Values* const values = AddPair(type, style, pairs);
-  const std::string_view text = value.text();
-  if (!text.empty()) values->emplace_back(text.begin(), text.end());
-  return true;
-}
+// The usual shape with a text in ASCII. One object serves many RDNs.
+class AsciiElem {
+ public:
+  // False for any other, `pairs` unchanged.
+  bool Decode(ByteView rdn, DWORD style, Pairs* pairs) {
+    if (!SplitPlainRdn(rdn, &plain_) || !DecodeAttrOid(plain_.type, &type_)) return false;
+    if (!value_.Decode(plain_.value)) return false;
+    Values* const values = AddPair(type_, style, pairs);
+    const std::string_view text = value_.text();
+    if (!text.empty()) values->emplace_back(text.begin(), text.end());
+    return true;
+  }
 
-// Children are decoded in the order in which they stand, so that the first failure is told.
+ private:
+  PlainAttribute plain_;
+  TypeText type_;
+  AsciiValue value_;
+};
+
+// Any shape. Children are decoded in the order in which they stand, so that the first failure is
+// told.
 bool DecodeElem(ByteView rdn, DWORD style, Pairs* pairs) {
-  if (DecodeAsciiElem(rdn, style, pairs)) return true;
   Status status = Status::kOk;
   AttributeElements attribute;
   if (!SplitRdn(rdn, &attribute, &status)) {
@@ -68,9 +74,11 @@ bool X500NameDecoder::Decode(const IdentObj& name,
   pairs.clear();
   nameStyle_ = style;
   bool decoded = true;
+  AsciiElem ascii;
   ElementReader reader(bytes);
   for (Element rdn; reader.Next(&rdn);) {
-    decoded = decoded && DecodeElem(rdn.bytes, style, &pairs);
+    decoded =
+        decoded && (ascii.Decode(rdn.bytes, style, &pairs) || DecodeElem(rdn.bytes, style, &pairs));
   }
   if (!reader.fault()) return decoded;
   // A fault of the sequence itself counts before everything else and leaves no pairs.

@@ -6,24 +6,19 @@
 
 namespace Ortholan {
 
+bool TypeText::Format(ByteView content) {
+  const Status status = FormatOid(content, &formatted_);
+  if (status != Status::kOk) return FailWith(status);
+  const size_t length = formatted_.size();
+  formatted_.push_back('\0');
+  dotted_ = {formatted_.data(), length};
+  return true;
+}
+
 bool DecodeAttrOid(const Element& element, TypeText* type) {
   ByteView content;
   const Status status = BoundedContent(element.header, element.bytes.end(), &content);
   return status == Status::kOk ? DecodeAttrOid(content, type) : FailWith(status);
-}
-
-bool DecodeAttrOid(ByteView content, TypeText* type) {
-  type->row_ = FindAttributeByDer(content);
-  if (type->row_ != nullptr) {
-    type->dotted_ = type->row_->oid;
-    return true;
-  }
-  const Status status = FormatOid(content, &type->formatted_);
-  if (status != Status::kOk) return FailWith(status);
-  const size_t length = type->formatted_.size();
-  type->formatted_.push_back('\0');
-  type->dotted_ = {type->formatted_.data(), length};
-  return true;
 }
 
 std::wstring_view GetX500KeyFromOid(const TypeText& type) {

@@ -19,6 +19,7 @@ class TypeText {
 
  private:
   friend bool DecodeAttrOid(ByteView content, TypeText* type);
+  bool Format(ByteView content);
 
   const AttributeRow* row_ = nullptr;  // null for octets that the table has not
   std::string_view dotted_;            // into the row or `formatted_`
@@ -27,7 +28,12 @@ class TypeText {
 
 // Renders the content of an identifier element, whatever its class. False with the last error set
 // where the content is no identifier.
-bool DecodeAttrOid(ByteView content, TypeText* type);
+inline bool DecodeAttrOid(ByteView content, TypeText* type) {
+  type->row_ = FindAttributeByDer(content);
+  if (type->row_ == nullptr) return type->Format(content);
+  type->dotted_ = type->row_->oid;
+  return true;
+}
 bool DecodeAttrOid(const Element& element, TypeText* type);
 
 // The platform's name of the type, otherwise the table's key; empty where neither has one, and the

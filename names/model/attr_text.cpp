@@ -53,7 +53,7 @@ void ReadValueText(DWORD valueType, CERT_RDN_VALUE_BLOB value, CZEPString* out) 
   if (size == 0) return;
   SmallBuffer<char, 256> text;
   if (CertRDNValueToStrA(valueType, &value, text.Take(size), size) != 0) {
-    *out = RequiredText(text.data());
+    SetRequiredText(text.data(), out);
   }
 }
 
@@ -62,13 +62,13 @@ void ReadValueText(DWORD valueType, CERT_RDN_VALUE_BLOB value, CZEPString* out) 
 void X509Name::QuoteString(const char* src, CZEPString& out) {
   std::string quoted;
   AppendQuoted(TextOf(src), &quoted);
-  out = RequiredText(quoted);
+  SetRequiredText(quoted, &out);
 }
 
 void X509Name::QuoteString(CZEPString& s) { QuoteString(s.c_str(), s); }
 
 void X509Name::UnquoteString(const char* src, CZEPString& out) {
-  out = RequiredText(Unquoted(TextOf(src)));
+  SetRequiredText(Unquoted(TextOf(src)), &out);
 }
 
 void X509Name::UnquoteString(CZEPString& s) { UnquoteString(s.c_str(), s); }
@@ -77,7 +77,7 @@ void X509Name::FormatRDNAttr(const char* key, const char* value, CZEPString& out
   std::string text(TextOf(key));
   text.push_back('=');
   AppendQuoted(TextOf(value), &text);
-  out = RequiredText(text);
+  SetRequiredText(text, &out);
 }
 
 void X509Name::MakeRDNAttr(const char* key, const char* value, RDNAttr& out) {

@@ -64,7 +64,7 @@ bool ReadSimpleRdn(const X509Name& name, const char* oid, Text* out) {
 void ReadPairValue(const DecodedAttribute& attribute, CZEPString* out) {
   if (attribute.is_ascii()) {
     const std::string_view text = attribute.ascii();
-    *out = RequiredText(text.substr(0, text.find('\0')));
+    SetRequiredText(text.substr(0, text.find('\0')), out);
     return;
   }
   std::wstring wide;
@@ -90,7 +90,7 @@ bool ReadPairs(const X509Name& name, Pairs* pairs) {
   Pairs found;
   const auto append = [&found](const DecodedAttribute& attribute) {
     SimpleRDN& rdn = found.emplace_back();
-    rdn.key = RequiredText(attribute.type().dotted());
+    SetRequiredText(attribute.type().dotted(), &rdn.key);
     ReadPairValue(attribute, &rdn.value);
     return true;
   };

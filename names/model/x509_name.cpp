@@ -187,7 +187,7 @@ bool X509Name::TryGetX500String(std::string& out, unsigned long options) const {
 bool X509Name::TryGetX500String(CZEPString& out, unsigned long options) const {
   std::string text;
   if (!RenderNarrow(*this, options, &text)) return false;
-  out = RequiredText(text);
+  SetRequiredText(text, &out);
   return true;
 }
 
@@ -202,7 +202,7 @@ bool X509Name::TryGetNameInfo(std::list<std::list<RDNAttr>>& out) const {
   const auto append = [&](const DecodedAttribute& attribute) {
     if (!value.Read(attribute)) return false;
     RDNAttr& attr = rdns.emplace_back().emplace_back();
-    attr.oid = RequiredText(attribute.type().dotted());
+    SetRequiredText(attribute.type().dotted(), &attr.oid);
     attr.valueType = value.type();
     attr.value.Allocate(value.size());
     value.Write(attr.value.pbData);

@@ -87,16 +87,23 @@ std::size_t ValueSize(DWORD type, Bytes content) {
 }
 
 void WriteValue(DWORD type, Bytes content, BYTE* out) {
-  if (type == CERT_RDN_UTF8_STRING) {
-    FromUtf8(content.data, content.size, LittleEndianWriter{out});
-  } else if (type == CERT_RDN_BMP_STRING) {
-    SwapUnits(content.data, content.size, out);
+  if (type == CERT_RDN_UTF8_STRING || type == CERT_RDN_BMP_STRING) {
+    ReadUtf16Le(type, content, out);
   } else {
     CopyOctets(content, out);
   }
 }
 
 }  // namespace
+
+std::size_t ReadUtf16Le(DWORD type, Bytes content, BYTE* out) noexcept {
+  if (type == CERT_RDN_BMP_STRING) {
+    SwapUnits(content.data, content.size, out);
+    return content.size;
+  }
+  const auto read = FromUtf8(content.data, content.size, LittleEndianWriter{out});
+  return static_cast<std::size_t>(read.sink.out - out);
+}
 
 BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) noexcept {
   if (value.dwValueType == CERT_RDN_ANY_TYPE) return Fail(kInvalidArgument);

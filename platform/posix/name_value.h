@@ -6,6 +6,10 @@
 
 #include <ortholan/platform.h>
 
+#include <cstddef>
+
+#include "platform/posix/der.h"
+
 namespace Ortholan::posix {
 
 // Writes the element. Sizes as for CryptEncodeObject: with a null `out` only the size is stored.
@@ -28,6 +32,10 @@ BOOL DecodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* 
 BOOL EncodeUnicodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) noexcept;
 BOOL DecodeUnicodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out,
                             DWORD* outBytes) noexcept;
+
+// The content of a CERT_RDN_BMP_STRING, of even size, or a CERT_RDN_UTF8_STRING as UTF-16LE octets,
+// of which the latter gives up to twice as many as it has. Returns how many.
+std::size_t ReadUtf16Le(DWORD type, Bytes content, BYTE* out) noexcept;
 
 }  // namespace Ortholan::posix
 

@@ -4,6 +4,7 @@
 
 #include "platform/posix/der.h"
 #include "platform/posix/fail.h"
+#include "platform/posix/name_value.h"
 #include "platform/posix/utf8.h"
 
 namespace Ortholan {
@@ -30,6 +31,13 @@ constexpr BYTE TagOf(DWORD valueType) {
 
 constexpr bool IsEightBitTag(BYTE tag) {
   return tag == 0x13 || tag == 0x14 || tag == 0x16 || tag == 0x1A;
+}
+
+bool IsAscii(Bytes text) {
+  size_t i = 0;
+  while (text.size - i >= posix::kRun && posix::IsAsciiRun(text.data + i)) i += posix::kRun;
+  while (i < text.size && text.data[i] < 0x80) ++i;
+  return i == text.size;
 }
 
 BYTE* WriteBigEndian(std::uint32_t unit, BYTE* out) {
@@ -93,33 +101,18 @@ bool StringValue::Decode(const BYTE* element, size_t size) {
   posix::Element read;
   if (!posix::ReadElement({element, size}, &read)) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
   const Bytes content = read.content;
-  is_utf16_ = !IsEightBitTag(tag);
+  // UTF-8 of ASCII alone is 8-bit text in every code page.
+  is_utf16_ = tag == kBmpTag || (tag == kUtf8Tag && !IsAscii(content));
   if (!is_utf16_) {
     data_ = content.data;
     size_ = content.size;
     return true;
   }
-  if (tag == kBmpTag) {
-    if (content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
-    BYTE* const swapped = Take(content.size);
-    posix::SwapUnits(content.data, content.size, swapped);
-    data_ = swapped;
-    size_ = content.size;
-    return true;
-  }
-  // UTF-8 of ASCII alone is 8-bit text in every code page.
-  size_t ascii = 0;
-  while (ascii < content.size && content.data[ascii] < 0x80) ++ascii;
-  if (ascii == content.size) {
-    is_utf16_ = false;
-    data_ = content.data;
-    size_ = content.size;
-    return true;
-  }
-  BYTE* const units = Take(2 * content.size);
-  const auto end = posix::FromUtf8(content.data, content.size, posix::LittleEndianWriter{units});
+  const bool is_bmp = tag == kBmpTag;
+  if (is_bmp && content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
+  BYTE* const units = Take(is_bmp ? content.size : 2 * content.size);
   data_ = units;
-  size_ = static_cast<size_t>(end.sink.out - units);
+  size_ = posix::ReadUtf16Le(is_bmp ? CERT_RDN_BMP_STRING : CERT_RDN_UTF8_STRING, content, units);
   return true;
 }
 
