@@ -26,7 +26,7 @@ Outcome AttributeType::Read(const char* text) {
   }
   key_ = type;
   const AttributeRow* row = nullptr;
-  if (ResolveType(type, &row) && row != nullptr) dotted_ = row->oid;
+  if (TypeResolver().Resolve(type, &row) && row != nullptr) dotted_ = row->oid;
   return Done();
 }
 

@@ -33,10 +33,18 @@ DWORD WinErrorOf(Status status) {
   return status == Status::kOk ? ERROR_SUCCESS : ASNTStatusToWinError(ToCode(status));
 }
 
+// The text ends at its first NUL, which is looked for only where the whole is no identifier.
+Status ReadIdentifier(std::string_view text, SmallBuffer<BYTE, kMaxOidContent>* content) {
+  const Status status = ParseOid(text, content);
+  if (status == Status::kOk) return status;
+  const size_t end = text.find('\0');
+  return end != text.npos ? ParseOid(text.substr(0, end), content) : status;
+}
+
+// Leaves `record` as it is on failure.
 Status WriteRecord(const CertExtension& extension, IdentObj* record) {
-  std::string_view dotted = AsText(ByteView(extension.oid));
   SmallBuffer<BYTE, kMaxOidContent> oid;
-  const Status status = ParseOid(dotted.substr(0, dotted.find('\0')), &oid);
+  const Status status = ReadIdentifier(AsText(ByteView(extension.oid)), &oid);
   if (status != Status::kOk) return status;
   const ByteView critical(kCriticalElement,
                           extension.critical != 0 ? std::size(kCriticalElement) : 0);
@@ -178,9 +186,8 @@ DWORD DecodeFrom(const CZEPFile& file, uint64_t position, DWORD limit, CertExten
 
 IdentObj CertExtension::WriteData(int* error) {
   IdentObj record;
-  const DWORD code = Encode(*this, &record);
-  ReportCode(code, error);
-  return code == ERROR_SUCCESS ? std::move(record) : IdentObj();
+  ReportCode(Encode(*this, &record), error);
+  return record;
 }
 
 DWORD CertExtension::WriteData(CZEPFile& file, int* error) const {

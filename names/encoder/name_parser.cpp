@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "names/encoder/trim.h"
-#include "names/encoder/type_resolver.h"
 
 namespace Ortholan {
 namespace {
@@ -56,7 +55,7 @@ void NameParser<Char>::AppendElem() {
 template <typename Char>
 bool NameParser<Char>::Parse_ElemType() {
   type_ = Trimmed(token_);
-  return ResolveType(type_, &row_) || Refuse(NameTextFault::kUnknownType, type_);
+  return types_.Resolve(type_, &row_) || Refuse(NameTextFault::kUnknownType, type_);
 }
 
 template <typename Char>
@@ -69,8 +68,8 @@ void NameParser<Char>::Parse_ElemValue() {
 
 template <typename Char>
 bool NameParser<Char>::Parse_ElemComponents() {
-  if (!GetToken()) return true;
-  if (kind_ != TokenKind::kEquals) return RefuseToken(NameTextFault::kMissingEquals);
+  // The type was read up to its "=".
+  if (++next_; AtEnd()) return true;
   // Where the type was not resolved this reads another type, which is no value either.
   if (!GetToken()) return true;
   if (kind_ != TokenKind::kValue) return RefuseForValue();
@@ -111,9 +110,10 @@ bool NameParser<Char>::GetToken() {
 template <typename Char>
 bool NameParser<Char>::ReadType() {
   kind_ = TokenKind::kType;
-  const Char* const first = next_;
-  while (!AtEnd() && *next_ != Char('=')) ++next_;
-  token_ = {first, static_cast<size_t>(next_ - first)};
+  const Char* end = next_;
+  while (end != end_ && *end != Char('=')) ++end;
+  token_ = {next_, static_cast<size_t>(end - next_)};
+  next_ = end;
   return !AtEnd();
 }
 

@@ -14,6 +14,7 @@
 #include "foundation/chunked_list.h"
 #include "names/attribute_table.h"
 #include "names/encoder/char_class.h"
+#include "names/encoder/type_resolver.h"
 #include "names/encoder/value_chars.h"
 
 namespace Ortholan {
@@ -123,6 +124,7 @@ class NameParser {
   const Char* next_;
   const Char* end_;
   const ValueChars& chars_;
+  const TypeResolver types_;
   TokenKind kind_ = TokenKind::kEnd;
   View token_;
   unsigned token_classes_ = 0;  // of a value token, as far as they are known

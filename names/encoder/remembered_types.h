@@ -8,16 +8,16 @@
 #include <type_traits>
 
 #include "names/attribute_table.h"
-#include "platform/calls.h"
 
 namespace Ortholan {
 
-// A slot is one word, which holds the text, the row and the version of the platform's answers.
+// A slot is one word, which holds the key and the row.
 class RememberedTypes {
  public:
-  // A key of the text and the version; 0 for a text that is not remembered.
+  // A key of the text and the version of the platform's answers; 0 for a text that is not
+  // remembered.
   template <typename Char>
-  static uint64_t Pack(std::basic_string_view<Char> text) {
+  static uint64_t KeyOf(std::basic_string_view<Char> text, uint16_t version) {
     if (text.empty() || text.size() > kLongest) return 0;
     uint64_t packed = 0;
     for (const Char c : text) {
@@ -25,19 +25,18 @@ class RememberedTypes {
       if (static_cast<std::make_unsigned_t<Char>>(c) - 1u >= 0x7Fu) return 0;
       packed = packed << 8 | static_cast<uint64_t>(c);
     }
-    return packed << kTextShift | AttributeInfoVersion();
+    return packed << kTextShift | version;
   }
   // Null where the key was not kept.
-  const AttributeRow* Find(uint64_t packed) const {
-    const uint64_t word = slots_[SlotOf(packed)].load(std::memory_order_relaxed);
-    return packed != 0 && (word & ~kRowMask) == packed
-               ? &kAttributes[(word & kRowMask) >> kRowShift]
-               : nullptr;
+  const AttributeRow* Find(uint64_t key) const {
+    const uint64_t word = slots_[SlotOf(key)].load(std::memory_order_relaxed);
+    return key != 0 && (word & ~kRowMask) == key ? &kAttributes[(word & kRowMask) >> kRowShift]
+                                                 : nullptr;
   }
-  void Keep(uint64_t packed, const AttributeRow* row) {
-    if (packed == 0) return;
+  void Keep(uint64_t key, const AttributeRow* row) {
+    if (key == 0) return;
     const auto place = static_cast<uint64_t>(row - kAttributes);
-    slots_[SlotOf(packed)].store(packed | place << kRowShift, std::memory_order_relaxed);
+    slots_[SlotOf(key)].store(key | place << kRowShift, std::memory_order_relaxed);
   }
 
  private:
@@ -47,8 +46,8 @@ class RememberedTypes {
   static constexpr uint64_t kRowMask = 0xFF0000;
   static constexpr size_t kSlots = 64;
 
-  static size_t SlotOf(uint64_t packed) {
-    return static_cast<size_t>((packed >> kTextShift) * 0x9E3779B97F4A7C15u >> 58);
+  static size_t SlotOf(uint64_t key) {
+    return static_cast<size_t>((key >> kTextShift) * 0x9E3779B97F4A7C15u >> 58);
   }
 
   std::atomic<uint64_t> slots_[kSlots] = {};

@@ -4,7 +4,6 @@
 #include <type_traits>
 
 #include "foundation/ascii.h"
-#include "names/encoder/remembered_types.h"
 #include "platform/calls.h"
 
 namespace Ortholan {
@@ -91,7 +90,7 @@ std::string_view ToForm(std::basic_string_view<Char> text, char* form) {
 }
 
 template <typename Char>
-bool Resolve(std::basic_string_view<Char> text, const AttributeRow** row) {
+bool ResolveWhole(std::basic_string_view<Char> text, const AttributeRow** row) {
   *row = nullptr;
   wchar_t key[kTypeTextLimit];
   if (text.empty() || text.size() >= kTypeTextLimit || !ToKey(text, key)) return false;
@@ -109,13 +108,14 @@ bool Resolve(std::basic_string_view<Char> text, const AttributeRow** row) {
 RememberedTypes remembered_types;
 
 template <typename Char>
-bool ResolveAfresh(std::basic_string_view<Char> text, const AttributeRow** row) {
-  const bool resolved = Resolve(text, row);
-  if (*row != nullptr) remembered_types.Keep(RememberedTypes::Pack(text), *row);
+bool TypeResolver::ResolveAfresh(std::basic_string_view<Char> text, uint64_t key,
+                                 const AttributeRow** row) {
+  const bool resolved = ResolveWhole(text, row);
+  if (*row != nullptr) remembered_types.Keep(key, *row);
   return resolved;
 }
-template bool ResolveAfresh(std::string_view, const AttributeRow**);
-template bool ResolveAfresh(std::wstring_view, const AttributeRow**);
+template bool TypeResolver::ResolveAfresh(std::string_view, uint64_t, const AttributeRow**);
+template bool TypeResolver::ResolveAfresh(std::wstring_view, uint64_t, const AttributeRow**);
 
 std::string ListKeywords() {
   std::string list;

@@ -2,27 +2,40 @@
 #ifndef ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_
 #define ORTHOLAN_NAMES_ENCODER_TYPE_RESOLVER_H_
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "names/attribute_table.h"
 #include "names/encoder/remembered_types.h"
+#include "platform/calls.h"
 
 namespace Ortholan {
 
-// The whole rule, and keeps what short text resolved to.
-template <typename Char>
-bool ResolveAfresh(std::basic_string_view<Char> text, const AttributeRow** row);
+// Resolves the types of one text.
+class TypeResolver {
+ public:
+  TypeResolver() : version_(AttributeInfoVersion()) {}
 
-// Resolves trimmed type text: a name that the platform knows, then a keyword in any letter case or
-// the dotted identifier of a row of kAttributes. False: refused. True with a null row: not
-// resolved, which the length of the text alone decides. The last error is left alone. 8-bit text is
-// ASCII.
-template <typename Char>
-inline bool ResolveType(std::basic_string_view<Char> text, const AttributeRow** row) {
-  *row = remembered_types.Find(RememberedTypes::Pack(text));
-  return *row != nullptr || ResolveAfresh(text, row);
-}
+  // Resolves trimmed type text: a name that the platform knows, then a keyword in any letter case
+  // or the dotted identifier of a row of kAttributes. False: refused. True with a null row: not
+  // resolved, which the length of the text alone decides. The last error is left alone. 8-bit text
+  // is ASCII.
+  template <typename Char>
+  bool Resolve(std::basic_string_view<Char> text, const AttributeRow** row) const {
+    const uint64_t key = RememberedTypes::KeyOf(text, version_);
+    *row = remembered_types.Find(key);
+    return *row != nullptr || ResolveAfresh(text, key, row);
+  }
+
+ private:
+  // The whole rule, without what is remembered; keeps what the key's text resolved to.
+  template <typename Char>
+  static bool ResolveAfresh(std::basic_string_view<Char> text, uint64_t key,
+                            const AttributeRow** row);
+
+  uint16_t version_;
+};
 
 // The keywords of kAttributes, with ", " between them.
 std::string ListKeywords();
