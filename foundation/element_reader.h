@@ -8,6 +8,8 @@
 #ifndef ORTHOLAN_FOUNDATION_ELEMENT_READER_H_
 #define ORTHOLAN_FOUNDATION_ELEMENT_READER_H_
 
+#include <algorithm>
+
 #include "foundation/byte_view.h"
 #include "foundation/element_header.h"
 #include "foundation/status_code.h"
@@ -49,6 +51,8 @@ class ElementReader {
   const Fault& fault() const { return fault_; }
   // Octets consumed, counted from the start of the outer element.
   size_t position() const { return position_; }
+  // Octets of the outer element that are still to come, as far as the buffer has them.
+  size_t rest() const { return std::min(end_, buffer_.size) - position_; }
 
  private:
   static constexpr const char* kSplitFault = "ASNTGetSequence";

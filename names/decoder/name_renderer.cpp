@@ -89,7 +89,8 @@ bool NameRenderer::Render(ByteView name) {
   bool rendered = true;
   ElementReader reader(name);
   for (Element rdn; reader.Next(&rdn);) {
-    rendered = rendered && RenderRdn(rdn.bytes, name.size - reader.position());
+    left_ = reader.rest();
+    rendered = rendered && RenderRdn(rdn.bytes);
   }
   if (!reader.fault()) return rendered;
   ascii_.clear();
@@ -97,13 +98,12 @@ bool NameRenderer::Render(ByteView name) {
   return FailWith(reader.fault().status);
 }
 
-// `left` is the number of octets behind the RDN.
-bool NameRenderer::RenderRdn(ByteView rdn, size_t left) {
+bool NameRenderer::RenderRdn(ByteView rdn) {
   if (!is_wide_) {
     if (RenderAscii(rdn)) return true;
     SwitchToWide();
     // About what the rest needs: an RDN's octets beside its text are as many as its key.
-    wide_.reserve(wide_.size() + rdn.size + left);
+    wide_.reserve(wide_.size() + rdn.size + left_);
   }
   return RenderWide(rdn);
 }
@@ -111,6 +111,11 @@ bool NameRenderer::RenderRdn(ByteView rdn, size_t left) {
 void NameRenderer::MoveTo(std::wstring* out) {
   if (is_wide_) {
     out->swap(wide_);
+    return;
+  }
+  if (ascii_.size() > out->capacity()) {
+    // In one pass: a string that grows is filled with zeros first.
+    std::wstring(ascii_.begin(), ascii_.end()).swap(*out);
     return;
   }
   out->clear();
@@ -179,6 +184,7 @@ bool NameRenderer::AppendAsciiValue(const Element& child) {
   const size_t size = decoded.size();
   const size_t start = ascii_.size();
   unsigned classes = 0;
+  ascii_.Reserve(start + size + left_);
   char* const value = ascii_.Extend(size);
   if (!CopyAscii(reinterpret_cast<const char*>(decoded.data()), size, value, &classes)) {
     return false;

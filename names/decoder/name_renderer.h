@@ -34,7 +34,7 @@ class NameRenderer {
   const std::wstring& wide() const { return wide_; }
 
  private:
-  bool RenderRdn(ByteView rdn, size_t left);
+  bool RenderRdn(ByteView rdn);
   bool RenderWide(ByteView rdn);
   bool RenderAscii(ByteView rdn);
   bool AppendAsciiType(ByteView content);
@@ -48,6 +48,7 @@ class NameRenderer {
   DWORD style_;
   std::string_view separator_;
   bool is_wide_;
+  size_t left_ = 0;  // octets of the name behind the RDN that is rendered
   SmallBuffer<char, 1024> ascii_;
   std::wstring wide_;
 };

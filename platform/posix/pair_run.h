@@ -1,5 +1,4 @@
-// Four characters of two UTF-8 bytes each, such as Greek and Cyrillic letters, converted at once:
-// lanes of 16 bits in one word, the first character in the lowest.
+// Four characters of two UTF-8 bytes each, such as Greek and Cyrillic letters, converted at once.
 
 #ifndef ORTHOLAN_PLATFORM_POSIX_PAIR_RUN_H_
 #define ORTHOLAN_PLATFORM_POSIX_PAIR_RUN_H_
@@ -9,25 +8,11 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "platform/posix/lanes.h"
+
 namespace Ortholan::posix {
 
-inline constexpr std::size_t kPairRun = 4;
-
-constexpr std::uint64_t EachLane(std::uint64_t lane) { return lane * 0x0001000100010001; }
-
-// Compilers make one load and one store of these.
-inline std::uint64_t LoadLanes(const BYTE* bytes) {
-  const auto at = [bytes](unsigned i) { return static_cast<std::uint64_t>(bytes[i]) << (8 * i); };
-  return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);
-}
-inline void StoreLanes(std::uint64_t lanes, BYTE* bytes) {
-  for (unsigned i = 0; i < 8; ++i) bytes[i] = static_cast<BYTE>(lanes >> (8 * i));
-}
-
-// Whether every lane is at least `least`; the top bits of the lanes are clear.
-constexpr bool AllReach(std::uint64_t lanes, std::uint64_t least) {
-  return ((lanes + EachLane(0x8000 - least)) & EachLane(0x8000)) == EachLane(0x8000);
-}
+inline constexpr std::size_t kPairRunBytes = 2 * kLanes;
 
 // Two bytes a lane, the lead lowest. A lead is C2 to DF, a follower 80 to BF.
 constexpr bool ArePairs(std::uint64_t pairs) {
@@ -44,6 +29,15 @@ constexpr bool ArePairUnits(std::uint64_t units) {
 constexpr std::uint64_t PairsOfUnits(std::uint64_t units) {
   return EachLane(0x80C0) | (units >> 6 & EachLane(0x1F)) | (units & EachLane(0x3F)) << 8;
 }
+
+// False, with nothing read, where the eight bytes are no such characters.
+inline bool ReadPairRun(const BYTE* text, std::uint64_t* units) {
+  const std::uint64_t pairs = LoadLanes(text);
+  if (!ArePairs(pairs)) return false;
+  *units = UnitsOfPairs(pairs);
+  return true;
+}
+inline void WritePairRun(std::uint64_t units, BYTE* out) { StoreLanes(PairsOfUnits(units), out); }
 
 }  // namespace Ortholan::posix
 

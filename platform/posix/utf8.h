@@ -10,7 +10,9 @@
 #include <cstdint>
 #include <cstring>
 
+#include "platform/posix/lanes.h"
 #include "platform/posix/pair_run.h"
+#include "platform/posix/triple_run.h"
 
 namespace Ortholan::posix {
 
@@ -38,7 +40,7 @@ struct WideSource {
   bool ReadLanes(std::size_t at, std::uint64_t* lanes) const {
     std::uint32_t seen = 0;
     *lanes = 0;
-    for (std::size_t i = 0; i < kPairRun; ++i) {
+    for (std::size_t i = 0; i < kLanes; ++i) {
       const std::uint32_t unit = (*this)[at + i];
       seen |= unit;
       *lanes |= static_cast<std::uint64_t>(unit) << (16 * i);
@@ -84,7 +86,7 @@ struct UnitCounter {
     return true;
   }
   bool PutUnits(std::uint64_t) {
-    size += kPairRun;
+    size += kLanes;
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -104,11 +106,11 @@ struct WideWriter {
     return true;
   }
   bool PutUnits(std::uint64_t lanes) {
-    if (room < kPairRun) return false;
-    for (std::size_t i = 0; i < kPairRun; ++i) {
+    if (room < kLanes) return false;
+    for (std::size_t i = 0; i < kLanes; ++i) {
       out[i] = static_cast<wchar_t>(lanes >> (16 * i) & 0xFFFF);
     }
-    Advance(kPairRun);
+    Advance(kLanes);
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -144,7 +146,7 @@ struct LittleEndianWriter {
   }
   bool PutUnits(std::uint64_t lanes) {
     StoreLanes(lanes, out);
-    out += 2 * kPairRun;
+    out += 2 * kLanes;
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -173,10 +175,17 @@ struct ByteWriter {
     Advance(kRun);
     return true;
   }
-  bool PutPairs(std::uint64_t lanes) {
-    if (room < 2 * kPairRun) return false;
-    StoreLanes(lanes, out);
-    Advance(2 * kPairRun);
+  // Units of two or of three bytes each.
+  bool PutPairs(std::uint64_t units) {
+    if (room < kPairRunBytes) return false;
+    WritePairRun(units, out);
+    Advance(kPairRunBytes);
+    return true;
+  }
+  bool PutTriples(std::uint64_t units) {
+    if (room < kTripleRunBytes) return false;
+    WriteTripleRun(units, out);
+    Advance(kTripleRunBytes);
     return true;
   }
   bool Put(std::uint32_t scalar) {
@@ -278,10 +287,16 @@ Converted<Sink> FromUtf8(const BYTE* text, std::size_t size, Sink sink) {
         i += kRun;
         continue;
       }
-    } else if (size - i >= 2 * kPairRun) {
-      const std::uint64_t pairs = LoadLanes(text + i);
-      if (ArePairs(pairs) && sink.PutUnits(UnitsOfPairs(pairs))) {
-        i += 2 * kPairRun;
+    } else if (text[i] < 0xE0 && size - i >= kPairRunBytes) {
+      std::uint64_t units;
+      if (ReadPairRun(text + i, &units) && sink.PutUnits(units)) {
+        i += kPairRunBytes;
+        continue;
+      }
+    } else if (size - i >= kTripleRunBytes) {
+      std::uint64_t units;
+      if (ReadTripleRun(text + i, &units) && sink.PutUnits(units)) {
+        i += kTripleRunBytes;
         continue;
       }
     }
@@ -308,11 +323,11 @@ Converted<Sink> ToUtf8(Source text, std::size_t size, Sink sink) {
         i += kRun;
         continue;
       }
-    } else if (size - i >= kPairRun) {
+    } else if (size - i >= kLanes) {
       std::uint64_t units;
-      const bool read = text.ReadLanes(i, &units);
-      if (read && ArePairUnits(units) && sink.PutPairs(PairsOfUnits(units))) {
-        i += kPairRun;
+      if (text.ReadLanes(i, &units) && ((ArePairUnits(units) && sink.PutPairs(units)) ||
+                                        (AreTripleUnits(units) && sink.PutTriples(units)))) {
+        i += kLanes;
         continue;
       }
     }
@@ -328,26 +343,42 @@ Converted<Sink> ToUtf8(Source text, std::size_t size, Sink sink) {
   return {sink, true, broken};
 }
 
-// Bytes that ToUtf8 writes. A unit takes one to three, a wide character beyond the units four; two
-// surrogates that belong together take four instead of twice three, and whatever is replaced takes
-// three, as U+FFFD does.
+// What the units from `first` to `end` take above two bytes each. A wide character beyond the units
+// takes four, two surrogates that belong together four instead of twice three.
+template <class Source>
+std::size_t LongUtf8Size(Source text, std::size_t first, std::size_t end) {
+  std::uint32_t more = 0;
+  std::uint32_t lows = 0;
+  for (std::size_t i = first; i < end; ++i) {
+    const std::uint32_t unit = text[i];
+    more += (unit >= 0x800 ? 1u : 0u) + (unit - 0x10000 <= kLastScalar - 0x10000 ? 1u : 0u);
+    lows += IsLowSurrogate(unit) ? 1u : 0u;
+  }
+  std::size_t bytes = more;
+  if (lows == 0) return bytes;
+  for (std::size_t i = first != 0 ? first : 1; i < end; ++i) {
+    bytes -= IsHighSurrogate(text[i - 1]) && IsLowSurrogate(text[i]) ? 2u : 0u;
+  }
+  return bytes;
+}
+
+// Bytes that ToUtf8 writes; whatever is replaced takes three, as U+FFFD does. No branch in the
+// inner loops: the compiler takes many units at a time.
 template <class Source>
 std::size_t Utf8Size(Source text, std::size_t size) {
+  constexpr std::size_t kBlock = 4096;
   std::size_t bytes = size;
-  std::uint32_t before = 0;
-  for (std::size_t i = 0; i < size;) {
-    if (size - i >= kRun && IsAsciiRun(text, i)) {
-      i += kRun;
-      before = 0;
-      continue;
+  for (std::size_t i = 0; i < size; i += kBlock) {
+    const std::size_t end = size - i < kBlock ? size : i + kBlock;
+    std::uint32_t seen = 0;
+    std::uint32_t more = 0;
+    for (std::size_t k = i; k < end; ++k) {
+      const std::uint32_t unit = text[k];
+      seen |= unit;
+      more += unit >= 0x80 ? 1u : 0u;
     }
-    for (const std::size_t stop = size - i < kRun ? size : i + kRun; i < stop; ++i) {
-      const std::uint32_t unit = text[i];
-      bytes += (unit >= 0x80 ? 1u : 0u) + (unit >= 0x800 ? 1u : 0u);
-      bytes += unit - 0x10000 <= kLastScalar - 0x10000 ? 1u : 0u;
-      bytes -= IsHighSurrogate(before) && IsLowSurrogate(unit) ? 2u : 0u;
-      before = unit;
-    }
+    bytes += more;
+    if (seen >= 0x800) bytes += LongUtf8Size(text, i, end);
   }
   return bytes;
 }

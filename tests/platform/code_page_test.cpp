@@ -1,6 +1,7 @@
 // MultiByteToWideChar, WideCharToMultiByte, lstrlenA, lstrlenW.
 
 #include <climits>
+#include <vector>
 
 #include "tests/platform/contract.h"
 
@@ -325,6 +326,56 @@ TEST(Conversions, EveryCharacterComesBack) {
     wchar_t back[64];
     const int units = MultiByteToWideChar(CP_UTF8, 0, bytes, size, back, 64);
     ASSERT_EQ(Hex(std::wstring(back, static_cast<std::size_t>(units))), Hex(text)) << scalar;
+  }
+}
+
+std::wstring FromUtf8(const std::string& bytes) {
+  std::vector<wchar_t> out(bytes.size());
+  const int units = MultiByteToWideChar(CP_UTF8, 0, bytes.data(), static_cast<int>(bytes.size()),
+                                        out.data(), static_cast<int>(out.size()));
+  return {out.data(), static_cast<std::size_t>(units)};
+}
+
+std::string ToUtf8(const std::wstring& text) {
+  std::vector<char> out(4 * text.size());
+  const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                       out.data(), static_cast<int>(out.size()), nullptr, nullptr);
+  return {out.data(), static_cast<std::size_t>(size)};
+}
+
+template <typename Text>
+Text Around(const Text& odd, std::size_t before, const Text& usual) {
+  Text text;
+  for (std::size_t i = 0; i < 16; ++i) text += i == before ? odd : usual;
+  return text;
+}
+
+// A run of one kind is what its parts are one by one, whatever stands at any place in it: the first
+// and the last character of each length, and what is no character.
+TEST(Conversions, RunsAreTheirPartsOneByOne) {
+  const std::string kUsual[] = {"a", "\xD0\xB6", "\xE4\xB8\xAD", "\xF0\x9F\x98\x80"};
+  const std::string kOdd[] = {
+      "\x7F",         "\xC2\x80",     "\xDF\xBF",         "\xE0\xA0\x80",
+      "\xED\x9F\xBF", "\xEE\x80\x80", "\xEF\xBF\xBF",     "\xF4\x8F\xBF\xBF",
+      "\xC1\xBF",     "\xE0\x9F\xBF", "\xED\xA0\x80",     "\xED\xBF\xBF",
+      "\xE4\xB8",     "\xD0",         "\xF4\x90\x80\x80", "\x80"};
+  for (const std::string& usual : kUsual) {
+    for (const std::string& odd : kOdd) {
+      for (std::size_t before = 0; before < 16; ++before) {
+        EXPECT_EQ(Hex(FromUtf8(Around(odd, before, usual))),
+                  Hex(Around(FromUtf8(odd), before, FromUtf8(usual))));
+      }
+    }
+  }
+  const wchar_t kOddUnits[] = {0x7F, 0x80, 0x7FF, 0x800, 0xD7FF, 0xD800, 0xDFFF, 0xE000, 0xFFFF};
+  for (const std::string& usual : kUsual) {
+    for (const wchar_t odd : kOddUnits) {
+      const std::wstring unit(1, odd);
+      for (std::size_t before = 0; before < 16; ++before) {
+        EXPECT_EQ(ToUtf8(Around(unit, before, FromUtf8(usual))),
+                  Around(ToUtf8(unit), before, usual));
+      }
+    }
   }
 }
 

@@ -1,0 +1,34 @@
+// Four UTF-16 units in one word, the first in the lowest 16 bits: runs of characters are converted
+// that many at a time.
+
+#ifndef ORTHOLAN_PLATFORM_POSIX_LANES_H_
+#define ORTHOLAN_PLATFORM_POSIX_LANES_H_
+
+#include <ortholan/platform.h>
+
+#include <cstddef>
+#include <cstdint>
+
+namespace Ortholan::posix {
+
+inline constexpr std::size_t kLanes = 4;
+
+constexpr std::uint64_t EachLane(std::uint64_t lane) { return lane * 0x0001000100010001; }
+
+// Whether every lane is at least `least`; the top bits of the lanes are clear.
+constexpr bool AllReach(std::uint64_t lanes, std::uint64_t least) {
+  return ((lanes + EachLane(0x8000 - least)) & EachLane(0x8000)) == EachLane(0x8000);
+}
+
+// Compilers make one load and one store of these.
+inline std::uint64_t LoadLanes(const BYTE* bytes) {
+  const auto at = [bytes](unsigned i) { return static_cast<std::uint64_t>(bytes[i]) << (8 * i); };
+  return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);
+}
+inline void StoreLanes(std::uint64_t lanes, BYTE* bytes) {
+  for (unsigned i = 0; i < 8; ++i) bytes[i] = static_cast<BYTE>(lanes >> (8 * i));
+}
+
+}  // namespace Ortholan::posix
+
+#endif  // ORTHOLAN_PLATFORM_POSIX_LANES_H_
