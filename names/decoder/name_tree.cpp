@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "foundation/status_code.h"
+#include "names/decoder/attribute_chain.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/structured_value.h"
 #include "names/decoder/type_name.h"
@@ -11,43 +12,28 @@
 namespace Ortholan {
 namespace {
 
-void FreeAttribute(CERT_RDN_ATTR* attr) {
-  delete[] attr->pszObjId;
-  delete[] attr->Value.pbData;
-  attr->pszObjId = nullptr;
-  attr->Value.pbData = nullptr;
-  attr->Value.cbData = 0;
-}
-
-void FreeRdn(CERT_RDN* rdn) {
-  if (rdn->cRDNAttr != 0 && rdn->rgRDNAttr != nullptr) {
-    for (DWORD i = 0; i < rdn->cRDNAttr; ++i) FreeAttribute(&rdn->rgRDNAttr[i]);
-    delete[] rdn->rgRDNAttr;
-  }
-  rdn->cRDNAttr = 0;
-  rdn->rgRDNAttr = nullptr;
-}
+using Attribute = AttributeChain::Link;
 
 template <typename Identifier>
-bool FillType(const Identifier& identifier, CERT_RDN_ATTR* attr) {
+bool FillType(const Identifier& identifier, Attribute* attr) {
   TypeText type;
   if (!DecodeAttrOid(identifier, &type)) return false;
-  attr->pszObjId = new char[type.dotted().size() + 1];
-  *std::copy(type.dotted().begin(), type.dotted().end(), attr->pszObjId) = '\0';
+  attr->identifier = new char[type.dotted().size() + 1];
+  *std::copy(type.dotted().begin(), type.dotted().end(), attr->identifier) = '\0';
   return true;
 }
 
-bool FillValue(const Element& child, StructuredValue* value, CERT_RDN_ATTR* attr) {
+bool FillValue(const Element& child, StructuredValue* value, Attribute* attr) {
   if (!value->Read(child)) return false;
-  BYTE* const bytes = new BYTE[value->size()];
-  value->Write(bytes);
-  attr->dwValueType = value->type();
-  attr->Value = {value->size(), bytes};
+  attr->value = new BYTE[value->size()];
+  attr->value_size = value->size();
+  attr->value_type = value->type();
+  value->Write(attr->value);
   return true;
 }
 
 // What stands before the child that fails stays in the tree.
-bool DecodeElem(ByteView rdn, StructuredValue* value, CERT_RDN_ATTR* attr) {
+bool DecodeElem(ByteView rdn, StructuredValue* value, Attribute* attr) {
   PlainAttribute plain;
   if (SplitPlainRdn(rdn, &plain)) {
     return FillType(plain.type, attr) && FillValue(plain.value, value, attr);
@@ -66,15 +52,22 @@ bool DecodeElem(ByteView rdn, StructuredValue* value, CERT_RDN_ATTR* attr) {
   return true;
 }
 
-// An array of `count` zeroed RDNs, each with room for one attribute.
-void AllocateTree(DWORD count, CERT_NAME_INFO* info) {
+// Gives each of the chain's attributes an RDN.
+void MakeRdns(DWORD count, AttributeChain* chain, CERT_NAME_INFO* info) {
   if (count == 0) return;
-  info->rgRDN = new CERT_RDN[count]();
+  info->rgRDN = new CERT_RDN[count];
   info->cRDN = count;
-  for (DWORD i = 0; i < count; ++i) {
-    info->rgRDN[i].rgRDNAttr = new CERT_RDN_ATTR[1]();
-    info->rgRDN[i].cRDNAttr = 1;
+  for (DWORD i = 0; i < count; ++i) info->rgRDN[i] = {1, chain->Take()};
+}
+
+// Moves the RDN's first attribute to the chain and releases what the others hold.
+void ReleaseRdn(const CERT_RDN& rdn, AttributeChain* chain) {
+  if (rdn.cRDNAttr == 0 || rdn.rgRDNAttr == nullptr) return;
+  for (DWORD i = 1; i < rdn.cRDNAttr; ++i) {
+    delete[] rdn.rgRDNAttr[i].pszObjId;
+    delete[] rdn.rgRDNAttr[i].Value.pbData;
   }
+  chain->Append(rdn.rgRDNAttr);
 }
 
 }  // namespace
@@ -84,8 +77,9 @@ CertNameInfoWrapper::~CertNameInfoWrapper() { Clean(); }
 CertNameInfoWrapper::operator CERT_NAME_INFO*() noexcept { return &info_; }
 
 void CertNameInfoWrapper::Clean() {
+  AttributeChain chain;
   if (info_.cRDN != 0 && info_.rgRDN != nullptr) {
-    for (DWORD i = 0; i < info_.cRDN; ++i) FreeRdn(&info_.rgRDN[i]);
+    for (DWORD i = 0; i < info_.cRDN; ++i) ReleaseRdn(info_.rgRDN[i], &chain);
     delete[] info_.rgRDN;
   }
   info_.cRDN = 0;
@@ -97,15 +91,16 @@ bool X500NameDecoder::Decode(const IdentObj& name, CertNameInfoWrapper& info) {
   size_t count = 0;
   if (bytes.empty() || CountChildren(bytes, &count) != Status::kOk) return false;
   info.Clean();
-  CERT_NAME_INFO* tree = info;
-  AllocateTree(static_cast<DWORD>(count), tree);
+  bool decoded = true;
+  AttributeChain chain;
   StructuredValue value;
   ElementReader reader(bytes);
-  Element rdn;
-  for (DWORD i = 0; reader.Next(&rdn); ++i) {
-    if (!DecodeElem(rdn.bytes, &value, &tree->rgRDN[i].rgRDNAttr[0])) return false;
+  for (Element rdn; reader.Next(&rdn);) {
+    Attribute* const attr = chain.Add();
+    decoded = decoded && DecodeElem(rdn.bytes, &value, attr);
   }
-  return true;
+  MakeRdns(static_cast<DWORD>(count), &chain, info);
+  return decoded;
 }
 
 }  // namespace Ortholan
