@@ -83,9 +83,12 @@ TEST(NameTree, CleansWhatItCounts) {
     EXPECT_EQ(tree->cRDN, 0u);
     EXPECT_EQ(tree->rgRDN, nullptr);
   }
-  // A tree that a caller has built is released with the wrapper.
-  char* const oid = new char[2]{'1', '\0'};
-  *tree = {1, new CERT_RDN[1]{{1, new CERT_RDN_ATTR[1]{{oid, 4, {1, new BYTE[1]{'a'}}}}}}};
+  // A tree that a caller has built is released with the wrapper, all attributes of an RDN too.
+  const auto attribute = [](BYTE value) {
+    return CERT_RDN_ATTR{new char[2]{'1', '\0'}, 4, {1, new BYTE[1]{value}}};
+  };
+  *tree = {2, new CERT_RDN[2]{{3, new CERT_RDN_ATTR[3]{attribute('a'), attribute('b'), {}}},
+                              {1, new CERT_RDN_ATTR[1]{attribute('c')}}}};
 }
 
 }  // namespace
