@@ -69,12 +69,10 @@ void Add(const Case& c, Operation operation) {
         state.counters["allocs"] = benchmark::Counter(
             static_cast<double>(AllocationCount() - before), benchmark::Counter::kAvgIterations);
       });
-  if (c.threads) {
-    added->Threads(1)->Threads(2)->UseRealTime()->Repetitions(kThreadRepetitions);
-    added->ComputeStatistics("fastest", [](const std::vector<double>& times) {
-      return *std::min_element(times.begin(), times.end());
-    });
-  }
+  added->ComputeStatistics("fastest", [](const std::vector<double>& times) {
+    return *std::min_element(times.begin(), times.end());
+  });
+  if (c.threads) added->Threads(1)->Threads(2)->UseRealTime()->Repetitions(kThreadRepetitions);
 }
 
 // Has the file that it stands in add its cases before the program measures.

@@ -15,7 +15,7 @@ native=build/bench/bench_names.json
 windows=build/bench/crypt32.json
 load=$(cut -d ' ' -f 1 /proc/loadavg)
 # In turns, so that what else the machine does falls on all alike.
-build/bench/bench_names --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true \
+build/bench/bench_names --benchmark_repetitions=9 --benchmark_enable_random_interleaving=true \
   --benchmark_min_time=0.05 --benchmark_report_aggregates_only=true \
   --benchmark_out="$native" --benchmark_out_format=json >/dev/null
 scripts/wine.sh run build/bench-windows/wine build/bench-windows/bench_crypt32.exe >"$windows"
