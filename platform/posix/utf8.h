@@ -300,15 +300,17 @@ Converted<Sink> FromUtf8(const BYTE* text, std::size_t size, Sink sink) {
         continue;
       }
     }
-    // Where there was no run the next few characters are taken one by one.
+    // Where there was no run the next few characters are taken one by one, at most to where ASCII
+    // begins or ends: another kind of run may start there.
     const std::size_t stop = size - i < kRun ? size : i + kRun;
-    while (i < stop) {
+    const bool is_ascii = text[i] < 0x80;
+    do {
       std::size_t count;
       const std::uint32_t scalar = ReadUtf8(text + i, size - i, &count);
       broken |= scalar == kBroken;
       if (!sink.Put(scalar != kBroken ? scalar : kReplacement)) return {sink, false, broken};
       i += count;
-    }
+    } while (i < stop && (text[i] < 0x80) == is_ascii);
   }
   return {sink, true, broken};
 }
