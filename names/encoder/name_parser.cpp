@@ -154,9 +154,13 @@ auto NameParser<Char>::Unescape(View quoted, size_t doubled) -> View {
   const size_t size = quoted.size() - doubled;
   Char* const copy = unescaped_.Take<Char>(size);
   Char* out = copy;
-  for (size_t i = 0; i < quoted.size(); ++i) {
-    *out++ = quoted[i];
-    if (quoted[i] == Char(kQuote)) ++i;
+  for (size_t start = 0; start < quoted.size();) {
+    const View rest = quoted.substr(start);
+    // Up to a quote, the first of two.
+    const View part = rest.substr(0, rest.find(Char(kQuote)) + 1);
+    const View kept = part.empty() ? rest : part;
+    out = std::copy(kept.begin(), kept.end(), out);
+    start += kept.size() + 1;
   }
   copies_.push_back({View(copy, size), quoted});
   return {copy, size};
