@@ -92,7 +92,7 @@ class NameParser {
  private:
   enum class TokenKind { kEnd, kType, kValue, kDelimiter, kEquals };
 
-  bool IsElementDelimiter(Char c) const { return chars_.End(c); }
+  bool IsElementDelimiter(Char c) const { return chars_.Ends(c); }
   bool AtEnd() const { return next_ == end_; }
   View Rest() const { return {next_, static_cast<size_t>(end_ - next_)}; }
 

@@ -87,7 +87,7 @@ void CutAtDelimiter(DWORD options, Found* found) {
   }
   const ValueChars& chars = ValueCharsFor(options);
   const auto delimiter = std::find_if(found->stop.begin(), found->stop.end(),
-                                      [&chars](wchar_t c) { return chars.End(c); });
+                                      [&chars](wchar_t c) { return chars.Ends(c); });
   if (delimiter == found->stop.end()) return;
   found->fault = NameTextFault::kMissingEquals;
   found->stop = found->stop.substr(0, static_cast<size_t>(delimiter - found->stop.begin()));
@@ -96,7 +96,7 @@ void CutAtDelimiter(DWORD options, Found* found) {
 // A backslash before the delimiters in front of `at`, as where somebody meant to escape them.
 bool FollowsBackslash(std::wstring_view text, const wchar_t* at, DWORD options) {
   const ValueChars& chars = ValueCharsFor(options);
-  while (at != text.data() && (IsTrimmed(at[-1]) || chars.End(at[-1]))) --at;
+  while (at != text.data() && (IsTrimmed(at[-1]) || chars.Ends(at[-1]))) --at;
   return at != text.data() && at[-1] == L'\\';
 }
 

@@ -36,7 +36,7 @@ class ValueChars {
   }
 
   template <typename Char>
-  bool End(Char c) const {
+  bool Ends(Char c) const {
     return Of(c) >= 0;
   }
 
