@@ -5,17 +5,24 @@
 #include <ortholan/name_encoder.h>
 #include <ortholan/x509_name.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <list>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
+#include "foundation/code_page.h"
 #include "foundation/element_reader.h"
+#include "foundation/element_writer.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
 #include "names/decoder/attribute_elements.h"
+#include "names/decoder/attribute_walk.h"
 #include "names/decoder/name_renderer.h"
+#include "names/decoder/value_text.h"
 
 namespace Ortholan::fuzzing {
 namespace {
@@ -228,12 +235,58 @@ void CheckSimpleList(const X509Name& name) {
   }
 }
 
+// Some of a name's RDNs, as a name and as what tells them apart: each type with its value's text,
+// or with the value itself where that is none.
+struct Part {
+  X509Name name;
+  std::vector<std::wstring> keys;
+};
+
+Part PartOf(const std::vector<ByteView>& rdns) {
+  std::string content;
+  Part part;
+  for (const ByteView rdn : rdns) {
+    content += AsText(rdn);
+    DecodedAttribute attribute;
+    LAW(attribute.Read(rdn));
+    const ByteView value = attribute.value().bytes;
+    std::wstring text;
+    const bool decoded = DecodeAttrData(attribute.value(), &text);
+    if (!decoded) text.assign(value.begin(), value.end());
+    const std::string_view dotted = attribute.type().dotted();
+    part.keys.push_back(std::wstring(dotted.begin(), dotted.end()) + (decoded ? L'=' : L'#') +
+                        text);
+  }
+  std::sort(part.keys.begin(), part.keys.end());
+  std::vector<BYTE> der(static_cast<size_t>(ElementSize(content.size())));
+  WriteBytes(WriteHeader(der.data(), kSequenceOctet, content.size()),
+             AsBytes(content.data(), content.size()));
+  part.name = IdentObj(der.data(), static_cast<DWORD>(der.size()));
+  return part;
+}
+
+// Parts of one name in several orders are equal where they have the same keys.
+void CheckOrders(ByteView name) {
+  std::vector<ByteView> rdns;
+  ElementReader reader(name);
+  for (Element rdn; reader.Next(&rdn);) rdns.push_back(rdn.bytes);
+  const auto middle = rdns.begin() + static_cast<std::ptrdiff_t>(rdns.size() / 2);
+  std::vector<ByteView> turned(middle, rdns.end());
+  turned.insert(turned.end(), rdns.begin(), middle);
+  const Part parts[] = {PartOf(rdns), PartOf({rdns.rbegin(), rdns.rend()}), PartOf(turned),
+                        PartOf({rdns.begin(), middle}), PartOf({middle, rdns.end()})};
+  for (const Part& a : parts) {
+    for (const Part& b : parts) LAW((a.name == b.name) == (a.keys == b.keys));
+  }
+}
+
 void CheckComparison(const X509Name& name, bool has_tree) {
   bool equal = false;
   const X509Name copy(name);
   const std::string outcome = Outcome([&] { equal = name == copy; });
   LAW(outcome == (has_tree ? kReturned : kNameRefused));
   LAW(equal == has_tree);
+  if (has_tree) CheckOrders(ByteView(name));
 }
 
 // Encoding what was decoded, and decoding that, changes nothing more.

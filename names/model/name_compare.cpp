@@ -1,8 +1,9 @@
 // Equality of two names as multisets of decoded attributes.
 //
-// Each attribute becomes one key: dotted type, "=" and text, or dotted type, "#" and the octets of
-// a value that cannot be decoded. Keys have a total order, so that sorting both sides and comparing
-// them one by one is sound for every input.
+// Each attribute has a key: dotted type, "=" and text, or dotted type, "#" and the octets of a
+// value that cannot be decoded. Names are nearly always equal in the same order, so both are walked
+// side by side as long as their keys are the same; only what is left is gathered. Keys have a total
+// order, so that sorting both rests and comparing them one by one is sound for every input.
 #include <ortholan/x509_name.h>
 
 #include <algorithm>
@@ -21,16 +22,69 @@
 namespace Ortholan {
 namespace {
 
-// Calls `use` with the bytes of each RDN until it returns false; false then, and where the bytes
-// are no name. The empty object has none.
-template <typename Use>
-bool ForEachRdn(const X509Name& name, Use use) {
-  if (name.cbData == 0) return true;
-  ElementReader reader{ByteView(name)};
-  for (Element rdn; reader.Next(&rdn);) {
-    if (!use(rdn.bytes)) return false;
+// The RDNs of a name; the empty object has none.
+class RdnReader {
+ public:
+  explicit RdnReader(const X509Name& name) : empty_(name.cbData == 0), reader_(ByteView(name)) {}
+
+  bool Next(Element* rdn) { return reader_.Next(rdn); }
+  size_t rest() const { return reader_.rest(); }
+  // Whether all that was read so far is a name's.
+  bool IsName() const { return empty_ || !reader_.fault(); }
+
+ private:
+  bool empty_;
+  ElementReader reader_;
+};
+
+// The attributes of a name, one at a time.
+class AttributeReader {
+ public:
+  explicit AttributeReader(const X509Name& name) : rdns_(name) {}
+
+  // False behind the last one, and where there is none that can be read.
+  bool Next() {
+    Element rdn;
+    if (!rdns_.Next(&rdn)) return false;
+    octets_ = rdn.bytes.size;
+    readable_ = attribute_.Read(rdn.bytes);
+    return readable_;
   }
-  return !reader.fault();
+  const DecodedAttribute& attribute() const { return attribute_; }
+  // Octets from this attribute on.
+  size_t octets() const { return octets_ + rdns_.rest(); }
+  bool IsName() const { return readable_ && rdns_.IsName(); }
+
+ private:
+  RdnReader rdns_;
+  DecodedAttribute attribute_;
+  size_t octets_ = 0;
+  bool readable_ = true;
+};
+
+void AppendKey(const DecodedAttribute& attribute, std::wstring* text) {
+  AppendAscii(attribute.type().dotted(), text);
+  const size_t value = text->size();
+  text->push_back(L'=');
+  if (attribute.is_ascii()) {
+    AppendAscii(attribute.ascii(), text);
+  } else if (!DecodeAttrData(attribute.value(), text)) {
+    text->resize(value);
+    text->push_back(L'#');
+    const ByteView octets = attribute.value().bytes;
+    text->append(octets.begin(), octets.end());
+  }
+}
+
+// Whether two attributes have the same key, which most tell without making it.
+bool HaveSameKey(const DecodedAttribute& a, const DecodedAttribute& b) {
+  if (a.type().dotted() != b.type().dotted()) return false;
+  if (a.is_ascii() && b.is_ascii()) return a.ascii() == b.ascii();
+  if (SameBytes(a.value().bytes, b.value().bytes)) return true;
+  std::wstring keys[2];
+  AppendKey(a, &keys[0]);
+  AppendKey(b, &keys[1]);
+  return keys[0] == keys[1];
 }
 
 // Any total order will do; this one is by the characters' bytes, then by length.
@@ -40,17 +94,22 @@ int Order(std::wstring_view a, std::wstring_view b) {
   return a.size() < b.size() ? -1 : 1;
 }
 
+// What is left of a name, each attribute as its key.
 class Keys {
  public:
-  bool Read(const X509Name& name) {
-    text_.reserve(name.cbData);
-    return ForEachRdn(name, [this](ByteView rdn) {
-      DecodedAttribute attribute;
-      if (!attribute.Read(rdn)) return false;
-      Add(attribute);
-      return true;
-    });
+  // Takes the attribute that `from` stands at, if any, and all behind it. False where there is one
+  // that cannot be read.
+  bool Read(bool more, AttributeReader* from) {
+    if (more) text_.reserve(from->octets());
+    for (; more; more = from->Next()) {
+      const size_t start = text_.size();
+      AppendKey(from->attribute(), &text_);
+      *spans_.Extend(1) = {start, text_.size() - start};
+    }
+    return from->IsName();
   }
+
+  size_t size() const { return spans_.size(); }
 
   void Sort() {
     std::sort(spans_.begin(), spans_.end(),
@@ -69,22 +128,6 @@ class Keys {
     size_t length;
   };
 
-  void Add(const DecodedAttribute& attribute) {
-    const size_t start = text_.size();
-    AppendAscii(attribute.type().dotted(), &text_);
-    const size_t value = text_.size();
-    text_.push_back(L'=');
-    if (attribute.is_ascii()) {
-      AppendAscii(attribute.ascii(), &text_);
-    } else if (!DecodeAttrData(attribute.value(), &text_)) {
-      text_.resize(value);
-      text_.push_back(L'#');
-      const ByteView octets = attribute.value().bytes;
-      text_.append(octets.begin(), octets.end());
-    }
-    *spans_.Extend(1) = {start, text_.size() - start};
-  }
-
   std::wstring_view View(const Span& span) const {
     return std::wstring_view(text_).substr(span.offset, span.length);
   }
@@ -95,12 +138,14 @@ class Keys {
 
 // An RDN of the usual shape with a type of the table can be read without looking further.
 bool IsReadable(const X509Name& name) {
-  return ForEachRdn(name, [](ByteView rdn) {
+  RdnReader rdns(name);
+  for (Element rdn; rdns.Next(&rdn);) {
     PlainAttribute plain;
-    if (SplitPlainRdn(rdn, &plain) && FindAttributeByDer(plain.type) != nullptr) return true;
+    if (SplitPlainRdn(rdn.bytes, &plain) && FindAttributeByDer(plain.type) != nullptr) continue;
     DecodedAttribute attribute;
-    return attribute.Read(rdn);
-  });
+    if (!attribute.Read(rdn.bytes)) return false;
+  }
+  return rdns.IsName();
 }
 
 // False in the result's stead is left to the caller where a name cannot be read.
@@ -109,14 +154,22 @@ bool Compare(const X509Name& a, const X509Name& b, bool* equal) {
     *equal = true;
     return IsReadable(a);
   }
-  Keys left;
-  Keys right;
-  if (!left.Read(a) || !right.Read(b)) return false;
-  *equal = left == right;
-  if (*equal) return true;
-  left.Sort();
-  right.Sort();
-  *equal = left == right;
+  AttributeReader from_a(a);
+  AttributeReader from_b(b);
+  bool more_a = from_a.Next();
+  bool more_b = from_b.Next();
+  while (more_a && more_b && HaveSameKey(from_a.attribute(), from_b.attribute())) {
+    more_a = from_a.Next();
+    more_b = from_b.Next();
+  }
+  Keys rest_a;
+  Keys rest_b;
+  if (!rest_a.Read(more_a, &from_a) || !rest_b.Read(more_b, &from_b)) return false;
+  *equal = rest_a.size() == rest_b.size();
+  if (!*equal) return true;
+  rest_a.Sort();
+  rest_b.Sort();
+  *equal = rest_a == rest_b;
   return true;
 }
 

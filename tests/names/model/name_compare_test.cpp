@@ -56,6 +56,9 @@ const EqualRow kEqualRows[] = {
      Name(Cn(0x0C, "\xE2\x82\xAC\xE4\xBD\xA1")), false},
     {"kept as encodings", Name(Cn(0x93, "a") + kA), Name(kA + Cn(0x93, "a")), true},
     {"other octets", Name(Cn(0x93, "a")), Name(Cn(0x93, "b")), false},
+    {"rest in another order", Name(kA + Cn(0x93, "a") + kA + kB),
+     Name(kA + Cn(0x93, "a") + kB + kA), true},
+    {"rest as often", Name(kA + kB + kA + kA), Name(kA + kB + kB + kA), false},
     {"an encoding is not its text", Name(Cn(0x93, "a")), Name(kA), false},
     {"an encoding is not its hexadecimal text", Name(Cn(0x93, "a")), Name(Cn(0x0C, "#930161")),
      false},
@@ -90,6 +93,7 @@ TEST(NameEquality, IsRefusedWhereEitherSideIsNoName) {
   const std::string attribute = Octets("30 08 06 03 55 04 03 0C 01 61");
   const std::pair<const char*, std::string> rows[] = {
       {"several attributes", Name(kA + Tlv(0x31, attribute + attribute))},
+      {"several attributes behind another one", Name(kB + Tlv(0x31, attribute + attribute))},
       {"no attribute", Octets("30 02 31 00")},
       {"no value", Octets("30 09 31 07 30 05 06 03 55 04 03")},
       {"cut short", Octets("30 0C 31 0A 30 08")},
