@@ -14,6 +14,12 @@
 
 namespace Ortholan {
 
+// Frees the identifier and the value.
+inline void ReleaseContents(const CERT_RDN_ATTR& attr) {
+  delete[] attr.pszObjId;
+  delete[] attr.Value.pbData;
+}
+
 // Owns its attributes, each an array of its own, with their identifiers and values.
 class AttributeChain {
  public:
@@ -32,8 +38,7 @@ class AttributeChain {
   ~AttributeChain() {
     while (first_ != nullptr) {
       CERT_RDN_ATTR* const attr = Take();
-      delete[] attr->pszObjId;
-      delete[] attr->Value.pbData;
+      ReleaseContents(*attr);
       delete[] attr;
     }
   }

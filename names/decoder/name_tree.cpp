@@ -63,10 +63,7 @@ void MakeRdns(DWORD count, AttributeChain* chain, CERT_NAME_INFO* info) {
 // Moves the RDN's first attribute to the chain and releases what the others hold.
 void ReleaseRdn(const CERT_RDN& rdn, AttributeChain* chain) {
   if (rdn.cRDNAttr == 0 || rdn.rgRDNAttr == nullptr) return;
-  for (DWORD i = 1; i < rdn.cRDNAttr; ++i) {
-    delete[] rdn.rgRDNAttr[i].pszObjId;
-    delete[] rdn.rgRDNAttr[i].Value.pbData;
-  }
+  for (DWORD i = 1; i < rdn.cRDNAttr; ++i) ReleaseContents(rdn.rgRDNAttr[i]);
   chain->Append(rdn.rgRDNAttr);
 }
 

@@ -37,20 +37,21 @@ class RdnReader {
   ElementReader reader_;
 };
 
-// The attributes of a name, one at a time.
+// The attributes of a name, one at a time, from the first.
 class AttributeReader {
  public:
-  explicit AttributeReader(const X509Name& name) : rdns_(name) {}
+  explicit AttributeReader(const X509Name& name) : rdns_(name) { Next(); }
 
-  // False behind the last one, and where there is none that can be read.
-  bool Next() {
-    Element rdn;
-    if (!rdns_.Next(&rdn)) return false;
-    octets_ = rdn.bytes.size;
-    readable_ = attribute_.Read(rdn.bytes);
-    return readable_;
-  }
+  // Whether it stands at an attribute: not behind the last one, nor where one cannot be read.
+  bool at_attribute() const { return at_attribute_; }
   const DecodedAttribute& attribute() const { return attribute_; }
+  void Next() {
+    Element rdn;
+    at_attribute_ = rdns_.Next(&rdn);
+    if (!at_attribute_) return;
+    octets_ = rdn.bytes.size;
+    at_attribute_ = readable_ = attribute_.Read(rdn.bytes);
+  }
   // Octets from this attribute on.
   size_t octets() const { return octets_ + rdns_.rest(); }
   bool IsName() const { return readable_ && rdns_.IsName(); }
@@ -59,6 +60,7 @@ class AttributeReader {
   RdnReader rdns_;
   DecodedAttribute attribute_;
   size_t octets_ = 0;
+  bool at_attribute_ = false;
   bool readable_ = true;
 };
 
@@ -99,9 +101,9 @@ class Keys {
  public:
   // Takes the attribute that `from` stands at, if any, and all behind it. False where there is one
   // that cannot be read.
-  bool Read(bool more, AttributeReader* from) {
-    if (more) text_.reserve(from->octets());
-    for (; more; more = from->Next()) {
+  bool Read(AttributeReader* from) {
+    if (from->at_attribute()) text_.reserve(from->octets());
+    for (; from->at_attribute(); from->Next()) {
       const size_t start = text_.size();
       AppendKey(from->attribute(), &text_);
       *spans_.Extend(1) = {start, text_.size() - start};
@@ -156,15 +158,14 @@ bool Compare(const X509Name& a, const X509Name& b, bool* equal) {
   }
   AttributeReader from_a(a);
   AttributeReader from_b(b);
-  bool more_a = from_a.Next();
-  bool more_b = from_b.Next();
-  while (more_a && more_b && HaveSameKey(from_a.attribute(), from_b.attribute())) {
-    more_a = from_a.Next();
-    more_b = from_b.Next();
+  while (from_a.at_attribute() && from_b.at_attribute() &&
+         HaveSameKey(from_a.attribute(), from_b.attribute())) {
+    from_a.Next();
+    from_b.Next();
   }
   Keys rest_a;
   Keys rest_b;
-  if (!rest_a.Read(more_a, &from_a) || !rest_b.Read(more_b, &from_b)) return false;
+  if (!rest_a.Read(&from_a) || !rest_b.Read(&from_b)) return false;
   *equal = rest_a.size() == rest_b.size();
   if (!*equal) return true;
   rest_a.Sort();
