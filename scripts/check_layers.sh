@@ -9,10 +9,20 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/sources.sh
 source scripts/sources.sh
 
-any="platform foundation names names/encoder names/decoder names/model generalname extensions capi tests"
+any="bytes strict/der strict/names strict/matching strict/certificates strict/general_names strict/identity strict/constraints strict/extensions strict/face platform foundation names names/encoder names/decoder names/model generalname extensions capi tests"
 
 declare -A allowed=(
   [include]=""
+  [bytes]=""
+  [strict/der]="bytes"
+  [strict/names]="strict/der bytes"
+  [strict/matching]="strict/names strict/der bytes"
+  [strict/certificates]="strict/names strict/der bytes"
+  [strict/general_names]="strict/names strict/der bytes"
+  [strict/identity]="strict/general_names strict/certificates strict/names strict/der bytes"
+  [strict/constraints]="strict/identity strict/general_names strict/matching strict/certificates strict/names strict/der bytes"
+  [strict/extensions]="strict/general_names strict/certificates strict/names strict/der bytes"
+  [strict/face]="strict/extensions strict/constraints strict/identity strict/general_names strict/certificates strict/matching strict/names strict/der bytes"
   [platform]=""
   [foundation]="platform"
   [names]="foundation platform"

@@ -6,9 +6,9 @@
 list_sources() {
   local file
   if [[ -e .git ]] && git rev-parse --git-dir >/dev/null 2>&1; then
-    git ls-files -z --cached --others --exclude-standard -- '*.cpp' '*.c' '*.h'
+    git ls-files -z --cached --others --exclude-standard -- '*.cpp' '*.c' '*.h' '*.hpp'
   else
-    find . -path ./build -prune -o \( -name '*.cpp' -o -name '*.c' -o -name '*.h' \) -type f -printf '%P\0'
+    find . -path ./build -prune -o \( -name '*.cpp' -o -name '*.c' -o -name '*.h' -o -name '*.hpp' \) -type f -printf '%P\0'
   fi | while IFS= read -r -d '' file; do
     # A file may be deleted and still tracked.
     if [[ -f $file ]]; then

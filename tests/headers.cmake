@@ -2,7 +2,8 @@
 # once in C++20 behind what gets in the way elsewhere: on Windows the system's header without
 # NOMINMAX, and macros called min and max everywhere. A header that fails stops the build.
 file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include"
-  "${PROJECT_SOURCE_DIR}/include/ortholan/*.h")
+  "${PROJECT_SOURCE_DIR}/include/ortholan/*.h" "${PROJECT_SOURCE_DIR}/include/ortholan/*.hpp"
+  "${PROJECT_SOURCE_DIR}/include/ortholan/strict/*.h" "${PROJECT_SOURCE_DIR}/include/ortholan/strict/*.hpp")
 list(APPEND headers ortholan/version.h)
 
 # Standard headers come first, because theirs is another matter; g++'s undefine the macros.

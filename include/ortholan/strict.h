@@ -1,0 +1,9 @@
+// The strict layer: what decisions about certificate names stand on. Plain C over octets and UTF-8,
+// the same on every platform and for every compiler; <ortholan/strict.hpp> has it for C++.
+#ifndef ORTHOLAN_STRICT_H_
+#define ORTHOLAN_STRICT_H_
+
+#include <ortholan/strict/base.h>
+#include <ortholan/strict/names.h>
+
+#endif  // ORTHOLAN_STRICT_H_

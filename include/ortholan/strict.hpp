@@ -1,0 +1,9 @@
+// The strict layer in C++17: values, ranges and results over the C functions of
+// <ortholan/strict.h>, header-only, so that it works with every compiler whichever one built the
+// library.
+#ifndef ORTHOLAN_STRICT_HPP_
+#define ORTHOLAN_STRICT_HPP_
+
+#include <ortholan/strict/base.hpp>
+
+#endif  // ORTHOLAN_STRICT_HPP_

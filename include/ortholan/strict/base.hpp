@@ -1,0 +1,154 @@
+// What the C++ face of the strict layer shares: octets, and results that hold a value or say why
+// not. Header-only over the C functions, so that every compiler can use every build of the library.
+//
+//   const ortholan::Result<ortholan::NameView> name = ortholan::NameView::Read(der);
+//   if (!name) std::cerr << name.refusal().Sentence();
+//   else use(*name);
+//
+//   use(ortholan::NameView::Read(der).value());   // throws ortholan::Error instead
+#ifndef ORTHOLAN_STRICT_BASE_HPP_
+#define ORTHOLAN_STRICT_BASE_HPP_
+
+#include <ortholan/strict/base.h>
+
+#include <exception>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace ortholan {
+
+// Octets that somebody else owns. Made of anything contiguous that holds octets or characters.
+class Octets {
+ public:
+  constexpr Octets() = default;
+  constexpr Octets(const uint8_t* data, size_t size) : data_(data), size_(size) {}
+  constexpr Octets(ortholan_octets octets) : data_(octets.data), size_(octets.size) {}
+  Octets(const std::vector<uint8_t>& octets) : data_(octets.data()), size_(octets.size()) {}
+  Octets(std::string_view octets)
+      : data_(reinterpret_cast<const uint8_t*>(octets.data())), size_(octets.size()) {}
+
+  constexpr const uint8_t* data() const { return data_; }
+  constexpr size_t size() const { return size_; }
+  constexpr bool empty() const { return size_ == 0; }
+  constexpr const uint8_t* begin() const { return data_; }
+  constexpr const uint8_t* end() const { return data_ + size_; }
+  constexpr uint8_t operator[](size_t index) const { return data_[index]; }
+  constexpr operator ortholan_octets() const { return {data_, size_}; }
+
+  friend bool operator==(Octets a, Octets b) { return a.AsText() == b.AsText(); }
+  friend bool operator!=(Octets a, Octets b) { return !(a == b); }
+
+ private:
+  std::string_view AsText() const { return {reinterpret_cast<const char*>(data_), size_}; }
+
+  const uint8_t* data_ = nullptr;
+  size_t size_ = 0;
+};
+
+inline ortholan_text ToText(std::string_view text) { return {text.data(), text.size()}; }
+
+// How closely an encoding is read; verdicts never take kLenient.
+enum class Reading : int32_t {
+  kDer = ORTHOLAN_READ_DER,
+  kLenient = ORTHOLAN_READ_LENIENT,
+  kStructure = ORTHOLAN_READ_STRUCTURE,
+};
+
+// Calls a function that writes into the caller's room, first with room for most, and again with as
+// much as it needs. `call` takes pointer, room and the place of the size.
+template <class String, class Call>
+ortholan_reason WithRoom(String* out, Call call) {
+  size_t size = 0;
+  out->resize(128);
+  ortholan_reason reason = call(out->data(), out->size(), &size);
+  if (reason == ORTHOLAN_REASON_ROOM) {
+    out->resize(size);
+    reason = call(out->data(), out->size(), &size);
+  }
+  out->resize(reason == ORTHOLAN_REASON_NONE ? size : 0);
+  return reason;
+}
+
+// Why and where an input was refused.
+struct Refusal : ortholan_refusal {
+  Refusal() : ortholan_refusal{} {}
+  Refusal(const ortholan_refusal& refusal) : ortholan_refusal(refusal) {}
+  explicit Refusal(ortholan_reason why) : ortholan_refusal{why, 0, 0, ORTHOLAN_NO_PLACE} {}
+
+  // One English sentence without a full stop.
+  std::string Sentence() const {
+    std::string text;
+    WithRoom(&text, [this](char* out, size_t room, size_t* size) {
+      return ortholan_refusal_sentence(this, out, room, size);
+    });
+    return text;
+  }
+};
+
+// What Result::value throws.
+class Error : public std::exception {
+ public:
+  explicit Error(const Refusal& refusal) : refusal_(refusal), what_(refusal.Sentence()) {}
+  const Refusal& refusal() const { return refusal_; }
+  const char* what() const noexcept override { return what_.c_str(); }
+
+ private:
+  Refusal refusal_;
+  std::string what_;
+};
+
+// A value, or why there is none.
+template <class T>
+class [[nodiscard]] Result {
+ public:
+  Result(T value) : value_(std::move(value)) {}
+  Result(const Refusal& refusal) : refusal_(refusal) {}
+
+  bool has_value() const { return value_.has_value(); }
+  explicit operator bool() const { return has_value(); }
+  // Only where there is a value.
+  const T& operator*() const { return *value_; }
+  const T* operator->() const { return &*value_; }
+  T& operator*() { return *value_; }
+  // Throws Error where there is none.
+  const T& value() const& {
+    if (!value_) throw Error(refusal_);
+    return *value_;
+  }
+  T value() && {
+    if (!value_) throw Error(refusal_);
+    return std::move(*value_);
+  }
+  const Refusal& refusal() const { return refusal_; }
+
+ private:
+  std::optional<T> value_;
+  Refusal refusal_;
+};
+
+// An OBJECT IDENTIFIER's content octets as dotted text.
+inline Result<std::string> OidToText(Octets oid) {
+  std::string text;
+  const ortholan_reason reason = WithRoom(&text, [oid](char* out, size_t room, size_t* size) {
+    return ortholan_oid_to_text(oid, out, room, size);
+  });
+  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
+  return text;
+}
+
+// Dotted text as content octets.
+inline Result<std::vector<uint8_t>> OidFromText(std::string_view text) {
+  std::vector<uint8_t> oid;
+  const ortholan_reason reason = WithRoom(&oid, [text](uint8_t* out, size_t room, size_t* size) {
+    return ortholan_oid_from_text(ToText(text), out, room, size);
+  });
+  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
+  return oid;
+}
+
+}  // namespace ortholan
+
+#endif  // ORTHOLAN_STRICT_BASE_HPP_

@@ -1,0 +1,138 @@
+// The one reader of encodings: elements of DER as views (ITU-T X.690 8 to 11). Class, form and tag
+// are checked together, lengths are definite and minimal, nothing is copied.
+//
+//   Reader fields(content, Leniency::kDer, &refusal);
+//   ByteView type;
+//   Element value;
+//   if (!fields.Read(kOid, &type) || !fields.Read(&value) || !fields.End()) return false;
+//
+// A failure notes its place in the refusal and is returned; the reader is then used no further.
+#ifndef ORTHOLAN_STRICT_DER_READER_H_
+#define ORTHOLAN_STRICT_DER_READER_H_
+
+#include "bytes/byte_view.h"
+#include "strict/der/refusal.h"
+
+namespace Ortholan::strict {
+
+enum class Leniency : int32_t {
+  kDer = ORTHOLAN_READ_DER,
+  kLenient = ORTHOLAN_READ_LENIENT,
+  kStructure = ORTHOLAN_READ_STRUCTURE,
+};
+
+// Identifier octets: class, form and tag number together.
+enum Identifier : uint8_t {
+  kBoolean = 0x01,
+  kInteger = 0x02,
+  kBitString = 0x03,
+  kOctetString = 0x04,
+  kNull = 0x05,
+  kOid = 0x06,
+  kEnumerated = 0x0A,
+  kUtf8String = 0x0C,
+  kNumericString = 0x12,
+  kPrintableString = 0x13,
+  kTeletexString = 0x14,
+  kIA5String = 0x16,
+  kUtcTime = 0x17,
+  kGeneralizedTime = 0x18,
+  kVisibleString = 0x1A,
+  kUniversalString = 0x1C,
+  kBmpString = 0x1E,
+  kSequence = 0x30,
+  kSet = 0x31,
+};
+
+constexpr uint8_t kConstructedBit = 0x20;
+constexpr uint8_t kLongTag = 0x1F;
+
+// Context-specific identifiers, [n] primitive and constructed; n is at most 30.
+constexpr uint8_t Context(uint8_t number) { return static_cast<uint8_t>(0x80 | number); }
+constexpr uint8_t ContextConstructed(uint8_t number) { return static_cast<uint8_t>(0xA0 | number); }
+
+struct Element {
+  uint8_t identifier = 0;  // first identifier octet; low bits 1F where the tag has the long form
+  ByteView content;
+  ByteView bytes;  // header and content
+
+  bool constructed() const { return (identifier & kConstructedBit) != 0; }
+};
+
+class Reader {
+ public:
+  Reader(ByteView in, Leniency leniency, Refusal* refusal)
+      : rest_(in), leniency_(leniency), refusal_(refusal) {}
+
+  bool AtEnd() const { return rest_.empty(); }
+  ByteView rest() const { return rest_; }
+  Leniency leniency() const { return leniency_; }
+  // Whether the next element has this one identifier octet; false at the end.
+  bool Sees(uint8_t identifier) const { return !rest_.empty() && rest_[0] == identifier; }
+
+  // The next element, whatever it is.
+  bool Read(Element* element) {
+    // One identifier octet and a length of one octet, all there: nearly every element.
+    if (rest_.size >= 2 && (rest_[0] & kLongTag) != kLongTag && rest_[1] < 0x80 &&
+        rest_[1] <= rest_.size - 2) {
+      Take(2, rest_[1], element);
+      return true;
+    }
+    return ReadLong(element);
+  }
+  // The next element, which must have the identifier; its content.
+  bool Read(uint8_t identifier, ByteView* content) {
+    Element element;
+    if (!Sees(identifier)) return RefuseHere(ORTHOLAN_REASON_IDENTIFIER, identifier);
+    if (!Read(&element)) return false;
+    *content = element.content;
+    return true;
+  }
+  // The same with the whole element.
+  bool Read(uint8_t identifier, Element* element) {
+    if (!Sees(identifier)) return RefuseHere(ORTHOLAN_REASON_IDENTIFIER, identifier);
+    return Read(element);
+  }
+  // Nothing may be left.
+  bool End() { return AtEnd() || RefuseHere(ORTHOLAN_REASON_LEFT_OVER); }
+
+  // Refuses what stands at the reader's place.
+  bool RefuseHere(ortholan_reason reason, uint32_t expected = 0) {
+    return Refuse(
+        refusal_,
+        AtEnd() && reason == ORTHOLAN_REASON_IDENTIFIER ? ORTHOLAN_REASON_TRUNCATED : reason,
+        rest_.data, rest_.size, expected);
+  }
+  // Refuses what stands at `at`, a place of the same input.
+  bool RefuseAt(ortholan_reason reason, const uint8_t* at, uint32_t expected = 0) {
+    const uint8_t* const end = rest_.end();
+    return Refuse(refusal_, reason, at, at < end ? static_cast<size_t>(end - at) : 0, expected);
+  }
+  Refusal* refusal() const { return refusal_; }
+
+ private:
+  void Take(size_t header, size_t length, Element* element) {
+    element->identifier = rest_[0];
+    element->content = {rest_.data + header, length};
+    element->bytes = {rest_.data, header + length};
+    rest_ = rest_.From(header + length);
+  }
+  bool ReadLong(Element* element);
+  bool ReadTag(size_t* header);
+  bool ReadLength(size_t* header, size_t* length);
+
+  ByteView rest_;
+  Leniency leniency_;
+  Refusal* refusal_;
+};
+
+// Reads one element that is the whole of `in`.
+bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* content,
+               Refusal* refusal);
+
+// Checks the headers of everything inside a value of any type, at most 32 levels deep.
+bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_DER_READER_H_

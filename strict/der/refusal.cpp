@@ -1,0 +1,66 @@
+#include "strict/der/refusal.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace Ortholan::strict {
+namespace {
+
+struct Row {
+  ortholan_reason reason;
+  std::string_view sentence;
+};
+
+// In ascending order. What was expected and met is added by whoever tells the place.
+constexpr Row kSentences[] = {
+    {ORTHOLAN_REASON_NONE, ""},
+    {ORTHOLAN_REASON_ARGUMENT, "an argument is missing or is none of its list"},
+    {ORTHOLAN_REASON_MEMORY, "out of memory"},
+    {ORTHOLAN_REASON_ROOM, "the room for the result is too small"},
+    {ORTHOLAN_REASON_NOT_FOUND, "there is no such part"},
+    {ORTHOLAN_REASON_TRUNCATED, "the octets end inside an element"},
+    {ORTHOLAN_REASON_LEFT_OVER, "octets are left over behind the element"},
+    {ORTHOLAN_REASON_IDENTIFIER, "another element has to stand here"},
+    {ORTHOLAN_REASON_INDEFINITE, "a length in the indefinite form is no DER"},
+    {ORTHOLAN_REASON_LENGTH_FORM, "a length is not written in its shortest form"},
+    {ORTHOLAN_REASON_TAG_FORM, "a tag number is not written in its shortest form"},
+    {ORTHOLAN_REASON_OID, "an object identifier is malformed"},
+    {ORTHOLAN_REASON_SET_ORDER, "the elements of a SET are not in ascending order"},
+    {ORTHOLAN_REASON_ALPHABET, "a character is outside the alphabet of the string type"},
+    {ORTHOLAN_REASON_ENCODING, "the octets are no text in the encoding of the string type"},
+    {ORTHOLAN_REASON_EMPTY, "at least one element has to be inside"},
+    {ORTHOLAN_REASON_DEPTH, "elements are nested too deep"},
+    {ORTHOLAN_REASON_BOOLEAN, "a BOOLEAN is neither 00 nor FF"},
+    {ORTHOLAN_REASON_INTEGER, "an INTEGER is malformed or out of range"},
+    {ORTHOLAN_REASON_BIT_STRING, "a BIT STRING is malformed"},
+    {ORTHOLAN_REASON_DEFAULT, "a default value is written out"},
+    {ORTHOLAN_REASON_TIME, "a time is malformed"},
+    {ORTHOLAN_REASON_NO_STRING, "the value is no string"},
+    {ORTHOLAN_REASON_TOO_LONG, "an object identifier is too long to be shown"},
+};
+
+}  // namespace
+
+ortholan_refusal Refusal::From(const void* start) const {
+  const auto* const place = static_cast<const uint8_t*>(at);
+  const auto* const first = static_cast<const uint8_t*>(start);
+  const size_t offset = place != nullptr ? static_cast<size_t>(place - first) : ORTHOLAN_NO_PLACE;
+  return {reason, met, expected, offset};
+}
+
+bool Refuse(Refusal* refusal, ortholan_reason reason, const uint8_t* at, size_t rest,
+            uint32_t expected) {
+  if (refusal != nullptr) *refusal = {reason, rest != 0 ? *at : ORTHOLAN_MET_END, expected, at};
+  return false;
+}
+
+std::string_view SentenceOf(ortholan_reason reason) {
+  const Row* const row =
+      std::lower_bound(std::begin(kSentences), std::end(kSentences), reason,
+                       [](const Row& each, ortholan_reason key) { return each.reason < key; });
+  return row != std::end(kSentences) && row->reason == reason
+             ? row->sentence
+             : std::string_view("a reason that this version does not know");
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,201 @@
+#include "strict/der/string_value.h"
+
+namespace Ortholan::strict {
+namespace {
+
+// Which ASCII strings hold a character; bits of kAlphabet.
+enum Alphabet : uint8_t { kInPrintable = 1, kInNumeric = 2, kInVisible = 4, kInIA5 = 8 };
+
+struct AlphabetTable {
+  uint8_t bits[256];
+};
+
+constexpr AlphabetTable MakeAlphabet() {
+  AlphabetTable table = {};
+  for (int c = 0; c < 0x80; ++c) table.bits[c] = kInIA5;
+  for (int c = 0x20; c < 0x7F; ++c) table.bits[c] |= kInVisible;
+  for (int c = '0'; c <= '9'; ++c) table.bits[c] |= kInNumeric | kInPrintable;
+  for (int c = 'A'; c <= 'Z'; ++c) table.bits[c] |= kInPrintable;
+  for (int c = 'a'; c <= 'z'; ++c) table.bits[c] |= kInPrintable;
+  for (const char c : {' ', '\'', '(', ')', '+', ',', '-', '.', '/', ':', '=', '?'}) {
+    table.bits[static_cast<int>(c)] |= kInPrintable;
+  }
+  table.bits[static_cast<int>(' ')] |= kInNumeric;
+  return table;
+}
+
+constexpr AlphabetTable kAlphabet = MakeAlphabet();
+
+// What is known of a string type. `alphabet` 0: any character of its encoding.
+struct StringType {
+  uint8_t unit = 0;  // octets a character; 0 for UTF-8
+  uint8_t alphabet = 0;
+  bool isString = false;
+};
+
+struct StringTypes {
+  StringType rows[32];
+};
+
+constexpr StringTypes MakeTypes() {
+  StringTypes types = {};
+  types.rows[kUtf8String] = {0, 0, true};
+  types.rows[kNumericString] = {1, kInNumeric, true};
+  types.rows[kPrintableString] = {1, kInPrintable, true};
+  types.rows[kTeletexString] = {1, 0, true};
+  types.rows[kIA5String] = {1, kInIA5, true};
+  types.rows[kVisibleString] = {1, kInVisible, true};
+  types.rows[kUniversalString] = {4, 0, true};
+  types.rows[kBmpString] = {2, 0, true};
+  return types;
+}
+
+constexpr StringTypes kTypes = MakeTypes();
+
+const StringType& TypeOf(uint8_t identifier) { return kTypes.rows[identifier & 0x1F]; }
+
+StringFault FindOutside(ByteView content, uint8_t alphabet) {
+  for (size_t i = 0; i < content.size; ++i) {
+    if ((kAlphabet.bits[content[i]] & alphabet) == 0) return {ORTHOLAN_REASON_ALPHABET, i};
+  }
+  return {};
+}
+
+// Octets at the front that are ASCII, a multiple of eight.
+size_t AsciiRun(ByteView in) {
+  size_t count = 0;
+  for (uint64_t run; in.size - count >= sizeof run; count += sizeof run) {
+    std::memcpy(&run, in.data + count, sizeof run);
+    if ((run & 0x8080808080808080) != 0) break;
+  }
+  return count;
+}
+
+StringFault FindBrokenUtf8(ByteView content) {
+  size_t position = 0;
+  while (position < content.size) {
+    position += AsciiRun(content.From(position));
+    if (position == content.size) break;
+    uint32_t scalar;
+    const size_t count = ReadUtf8Scalar(content.From(position), &scalar);
+    if (count == 0) return {ORTHOLAN_REASON_ENCODING, position};
+    position += count;
+  }
+  return {};
+}
+
+StringFault FindBrokenUnit(uint8_t identifier, ByteView content) {
+  ScalarReader scalars(identifier, content);
+  for (uint32_t scalar; scalars.Next(&scalar);) {
+  }
+  if (!scalars.broken()) return {};
+  return {ORTHOLAN_REASON_ENCODING, content.size - scalars.rest().size};
+}
+
+constexpr bool IsScalar(uint32_t value) {
+  return value < 0xD800 || (value >= 0xE000 && value <= 0x10FFFF);
+}
+
+}  // namespace
+
+bool IsString(uint8_t identifier) { return identifier < 0x20 && TypeOf(identifier).isString; }
+
+bool IsAsciiString(uint8_t identifier) {
+  return identifier < 0x20 && TypeOf(identifier).alphabet != 0;
+}
+
+StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlphabet) {
+  const StringType& type = TypeOf(identifier);
+  if (type.unit == 0) return FindBrokenUtf8(content);
+  // Without its alphabet an 8-bit string still has no character above ASCII.
+  if (type.alphabet != 0) {
+    constexpr uint8_t kAscii = kInIA5;
+    return FindOutside(content, checksAlphabet ? type.alphabet : kAscii);
+  }
+  if (type.unit > 1) return FindBrokenUnit(identifier, content);
+  return {};
+}
+
+bool CheckString(const Element& value, Leniency leniency, Refusal* refusal) {
+  if (leniency == Leniency::kStructure || !IsString(value.identifier)) return true;
+  const StringFault fault =
+      FindStringFault(value.identifier, value.content, leniency == Leniency::kDer);
+  if (fault.reason == ORTHOLAN_REASON_NONE) return true;
+  return Refuse(refusal, fault.reason, value.content.data + fault.offset,
+                value.content.size - fault.offset, value.identifier);
+}
+
+ScalarReader::ScalarReader(uint8_t identifier, ByteView content)
+    : rest_(content), unit_(TypeOf(identifier).unit), ascii_(TypeOf(identifier).alphabet != 0) {}
+
+bool ScalarReader::Next(uint32_t* scalar) {
+  if (rest_.empty() || broken_) return false;
+  return unit_ == 0 ? NextUtf8(scalar) : NextUnit(scalar);
+}
+
+bool ScalarReader::NextUtf8(uint32_t* scalar) {
+  const size_t count = ReadUtf8Scalar(rest_, scalar);
+  broken_ = count == 0;
+  rest_ = rest_.From(count);
+  return !broken_;
+}
+
+bool ScalarReader::NextUnit(uint32_t* scalar) {
+  if (rest_.size < unit_) {
+    broken_ = true;
+    return false;
+  }
+  uint32_t value = 0;
+  for (size_t i = 0; i < unit_; ++i) value = value << 8 | rest_[i];
+  broken_ = !IsScalar(value) || (ascii_ && value >= 0x80);
+  if (broken_) return false;
+  *scalar = value;
+  rest_ = rest_.From(unit_);
+  return true;
+}
+
+void PutUtf8(uint32_t scalar, Output* out) {
+  if (scalar < 0x80) return out->Put(static_cast<uint8_t>(scalar));
+  const size_t count = Utf8Octets(scalar);
+  size_t shift = 6 * (count - 1);
+  out->Put(static_cast<uint8_t>((0xF00u >> count & 0xF0) | scalar >> shift));
+  while (shift != 0) {
+    shift -= 6;
+    out->Put(static_cast<uint8_t>(0x80 | (scalar >> shift & 0x3F)));
+  }
+}
+
+size_t ReadUtf8Scalar(ByteView in, uint32_t* scalar) {
+  if (in.empty()) return 0;
+  const uint32_t lead = in[0];
+  *scalar = lead;
+  if (lead < 0x80) return 1;
+  if (lead < 0xC2 || lead > 0xF4) return 0;
+  const size_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  if (in.size < size) return 0;
+  uint32_t value = lead & (0x7Fu >> size);
+  // The second octet's range keeps out overlong forms, surrogates and what lies beyond U+10FFFF.
+  uint8_t low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+  uint8_t high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+  for (size_t i = 1; i < size; ++i) {
+    if (in[i] < low || in[i] > high) return 0;
+    value = value << 6 | (in[i] & 0x3Fu);
+    low = 0x80;
+    high = 0xBF;
+  }
+  *scalar = value;
+  return size;
+}
+
+bool PutStringText(uint8_t identifier, ByteView content, Output* out) {
+  if (identifier == kUtf8String || IsAsciiString(identifier)) {
+    if (FindStringFault(identifier, content, false).reason != ORTHOLAN_REASON_NONE) return false;
+    out->Put(content);
+    return true;
+  }
+  ScalarReader scalars(identifier, content);
+  for (uint32_t scalar; scalars.Next(&scalar);) PutUtf8(scalar, out);
+  return !scalars.broken();
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,73 @@
+// The character strings of ASN.1 as text: checked, nothing repaired or replaced (X.690 8.23, X.680
+// 41). TeletexString is read as Latin-1, as everybody writes it.
+//
+//   ScalarReader scalars(kBmpString, content);
+//   for (uint32_t scalar; scalars.Next(&scalar);) ...
+//   if (scalars.broken()) ...
+#ifndef ORTHOLAN_STRICT_DER_STRING_VALUE_H_
+#define ORTHOLAN_STRICT_DER_STRING_VALUE_H_
+
+#include "bytes/byte_view.h"
+#include "strict/der/output.h"
+#include "strict/der/reader.h"
+
+namespace Ortholan::strict {
+
+// UTF8String, PrintableString, IA5String, NumericString, VisibleString, TeletexString, BMPString,
+// UniversalString.
+bool IsString(uint8_t identifier);
+
+// Whether each octet of the type is one character of ASCII, so that checked content is its own
+// UTF-8.
+bool IsAsciiString(uint8_t identifier);
+
+// Checks encoding and, unless lenient, the alphabet of a string; refuses at the octet at fault.
+// Other types are not looked at.
+bool CheckString(const Element& value, Leniency leniency, Refusal* refusal);
+
+// Why the first octet at fault is refused, and where it stands; NONE for a string in order.
+struct StringFault {
+  ortholan_reason reason = ORTHOLAN_REASON_NONE;
+  size_t offset = 0;
+};
+StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlphabet);
+
+// Unicode scalars of a string, one by one; alphabets are not looked at.
+class ScalarReader {
+ public:
+  // `identifier` is that of a string.
+  ScalarReader(uint8_t identifier, ByteView content);
+
+  // False at the end, and where the octets are no text.
+  bool Next(uint32_t* scalar);
+  bool broken() const { return broken_; }
+  // What was not read yet, from the broken place on.
+  ByteView rest() const { return rest_; }
+
+ private:
+  bool NextUtf8(uint32_t* scalar);
+  bool NextUnit(uint32_t* scalar);
+
+  ByteView rest_;
+  size_t unit_;  // octets a character; 0 for UTF-8
+  bool ascii_;
+  bool broken_ = false;
+};
+
+// Puts a scalar as UTF-8.
+void PutUtf8(uint32_t scalar, Output* out);
+// Octets of a scalar's UTF-8.
+constexpr size_t Utf8Octets(uint32_t scalar) {
+  return scalar < 0x80 ? 1 : scalar < 0x800 ? 2 : scalar < 0x10000 ? 3 : 4;
+}
+
+// Reads the scalar at the front of UTF-8 (Unicode 3.9, table 3-7) and tells how many octets it
+// takes; 0 for octets that are none.
+size_t ReadUtf8Scalar(ByteView in, uint32_t* scalar);
+
+// Puts the text of a string as UTF-8; false where the octets are no text.
+bool PutStringText(uint8_t identifier, ByteView content, Output* out);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_DER_STRING_VALUE_H_

@@ -1,0 +1,20 @@
+#include "strict/face/call.h"
+
+namespace Ortholan::strict {
+
+ortholan_reason Report(const Refusal& found, const void* start, ortholan_refusal* refusal) {
+  if (refusal != nullptr) *refusal = found.From(start);
+  return found.reason;
+}
+
+ortholan_reason Report(ortholan_reason reason, ortholan_refusal* refusal) {
+  if (refusal != nullptr) *refusal = {reason, 0, 0, ORTHOLAN_NO_PLACE};
+  return reason;
+}
+
+ortholan_reason Finish(const Output& out, size_t* size) {
+  if (size != nullptr) *size = out.size();
+  return out.fits() ? ORTHOLAN_REASON_NONE : ORTHOLAN_REASON_ROOM;
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,85 @@
+// A distinguished name over borrowed octets (RFC 5280 4.1.2.4): checked once, then walked without
+// looking again. RDNs hold any number of attributes. Nothing is allocated.
+//
+//   NameView name;
+//   if (!NameView::Read(der, Leniency::kDer, &name, &refusal)) ...
+//   for (const AttributeView& attribute : name) ...
+#ifndef ORTHOLAN_STRICT_NAMES_NAME_VIEW_H_
+#define ORTHOLAN_STRICT_NAMES_NAME_VIEW_H_
+
+#include <iterator>
+
+#include "bytes/byte_view.h"
+#include "strict/der/reader.h"
+
+namespace Ortholan::strict {
+
+// One AttributeTypeAndValue.
+struct AttributeView {
+  ByteView type;            // content octets of the identifier
+  Element value;            // of any type
+  ByteView bytes;           // the whole SEQUENCE
+  ByteView rdn;             // content of its RDN's SET
+  size_t rdn_index = 0;     // of its RDN in the name
+  bool begins_rdn = false;  // the first attribute of its RDN
+};
+
+class NameView {
+ public:
+  class Iterator {
+   public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = AttributeView;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const AttributeView*;
+    using reference = const AttributeView&;
+
+    Iterator() = default;
+    // At the first attribute of checked RDNs.
+    explicit Iterator(ByteView rdns) : rdns_(rdns) { Step(); }
+
+    reference operator*() const { return attribute_; }
+    pointer operator->() const { return &attribute_; }
+    Iterator& operator++() {
+      Step();
+      return *this;
+    }
+    bool operator==(const Iterator& other) const {
+      return attribute_.bytes.data == other.attribute_.bytes.data;
+    }
+    bool operator!=(const Iterator& other) const { return !(*this == other); }
+
+   private:
+    void Step();
+
+    ByteView rdns_;        // those not entered yet
+    ByteView attributes_;  // of the present RDN, those not read yet
+    size_t next_rdn_ = 0;
+    AttributeView attribute_;  // without octets at the end
+  };
+
+  // The name without RDNs.
+  NameView() = default;
+
+  // Reads a Name that is the whole of `der`. `*name` changes only on success. With
+  // Leniency::kStructure values are any element and SETs stand in any order.
+  static bool Read(ByteView der, Leniency leniency, NameView* name, Refusal* refusal);
+  Iterator begin() const { return Iterator(rdns_); }
+  Iterator end() const { return {}; }
+
+  // The whole encoding that was read.
+  ByteView der() const { return der_; }
+  bool empty() const { return rdn_count_ == 0; }
+  size_t rdn_count() const { return rdn_count_; }
+  size_t attribute_count() const { return attribute_count_; }
+
+ private:
+  ByteView der_;
+  ByteView rdns_;  // content of the Name's SEQUENCE
+  size_t rdn_count_ = 0;
+  size_t attribute_count_ = 0;
+};
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_NAMES_NAME_VIEW_H_
