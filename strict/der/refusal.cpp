@@ -37,6 +37,10 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_TIME, "a time is malformed"},
     {ORTHOLAN_REASON_NO_STRING, "the value is no string"},
     {ORTHOLAN_REASON_TOO_LONG, "an object identifier is too long to be shown"},
+    {ORTHOLAN_REASON_DUPLICATE_EXTENSION, "the same extension stands there twice"},
+    {ORTHOLAN_REASON_GENERAL_NAME, "this is none of the nine kinds of general names"},
+    {ORTHOLAN_REASON_NAME_CHARACTER, "a name of characters holds a control character or no ASCII"},
+    {ORTHOLAN_REASON_ADDRESS_SIZE, "an address has a size that no address has"},
 };
 
 }  // namespace

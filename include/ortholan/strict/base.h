@@ -105,6 +105,22 @@ enum {
   ORTHOLAN_REASON_TOO_LONG = 38
 };
 
+// Certificates, 120 to 139 (RFC 5280 4 and 5).
+enum {
+  // The same extension stands there twice (4.2).
+  ORTHOLAN_REASON_DUPLICATE_EXTENSION = 120
+};
+
+// General names, 140 to 179 (RFC 5280 4.2.1.6).
+enum {
+  // A tag that is none of the nine, or one of them in the wrong form.
+  ORTHOLAN_REASON_GENERAL_NAME = 140,
+  // A control character or an octet outside IA5String in a name of characters.
+  ORTHOLAN_REASON_NAME_CHARACTER = 141,
+  // An address of neither 4 nor 16 octets; with a mask, of neither 8 nor 32.
+  ORTHOLAN_REASON_ADDRESS_SIZE = 142
+};
+
 // Stands in `met` where the input ended.
 #define ORTHOLAN_MET_END UINT32_C(0xFFFFFFFF)
 
@@ -126,8 +142,9 @@ enum {
   // For people who must look at what is not quite DER: any definite form of a length, SETs in any
   // order, strings outside their alphabet.
   ORTHOLAN_READ_LENIENT = 1,
-  // DER but for the order of SETs and the content of strings, which whoever compares values looks
-  // at himself.
+  // DER but for what changes no meaning (the order of SETs, default values written out), and
+  // without
+  // a look at strings, which whoever compares values does himself.
   ORTHOLAN_READ_STRUCTURE = 2
 };
 

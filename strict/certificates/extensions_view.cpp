@@ -1,0 +1,60 @@
+#include "strict/certificates/extensions_view.h"
+
+#include "strict/der/boolean.h"
+#include "strict/der/identifier.h"
+
+namespace Ortholan::strict {
+namespace {
+
+bool ReadExtension(Reader* list, ExtensionView* extension) {
+  Element element;
+  if (!list->Read(kSequence, &element)) return false;
+  Reader fields(element.content, list->leniency(), list->refusal());
+  extension->bytes = element.bytes;
+  if (!fields.Read(kOid, &extension->oid)) return false;
+  if (!IsIdentifier(extension->oid)) {
+    return fields.RefuseAt(ORTHOLAN_REASON_OID, extension->oid.data);
+  }
+  return ReadDefaultFalse(&fields, &extension->critical) &&
+         fields.Read(kOctetString, &extension->value) && fields.End();
+}
+
+}  // namespace
+
+bool ExtensionsView::Read(ByteView der, Leniency leniency, ExtensionsView* extensions,
+                          Refusal* refusal) {
+  ExtensionsView read;
+  if (!ReadWhole(der, kSequence, leniency, &read.content_, refusal)) return false;
+  Reader list(read.content_, leniency, refusal);
+  if (list.AtEnd()) return list.RefuseHere(ORTHOLAN_REASON_EMPTY);
+  for (ExtensionView extension; !list.AtEnd(); ++read.size_) {
+    if (!ReadExtension(&list, &extension)) return false;
+  }
+  *extensions = read;
+  return true;
+}
+
+// What was checked is read again with the widest rule.
+void ExtensionsView::Iterator::Step() {
+  extension_ = {};
+  if (rest_.empty()) return;
+  Reader list(rest_, Leniency::kLenient, nullptr);
+  ReadExtension(&list, &extension_);
+  rest_ = list.rest();
+}
+
+bool ExtensionsView::Find(ByteView oid, ExtensionView* found, Refusal* refusal) const {
+  *found = {};
+  for (const ExtensionView& extension : *this) {
+    if (!SameBytes(extension.oid, oid)) continue;
+    if (!found->bytes.empty()) {
+      *found = {};
+      return Refuse(refusal, ORTHOLAN_REASON_DUPLICATE_EXTENSION, extension.bytes.data,
+                    extension.bytes.size);
+    }
+    *found = extension;
+  }
+  return true;
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,77 @@
+// The extensions of a certificate, request or CRL over borrowed octets (RFC 5280 4.1.2.9):
+// identifier, critical flag and the value's octets. What is inside a value is read elsewhere.
+//
+//   ExtensionsView extensions;
+//   if (!ExtensionsView::Read(element, Leniency::kDer, &extensions, &refusal)) ...
+//   for (const ExtensionView& extension : extensions) ...
+#ifndef ORTHOLAN_STRICT_CERTIFICATES_EXTENSIONS_VIEW_H_
+#define ORTHOLAN_STRICT_CERTIFICATES_EXTENSIONS_VIEW_H_
+
+#include <iterator>
+
+#include "bytes/byte_view.h"
+#include "strict/der/reader.h"
+
+namespace Ortholan::strict {
+
+struct ExtensionView {
+  ByteView oid;    // content octets of the identifier
+  ByteView value;  // content of the OCTET STRING: the encoding of the extension's own structure
+  ByteView bytes;  // the whole SEQUENCE
+  bool critical = false;
+};
+
+class ExtensionsView {
+ public:
+  class Iterator {
+   public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = ExtensionView;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const ExtensionView*;
+    using reference = const ExtensionView&;
+
+    Iterator() = default;
+    // At the first of checked extensions.
+    explicit Iterator(ByteView rest) : rest_(rest) { Step(); }
+
+    reference operator*() const { return extension_; }
+    pointer operator->() const { return &extension_; }
+    Iterator& operator++() {
+      Step();
+      return *this;
+    }
+    bool operator==(const Iterator& other) const {
+      return extension_.bytes.data == other.extension_.bytes.data;
+    }
+    bool operator!=(const Iterator& other) const { return !(*this == other); }
+
+   private:
+    void Step();
+
+    ByteView rest_;
+    ExtensionView extension_;  // without octets at the end
+  };
+
+  // No extensions.
+  ExtensionsView() = default;
+
+  // Reads SEQUENCE SIZE (1..MAX) OF Extension that is the whole of `der`.
+  static bool Read(ByteView der, Leniency leniency, ExtensionsView* extensions, Refusal* refusal);
+
+  Iterator begin() const { return Iterator(content_); }
+  Iterator end() const { return {}; }
+  size_t size() const { return size_; }
+
+  // Looks for the one extension of a type. False, with the second one's place in the refusal, where
+  // there are several; `*found` is without octets where there is none.
+  bool Find(ByteView oid, ExtensionView* found, Refusal* refusal) const;
+
+ private:
+  ByteView content_;
+  size_t size_ = 0;
+};
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_CERTIFICATES_EXTENSIONS_VIEW_H_

@@ -1,0 +1,137 @@
+#include "strict/general_names/general_name_view.h"
+
+#include "strict/der/identifier.h"
+#include "strict/names/name_view.h"
+
+namespace Ortholan::strict {
+namespace {
+
+constexpr uint8_t kFirstControl = 0x20;  // below it, and DEL, are the controls of ASCII
+constexpr uint8_t kDelete = 0x7F;
+
+// The identifier octet of each kind.
+constexpr uint8_t kIdentifiers[] = {
+    ContextConstructed(0),
+    Context(1),
+    Context(2),
+    ContextConstructed(3),
+    ContextConstructed(4),
+    ContextConstructed(5),
+    Context(6),
+    Context(7),
+    Context(8),
+};
+
+bool ReadOtherName(ByteView content, Leniency leniency, Refusal* refusal) {
+  Reader fields(content, leniency, refusal);
+  ByteView type, tagged;
+  if (!fields.Read(kOid, &type)) return false;
+  if (!IsIdentifier(type)) return fields.RefuseAt(ORTHOLAN_REASON_OID, type.data);
+  if (!fields.Read(ContextConstructed(0), &tagged) || !fields.End()) return false;
+  Reader value(tagged, leniency, refusal);
+  Element element;
+  return value.Read(&element) && value.End() && CheckNested(element, leniency, refusal);
+}
+
+bool CheckCharacters(ByteView content, Refusal* refusal) {
+  for (size_t i = 0; i < content.size; ++i) {
+    if (content[i] < kFirstControl || content[i] >= kDelete) {
+      return Refuse(refusal, ORTHOLAN_REASON_NAME_CHARACTER, content.data + i, content.size - i);
+    }
+  }
+  return true;
+}
+
+bool CheckAddress(ByteView content, bool hasMask, Refusal* refusal) {
+  const size_t short_size = hasMask ? 8 : 4;
+  if (content.size == short_size || content.size == 4 * short_size) return true;
+  return Refuse(refusal, ORTHOLAN_REASON_ADDRESS_SIZE, content.data, content.size);
+}
+
+}  // namespace
+
+bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
+  Element element;
+  if (list->AtEnd()) return list->RefuseHere(ORTHOLAN_REASON_TRUNCATED);
+  const uint8_t number = list->rest()[0] & kLongTag;
+  if (number >= sizeof kIdentifiers || list->rest()[0] != kIdentifiers[number]) {
+    return list->RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
+  }
+  if (!list->Read(&element)) return false;
+  *name = {static_cast<GeneralNameKind>(number), element.content, element.bytes};
+  switch (name->kind) {
+    case GeneralNameKind::kOther:
+      return ReadOtherName(element.content, list->leniency(), list->refusal());
+    case GeneralNameKind::kDirectory: {
+      ByteView rdns;
+      return ReadWhole(element.content, kSequence, list->leniency(), &rdns, list->refusal());
+    }
+    case GeneralNameKind::kX400:
+    case GeneralNameKind::kEdiParty:
+      return CheckNested(element, list->leniency(), list->refusal());
+    default:
+      return true;
+  }
+}
+
+bool GeneralNameView::Check(Leniency leniency, bool hasMask, Refusal* refusal) const {
+  switch (kind) {
+    case GeneralNameKind::kMail:
+    case GeneralNameKind::kDns:
+    case GeneralNameKind::kUri:
+      return CheckCharacters(content, refusal);
+    case GeneralNameKind::kAddress:
+      return CheckAddress(content, hasMask, refusal);
+    case GeneralNameKind::kRegisteredId:
+      return IsIdentifier(content) ||
+             Refuse(refusal, ORTHOLAN_REASON_OID, content.data, content.size);
+    case GeneralNameKind::kDirectory: {
+      NameView name;
+      return NameView::Read(content, leniency, &name, refusal);
+    }
+    default:
+      return true;
+  }
+}
+
+OtherNameView::OtherNameView(ByteView content) {
+  Reader fields(content, Leniency::kLenient, nullptr);
+  ByteView tagged;
+  if (!fields.Read(kOid, &type) || !fields.Read(ContextConstructed(0), &tagged)) return;
+  Reader(tagged, Leniency::kLenient, nullptr).Read(&value);
+}
+
+bool GeneralNamesView::Read(ByteView der, Leniency leniency, GeneralNamesView* names,
+                            Refusal* refusal) {
+  ByteView content;
+  return ReadWhole(der, kSequence, leniency, &content, refusal) &&
+         ReadContent(content, leniency, names, refusal);
+}
+
+bool GeneralNamesView::ReadContent(ByteView content, Leniency leniency, GeneralNamesView* names,
+                                   Refusal* refusal) {
+  GeneralNamesView read;
+  read.content_ = content;
+  Reader list(content, leniency, refusal);
+  if (list.AtEnd()) return list.RefuseHere(ORTHOLAN_REASON_EMPTY);
+  for (GeneralNameView name; !list.AtEnd(); ++read.size_) {
+    if (!GeneralNameView::Read(&list, &name)) return false;
+    if (leniency != Leniency::kStructure && !name.Check(leniency, false, refusal)) return false;
+  }
+  *names = read;
+  return true;
+}
+
+// What was checked is read again without a look at the rules.
+void GeneralNamesView::Iterator::Step() {
+  name_ = {};
+  if (rest_.empty()) return;
+  Reader list(rest_, Leniency::kLenient, nullptr);
+  Element element;
+  list.Read(&element);
+  name_ = {static_cast<GeneralNameKind>(element.identifier & kLongTag), element.content,
+           element.bytes};
+  rest_ = list.rest();
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,111 @@
+// One general name, and a list of them, over borrowed octets (RFC 5280 4.2.1.6).
+//
+//   GeneralNamesView names;
+//   if (!GeneralNamesView::Read(extension.value, Leniency::kDer, &names, &refusal)) ...
+//   for (const GeneralNameView& name : names) {
+//     if (name.kind == GeneralNameKind::kDns) ... name.content ...
+//   }
+#ifndef ORTHOLAN_STRICT_GENERAL_NAMES_GENERAL_NAME_VIEW_H_
+#define ORTHOLAN_STRICT_GENERAL_NAMES_GENERAL_NAME_VIEW_H_
+
+#include <iterator>
+
+#include "bytes/byte_view.h"
+#include "strict/der/reader.h"
+
+namespace Ortholan::strict {
+
+// The number of the choice's context tag.
+enum class GeneralNameKind : uint8_t {
+  kOther = 0,
+  kMail = 1,  // rfc822Name
+  kDns = 2,
+  kX400 = 3,
+  kDirectory = 4,
+  kEdiParty = 5,
+  kUri = 6,
+  kAddress = 7,  // iPAddress
+  kRegisteredId = 8,
+};
+
+struct GeneralNameView {
+  GeneralNameKind kind = GeneralNameKind::kOther;
+  // What is inside the tag: characters, address octets, an identifier's content; for a directory
+  // name the whole Name, for an other name the content of its SEQUENCE.
+  ByteView content;
+  ByteView bytes;  // the whole element
+
+  // Reads the next element as a general name: one of the nine tags in its right form, a directory
+  // name holding one SEQUENCE, an other name an identifier and one value. Strings are not looked
+  // at.
+  static bool Read(Reader* list, GeneralNameView* name);
+
+  // Checks what Read leaves: names of characters are IA5String without NUL and other controls, an
+  // address has 4 or 16 octets, or with a mask 8 or 32; a registered identifier is one; a directory
+  // name is in order. Which structure an other name's value has is its type's affair.
+  bool Check(Leniency leniency, bool hasMask, Refusal* refusal) const;
+};
+
+// The parts of an other name, in `content` of a name that was read.
+struct OtherNameView {
+  ByteView type;  // content octets of the identifier
+  Element value;  // inside the explicit tag
+
+  explicit OtherNameView(ByteView content);
+};
+
+class GeneralNamesView {
+ public:
+  class Iterator {
+   public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = GeneralNameView;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const GeneralNameView*;
+    using reference = const GeneralNameView&;
+
+    Iterator() = default;
+    // At the first of checked names.
+    explicit Iterator(ByteView rest) : rest_(rest) { Step(); }
+
+    reference operator*() const { return name_; }
+    pointer operator->() const { return &name_; }
+    Iterator& operator++() {
+      Step();
+      return *this;
+    }
+    bool operator==(const Iterator& other) const {
+      return name_.bytes.data == other.name_.bytes.data;
+    }
+    bool operator!=(const Iterator& other) const { return !(*this == other); }
+
+   private:
+    void Step();
+
+    ByteView rest_;
+    GeneralNameView name_;  // without octets at the end
+  };
+
+  // No names.
+  GeneralNamesView() = default;
+
+  // Reads SEQUENCE SIZE (1..MAX) OF GeneralName that is the whole of `der`, the value of an
+  // alternative-name extension. Each name is checked but for Leniency::kStructure.
+  static bool Read(ByteView der, Leniency leniency, GeneralNamesView* names, Refusal* refusal);
+  // The same for what stands inside an implicit tag in place of the SEQUENCE's.
+  static bool ReadContent(ByteView content, Leniency leniency, GeneralNamesView* names,
+                          Refusal* refusal);
+
+  Iterator begin() const { return Iterator(content_); }
+  Iterator end() const { return {}; }
+  size_t size() const { return size_; }
+  ByteView content() const { return content_; }
+
+ private:
+  ByteView content_;
+  size_t size_ = 0;
+};
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_GENERAL_NAMES_GENERAL_NAME_VIEW_H_
