@@ -1,28 +1,39 @@
 #include "examples/arguments.h"
 
+#include <algorithm>
+
 #include "examples/failure.h"
+#include "examples/nearest.h"
 #include "examples/text.h"
 
 namespace Example {
 namespace {
 
-const Option& FindOption(const std::string& name, const Option* options) {
-  for (; options->name != nullptr; ++options) {
-    if (name == options->name) return *options;
-  }
-  throw UsageError{"there is no option " + name};
+[[noreturn]] void FailAtOption(const std::string& name, const std::vector<Option>& options) {
+  std::vector<std::string> names;
+  for (const Option& option : options) names.emplace_back(option.name);
+  // A letter behind one hyphen is the start of a word behind two.
+  const std::string meant = name.compare(0, 2, "--") == 0 ? name : "-" + name;
+  throw UsageError{"there is no option " + name + DidYouMean(meant, names)};
+}
+
+const Option& FindOption(const std::string& name, const std::vector<Option>& options) {
+  const auto found = std::find_if(options.begin(), options.end(),
+                                  [&name](const Option& option) { return name == option.name; });
+  if (found == options.end()) FailAtOption(name, options);
+  return *found;
 }
 
 }  // namespace
 
 Arguments::Arguments(const std::vector<std::string>& all, std::size_t first,
-                     const Option* options) {
+                     const std::vector<Option>& options) {
   bool optionsEnded = false;
   for (std::size_t i = first; i < all.size(); ++i) {
     const std::string& argument = all[i];
-    if (optionsEnded || argument.compare(0, 2, "--") != 0) {
+    if (optionsEnded || argument.size() < 2 || argument[0] != '-') {
       operands.push_back(argument);
-    } else if (argument.size() == 2) {
+    } else if (argument == "--") {
       optionsEnded = true;
     } else {
       const std::size_t equals = argument.find('=');

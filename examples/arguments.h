@@ -12,17 +12,23 @@
 
 namespace Example {
 
+class Arguments;
+
 struct Option {
-  const char* name = nullptr;      // with its two hyphens; null behind the last
-  const char* argument = nullptr;  // what its value is called; null where it takes none
-  const char* about = nullptr;
+  const char* name;      // with its two hyphens
+  const char* argument;  // what its value is called; null where it takes none
+  const char* about;
+  // Where the option is given, it does the command's work; null for an option of the command's own.
+  int (*run)(const Arguments&) = nullptr;
 };
 
 class Arguments {
  public:
   // Reads everything from `first` on: options anywhere, as `--name value` or `--name=value`, until
-  // `--`. Throws UsageError for an option that is not in `options`.
-  Arguments(const std::vector<std::string>& all, std::size_t first, const Option* options);
+  // `--`. Throws UsageError for an option that is not in `options`, and for one letter behind a
+  // hyphen.
+  Arguments(const std::vector<std::string>& all, std::size_t first,
+            const std::vector<Option>& options);
 
   bool Has(const char* option) const;
   std::optional<std::string> Value(const char* option) const;

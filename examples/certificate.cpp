@@ -5,9 +5,11 @@
 #include <ortholan/status.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "examples/failure.h"
+#include "examples/pem.h"
 
 namespace Example {
 
@@ -108,12 +110,29 @@ Certificate ReadCertificate(const std::string& der) {
   return certificate;
 }
 
+namespace {
+
+// The last holds more octets behind the certificate.
+constexpr std::string_view kLabels[] = {"CERTIFICATE", "X509 CERTIFICATE", "TRUSTED CERTIFICATE"};
+
+}  // namespace
+
 std::size_t ForEachCertificate(const std::string& file, const CertificateFound& found,
                                const CertificateBad& bad) {
   // The second octet of a certificate's encoding is a length above 127, and no text.
   const bool isDer = file.size() > 1 && Octets(file)[0] == kSequence && Octets(file)[1] >= 0x80;
-  if (!isDer && HasPemBlock(file)) return ForEachPemBlock(file, found, bad);
-  return ForEachDer(file, found, bad);
+  if (isDer || !HasPemBlock(file)) return ForEachDer(file, found, bad);
+  std::size_t number = 0;
+  ForEachPemBlock(file, [&](const PemBlock& block) {
+    if (std::find(std::begin(kLabels), std::end(kLabels), block.label) == std::end(kLabels)) return;
+    ++number;
+    if (block.fault != nullptr) {
+      bad(number, block.fault);
+    } else {
+      found(number, block.octets, block.end);
+    }
+  });
+  return number;
 }
 
 }  // namespace Example

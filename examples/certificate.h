@@ -5,12 +5,17 @@
 #include <ortholan/ident_obj.h>
 
 #include <cstddef>
+#include <functional>
 #include <list>
 #include <string>
 
-#include "examples/pem.h"
-
 namespace Example {
+
+// The number of a certificate, from 1, its octets, and where in the file it ends.
+using CertificateFound =
+    std::function<void(std::size_t number, const std::string& der, std::size_t position)>;
+// The number of what cannot be read, and a description.
+using CertificateBad = std::function<void(std::size_t number, const std::string& what)>;
 
 // What RFC 5280 4.1 puts into a certificate and this program shows.
 struct Certificate {

@@ -1,9 +1,15 @@
-// The commands: what they are called, take and say of themselves.
+// The commands: what they are called, take and say of themselves. Each stands in a file with its
+// siblings and is listed in command_table.cpp; another way to do a command's work is an option with
+// a handler of its own, in whichever file:
+//
+//   const Command kDecodeCommand = {"decode", RunDecode, 1, 1, "NAME", ...,
+//                            {{"--rfc4514", nullptr, "as RFC 4514 has it", RunDecodeRfc4514}}};
 #ifndef ORTHOLAN_EXAMPLES_COMMAND_TABLE_H_
 #define ORTHOLAN_EXAMPLES_COMMAND_TABLE_H_
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "examples/arguments.h"
 
@@ -13,27 +19,29 @@ constexpr std::size_t kAnyNumber = static_cast<std::size_t>(-1);
 
 struct Command {
   const char* name;
+  // Prints to standard output and returns the exit status; Failure and UsageError are thrown.
   int (*run)(const Arguments&);
   std::size_t leastOperands;
   std::size_t mostOperands;
-  const char* usage;  // options and operands
-  const char* about;  // a few words
+  const char* operands;  // for the line of usage
+  const char* about;     // a few words
   const char* details;
   // Lines for a shell; what they print stands indented below them.
   const char* examples;
-  Option options[5];  // ended by a row without a name
+  std::vector<Option> options;
 };
 
-struct CommandRange {
-  const Command* first;
-  const Command* last;
-  const Command* begin() const { return first; }
-  const Command* end() const { return last; }
-};
-CommandRange AllCommands();
+// In the order of the help.
+const std::vector<const Command*>& AllCommands();
 
-// Null where there is none.
-const Command* FindCommand(const std::string& name);
+// Throws UsageError where there is none.
+const Command& FindCommand(const std::string& name);
+
+// Options of every command.
+const std::vector<Option>& CommonOptions();
+
+// Reads what stands behind the command's name and does the work.
+int RunCommand(const Command& command, const std::vector<std::string>& all);
 
 }  // namespace Example
 

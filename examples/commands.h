@@ -1,24 +1,31 @@
-// What the program can do. Each command prints to standard output and returns the exit status;
-// Failure and UsageError are thrown.
+// What the program can do: a row for each command, beside its handler.
 #ifndef ORTHOLAN_EXAMPLES_COMMANDS_H_
 #define ORTHOLAN_EXAMPLES_COMMANDS_H_
 
-#include "examples/arguments.h"
+#include "examples/command_table.h"
 
 namespace Example {
 
-int RunEncode(const Arguments& arguments);
-int RunDecode(const Arguments& arguments);
-int RunPairs(const Arguments& arguments);
-int RunGet(const Arguments& arguments);
-int RunSet(const Arguments& arguments);
-int RunEqual(const Arguments& arguments);
+// name_commands.cpp
+extern const Command kEncodeCommand;
+extern const Command kDecodeCommand;
+extern const Command kPairsCommand;
+extern const Command kEqualCommand;
 
-int RunShow(const Arguments& arguments);
-int RunSurvey(const Arguments& arguments);
+// attribute_commands.cpp
+extern const Command kGetCommand;
+extern const Command kSetCommand;
 
-int RunExtension(const Arguments& arguments);
-int RunGeneralName(const Arguments& arguments);
+// show.cpp, survey.cpp
+extern const Command kShowCommand;
+extern const Command kSurveyCommand;
+
+// extension_commands.cpp
+extern const Command kExtensionCommand;
+extern const Command kGeneralNameCommand;
+
+// Of several commands.
+extern const Option kJsonOption;  // --json
 
 }  // namespace Example
 

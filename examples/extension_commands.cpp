@@ -14,8 +14,10 @@ namespace Example {
 
 using namespace Ortholan;
 
+namespace {
+
 int RunExtension(const Arguments& arguments) {
-  const IdentObj record = ReadElement(arguments.operands[0]);
+  const IdentObj record = ReadElement(arguments.operands[0], Kind::kExtension);
   CertExtension extension;
   int error = 0;
   if (extension.ReadData(record.pbData, record.cbData, &error) == 0) {
@@ -33,10 +35,34 @@ int RunExtension(const Arguments& arguments) {
 }
 
 int RunGeneralName(const Arguments& arguments) {
-  GeneralName name = GeneralName::DerDecode(ReadElement(arguments.operands[0]));
+  GeneralName name = GeneralName::DerDecode(ReadElement(arguments.operands[0], Kind::kGeneralName));
   const std::string text = Output(name.ToString(0, 0));
   Print(std::to_string(name.GetTag()) + "\t" + text + "\n");
   return 0;
 }
+
+}  // namespace
+
+const Command kExtensionCommand = {
+    "extension",
+    RunExtension,
+    1,
+    1,
+    "RECORD",
+    "one certificate extension",
+    "Prints identifier, critical or not, value, and the record written anew, a line each.\n",
+    "x509name extension 300E0603551D0F0101FF0404030205A0\n",
+    {}};
+
+const Command kGeneralNameCommand = {"general-name",
+                                     RunGeneralName,
+                                     1,
+                                     1,
+                                     "NAME",
+                                     "one general name",
+                                     "Prints tag and text.\n",
+                                     "x509name general-name 820B6578616D706C652E6F7267\n"
+                                     "    2       example.org\n",
+                                     {}};
 
 }  // namespace Example

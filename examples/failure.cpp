@@ -18,7 +18,11 @@ void Fail(DWORD code, std::string_view what) {
   throw failure;
 }
 
+void Refuse(std::string_view what) { Fail(ERROR_SUCCESS, what); }
+
 namespace {
+
+bool isVerbose = false;
 
 struct MeaningRow {
   DWORD code;
@@ -31,7 +35,7 @@ constexpr DWORD Unsigned(long long code) { return static_cast<DWORD>(code); }
 // What the library and the platform calls under it set.
 const MeaningRow kMeanings[] = {
     {ERROR_SUCCESS, "no code was set"},
-    {ERROR_FILE_NOT_FOUND, "no such file, or no such structure type"},
+    {ERROR_FILE_NOT_FOUND, "no such file"},
     {ERROR_PATH_NOT_FOUND, "no such path"},
     {ERROR_ACCESS_DENIED, "access denied"},
     {ERROR_INVALID_HANDLE, "invalid handle"},
@@ -87,17 +91,16 @@ const char* Meaning(DWORD code) {
   return row != std::end(kMeanings) ? row->text : "unknown code";
 }
 
+void SetVerbose(bool value) { isVerbose = value; }
+
 std::string Describe(const Failure& failure) {
-  if (!failure.excerpt.empty()) return failure.what;
+  if (failure.code == ERROR_SUCCESS) return failure.what;
+  const std::string text = failure.what + ": " + Meaning(failure.code);
+  if (!isVerbose) return text;
   const auto code = static_cast<unsigned long>(failure.code);
   char number[48];
-  std::snprintf(number, sizeof number, ": last error %lu (0x%08lX): ", code, code);
-  return failure.what + number + Meaning(failure.code);
-}
-
-void ReportExcerpt(const std::string& lines) {
-  const std::string text = lines + "\n";
-  std::fwrite(text.data(), 1, text.size(), stderr);
+  std::snprintf(number, sizeof number, " (last error %lu, 0x%08lX)", code, code);
+  return text + number;
 }
 
 void ReportLine(const std::string& text) {
@@ -105,6 +108,11 @@ void ReportLine(const std::string& text) {
   const std::string line = Paint(Colour::kFault, "x509name:", Stream::kError) + " " +
                            Visible(DerHelper::ToWString(text, CP_UTF8)) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void Report(const std::string& where, const Failure& failure) {
+  ReportLine(where + ": " + Describe(failure));
+  if (!failure.excerpt.empty()) std::fputs((failure.excerpt + "\n").c_str(), stderr);
 }
 
 }  // namespace Example

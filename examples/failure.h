@@ -11,9 +11,9 @@ namespace Example {
 
 // What was asked for cannot be done: exit status 1.
 struct Failure {
-  Ortholan::DWORD code;
+  Ortholan::DWORD code;  // last error; 0 where `what` tells all
   std::string what;
-  // Lines that show the place; where there are any, `what` tells all and `code` nothing.
+  // Lines that show the place.
   std::string excerpt = {};
 };
 
@@ -26,15 +26,21 @@ struct UsageError {
 // later may change it.
 [[noreturn]] void Fail(Ortholan::DWORD code, std::string_view what);
 
+// Throws a Failure that needs no code.
+[[noreturn]] void Refuse(std::string_view what);
+
+// Whether messages name the system's codes.
+void SetVerbose(bool isVerbose);
+
 // What a last-error code means, in a few words.
 const char* Meaning(Ortholan::DWORD code);
-// "<what>: last error <decimal> (0x<hexadecimal>): <meaning>"
+// "<what>: <meaning>", with " (last error <decimal>, 0x<hexadecimal>)" where codes are asked for.
 std::string Describe(const Failure& failure);
 
 // Writes one line that begins with the program's name; line ends in `text` are made visible.
 void ReportLine(const std::string& text);
-// Writes lines in UTF-8 that show a place.
-void ReportExcerpt(const std::string& lines);
+// Writes the line "x509name: <where>: <description>", and the lines that show the place.
+void Report(const std::string& where, const Failure& failure);
 
 }  // namespace Example
 

@@ -18,8 +18,8 @@ constexpr char kExamples[] =
 )";
 
 constexpr char kArguments[] = R"(
-A NAME or RECORD is hexadecimal digits, a FILE (its DER or hexadecimal text), or "-" for
-standard input, which FILE and TEXT take as well. N is a number in C notation. Text is UTF-8.
+A NAME or RECORD is hexadecimal digits, base64, a FILE (its DER, or text in one of these forms or
+PEM), or "-" for standard input, which FILE and TEXT take as well. Text is UTF-8.
 
 Exit status: 0 done, 1 refused or failed, 2 wrong usage.
 `x509name COMMAND --help` tells the options of a command, `man x509name` everything.
@@ -49,30 +49,42 @@ std::string Indented(std::string_view lines) {
 
 }  // namespace
 
+namespace {
+
+std::string OptionRow(const Option& option) {
+  std::string left = option.name;
+  if (option.argument != nullptr) left += std::string(" ") + option.argument;
+  return Row(left, option.about);
+}
+
+}  // namespace
+
 std::string ProgramHelp() {
   std::string text =
       "usage: x509name COMMAND [OPTION]... ARGUMENT...\n"
       "Converts, shows and compares names of X.509 certificates.\n";
   text += Heading("Commands");
-  for (const Command& command : AllCommands()) text += Row(command.name, command.about);
+  for (const Command* command : AllCommands()) text += Row(command->name, command->about);
   text += Heading("Options");
-  text += Row("--help", "this text; behind a command, what it takes");
+  for (const Option& option : CommonOptions()) text += OptionRow(option);
   text += Row("--version", "the version");
   return text + Heading("Examples") + kExamples + kArguments;
 }
 
 std::string UsageLine(const Command& command) {
-  return std::string("usage: x509name ") + command.name + " " + command.usage;
+  std::string line = std::string("usage: x509name ") + command.name;
+  for (const Option& option : command.options) {
+    line += std::string(" [") + option.name;
+    if (option.argument != nullptr) line += std::string(" ") + option.argument;
+    line += "]";
+  }
+  return line + " " + command.operands;
 }
 
 std::string CommandHelp(const Command& command) {
   std::string text = UsageLine(command) + "\n" + command.details;
-  if (command.options[0].name != nullptr) text += Heading("Options");
-  for (const Option* option = command.options; option->name != nullptr; ++option) {
-    std::string left = option->name;
-    if (option->argument != nullptr) left += std::string(" ") + option->argument;
-    text += Row(left, option->about);
-  }
+  if (!command.options.empty()) text += Heading("Options");
+  for (const Option& option : command.options) text += OptionRow(option);
   return text + Heading("Examples") + Indented(command.examples);
 }
 

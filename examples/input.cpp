@@ -11,7 +11,9 @@
 #include <istream>
 #include <optional>
 
+#include "examples/der.h"
 #include "examples/failure.h"
+#include "examples/pasted.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -43,6 +45,11 @@ std::string ReadStandardInput() {
   return ReadStream(std::cin, "standard input");
 }
 
+bool Exists(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::exists(std::filesystem::u8path(path), error);
+}
+
 }  // namespace
 
 std::string ReadOctets(const std::string& path) {
@@ -70,26 +77,49 @@ void WriteOctets(const std::string& path, const IdentObj& bytes) {
   if (!stream) Fail(ERROR_WRITE_FAULT, "cannot write " + path);
 }
 
-std::wstring ReadText(const std::string& argument) {
+std::wstring ReadText(const std::string& argument, bool takesLines) {
   if (argument != "-") return FromUtf8(argument);
   std::string text = ReadStandardInput();
   if (!text.empty() && text.back() == '\n') text.pop_back();
   if (!text.empty() && text.back() == '\r') text.pop_back();
+  const auto lines = std::count(text.begin(), text.end(), '\n') + 1;
+  if (lines > 1 && !takesLines) {
+    Refuse("standard input has " + std::to_string(lines) +
+           " lines: --lines takes a name a line, --separator crlf all of them as one name");
+  }
   return FromUtf8(text);
 }
 
-IdentObj ReadElement(const std::string& argument) {
-  const bool isHex = !argument.empty() && std::all_of(argument.begin(), argument.end(), IsHexDigit);
-  const std::string content = isHex ? argument : ReadOctets(argument);
-  const bool isText = std::any_of(content.begin(), content.end(), IsHexDigit) &&
-                      std::all_of(content.begin(), content.end(), [](char character) {
-                        return IsHexDigit(character) || IsBlank(character);
-                      });
-  if (!isText) return IdentObj(content.data(), static_cast<DWORD>(content.size()));
+namespace {
 
-  const std::optional<std::string> bytes = FromHex(content);
-  if (!bytes) Fail(ERROR_INVALID_DATA, "an odd number of hexadecimal digits");
-  return IdentObj(bytes->data(), static_cast<DWORD>(bytes->size()));
+// A name of a file, "-", or the octets as text. Digits alone are always octets; what might be both
+// is a file where there is one.
+std::string ReadArgument(const std::string& argument) {
+  const bool isDigits = std::all_of(argument.begin(), argument.end(),
+                                    [](char character) { return DigitValue(character) >= 0; });
+  if (!argument.empty() && isDigits && argument.size() % 2 == 0) return *FromHex(argument);
+  if (argument != "-" && !Exists(argument)) {
+    // A word may well be base64 by chance.
+    const std::optional<std::string> octets = FromPastedText(argument);
+    if (octets && (FromHex(argument) || !OnlyElement(*octets).whole.empty())) return *octets;
+  }
+  return FromPasted(ReadOctets(argument));
+}
+
+IdentObj Checked(const std::string& octets, Kind kind) {
+  RequireOne(octets);
+  RefuseOther(octets, kind);
+  return Copy(octets);
+}
+
+}  // namespace
+
+IdentObj ReadElement(const std::string& argument, Kind kind) {
+  return Checked(ReadArgument(argument), kind);
+}
+
+IdentObj ReadElementText(const std::string& text, Kind kind) {
+  return Checked(FromPasted(text), kind);
 }
 
 void Print(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }

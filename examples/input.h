@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "examples/kinds.h"
+
 namespace Example {
 
 // The whole of a file, "-" being standard input, which can be named once: UsageError. Files above
@@ -15,11 +17,15 @@ std::string ReadOctets(const std::string& path);
 void WriteOctets(const std::string& path, const Ortholan::IdentObj& bytes);
 
 // A text in UTF-8: the argument itself, or for "-" standard input but for one line end behind it.
-std::wstring ReadText(const std::string& argument);
+// Several lines of standard input are refused unless `takesLines`.
+std::wstring ReadText(const std::string& argument, bool takesLines);
 
-// One encoding: hexadecimal digits alone are the encoding itself, "-" is standard input, anything
-// else a file; both hold the octets or hexadecimal text with white space anywhere.
-Ortholan::IdentObj ReadElement(const std::string& argument);
+// One encoding: the argument itself as pasted.h has it, a file, or "-" for standard input. Octets
+// left over, several encodings, and those of another kind than `kind` are refused with a hint.
+Ortholan::IdentObj ReadElement(const std::string& argument, Kind kind);
+
+// The same of a text that cannot be a file's name.
+Ortholan::IdentObj ReadElementText(const std::string& text, Kind kind);
 
 // Standard output. FinishOutput throws where it could not take everything.
 void Print(std::string_view text);

@@ -1,4 +1,4 @@
-// encode, decode, and what can be done with one name or two.
+// encode, decode, pairs, equal: a name's text and its octets.
 
 #include <ortholan/name_decoder.h>
 #include <ortholan/name_encoder.h>
@@ -6,7 +6,6 @@
 #include <ortholan/rdn.h>
 #include <ortholan/x509_name.h>
 
-#include <algorithm>
 #include <list>
 #include <string>
 #include <utility>
@@ -16,6 +15,8 @@
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/json.h"
+#include "examples/lines.h"
+#include "examples/name_options.h"
 #include "examples/name_text.h"
 #include "examples/text.h"
 #include "examples/text_failure.h"
@@ -24,17 +25,22 @@ namespace Example {
 
 using namespace Ortholan;
 
+const Option kJsonOption = {"--json", nullptr,
+                            "JSON in place of lines; the manual page has its shape"};
+
 namespace {
 
-constexpr DWORD kShortKeys = CERT_X500_NAME_STR;
-
-// `what`, and in parentheses the reason where the library left no code that tells it.
-std::string WithReason(const std::string& what, DWORD code, const std::string& reason) {
-  return code != ERROR_SUCCESS || reason.empty() ? what : what + " (" + reason + ")";
+// It is a letter of a name's text, where other forms have it take the next character's meaning.
+void WarnOfBackslash(const std::wstring& text) {
+  const std::size_t place = text.find(L'\\');
+  if (place == std::wstring::npos) return;
+  ReportLine("encode: warning: the backslash at character " + std::to_string(place + 1) +
+             " escapes nothing here and is a part of the value; --rfc4514 takes text with escapes");
 }
 
-// Encodes `text`. Wide text is the one form that means the same whatever the thread's code page.
+// Wide text is the one form that means the same whatever the thread's code page.
 IdentObj EncodeText(const std::wstring& text, DWORD options, bool sort) {
+  WarnOfBackslash(text);
   X500NameEncoder encoder;
   encoder.SetEncoderOptions(options);
   IdentObj der;
@@ -45,21 +51,53 @@ IdentObj EncodeText(const std::wstring& text, DWORD options, bool sort) {
   Fail(code, "the text cannot be encoded");
 }
 
-[[noreturn]] void FailToDecode(DWORD code, const IdentObj& name, const std::string& what) {
-  // The text decoder sets a code where the others do not.
-  const NameText text = ReadNameText(name);
-  if (code == ERROR_SUCCESS) code = text.code;
-  Fail(code, WithReason(what, code, text.reason));
+std::wstring DecodeText(const IdentObj& der, DWORD options) {
+  X500NameDecoder decoder;
+  decoder.SetDecoderOptions(options);
+  std::wstring text;
+  SetLastError(ERROR_SUCCESS);
+  if (!decoder.Decode(der, text, options)) FailToDecode(GetLastError(), der);
+  return text;
 }
 
-using AttributeTree = std::list<std::list<RDNAttr>>;
+int RunEncode(const Arguments& arguments) {
+  const DWORD options = EncoderOptions(arguments);
+  const std::wstring text =
+      ReadText(arguments.operands[0], (options & CERT_NAME_STR_CRLF_FLAG) != 0);
+  const IdentObj der = EncodeText(text, options, arguments.Has("--sort"));
+  if (const auto path = arguments.Value("--out")) {
+    WriteOctets(*path, der);
+  } else {
+    Print(Hex(der) + "\n");
+  }
+  return 0;
+}
 
-AttributeTree ReadTree(const X509Name& name, const char* what) {
-  AttributeTree tree;
-  SetLastError(ERROR_SUCCESS);
-  // An object without octets would be no name, and no failure either.
-  if (name.cbData != 0 && name.TryGetNameInfo(tree)) return tree;
-  FailToDecode(GetLastError(), name, what);
+int RunEncodeLines(const Arguments& arguments) {
+  if (arguments.Has("--out")) throw UsageError{"--lines prints, and takes no --out"};
+  const DWORD options = EncoderOptions(arguments);
+  const bool sort = arguments.Has("--sort");
+  return RunLines("encode", arguments.operands[0], [&](const std::string& line) {
+    return Hex(EncodeText(FromUtf8(line), options, sort));
+  });
+}
+
+std::string DecodedLine(const IdentObj& der, const Arguments& arguments) {
+  const std::wstring text = DecodeText(der, DecoderOptions(arguments));
+  return arguments.Has("--json") ? JsonObject().AddText("text", text).End() : Output(text);
+}
+
+int RunDecode(const Arguments& arguments) {
+  DecoderOptions(arguments);
+  Print(DecodedLine(ReadElement(arguments.operands[0], Kind::kName), arguments) + "\n");
+  return 0;
+}
+
+int RunDecodeLines(const Arguments& arguments) {
+  DecoderOptions(arguments);
+  return RunLines("decode", arguments.operands[0], [&](const std::string& line) {
+    return DecodedLine(ReadElementText(line, Kind::kName), arguments);
+  });
 }
 
 // A type and the lines of its value.
@@ -79,48 +117,13 @@ std::string PairJson(const Pair& pair) {
   return JsonObject().AddText("type", pair.first).Add("values", JsonArray(values)).End();
 }
 
-X509Name ReadName(const std::string& argument) { return X509Name(ReadElement(argument)); }
-
-}  // namespace
-
-int RunEncode(const Arguments& arguments) {
-  const IdentObj der = EncodeText(ReadText(arguments.operands[0]), arguments.Number("--options", 0),
-                                  arguments.Has("--sort"));
-  if (const auto path = arguments.Value("--out")) {
-    WriteOctets(*path, der);
-  } else {
-    Print(Hex(der) + "\n");
-  }
-  return 0;
-}
-
-int RunDecode(const Arguments& arguments) {
-  const DWORD options = arguments.Number("--options", kShortKeys);
-  const IdentObj der = ReadElement(arguments.operands[0]);
-  X500NameDecoder decoder;
-  decoder.SetDecoderOptions(options);
-  std::wstring text;
-  SetLastError(ERROR_SUCCESS);
-  if (!decoder.Decode(der, text, options)) {
-    FailToDecode(GetLastError(), der, "the name cannot be decoded");
-  }
-  if (arguments.Has("--json")) {
-    Print(JsonObject().AddText("text", text).End() + "\n");
-  } else {
-    Print(Output(text) + "\n");
-  }
-  return 0;
-}
-
 int RunPairs(const Arguments& arguments) {
-  const DWORD style = arguments.Number("--style", kShortKeys);
-  const IdentObj der = ReadElement(arguments.operands[0]);
+  const DWORD style = DecoderOptions(arguments);
+  const IdentObj der = ReadElement(arguments.operands[0], Kind::kName);
   X500NameDecoder decoder;
   std::list<Pair> pairs;
   SetLastError(ERROR_SUCCESS);
-  if (!decoder.Decode(der, pairs, style)) {
-    FailToDecode(GetLastError(), der, "the name cannot be decoded");
-  }
+  if (!decoder.Decode(der, pairs, style)) FailToDecode(GetLastError(), der);
   if (arguments.Has("--json")) {
     std::list<std::string> objects;
     for (const Pair& pair : pairs) objects.push_back(PairJson(pair));
@@ -131,51 +134,82 @@ int RunPairs(const Arguments& arguments) {
   return 0;
 }
 
-int RunGet(const Arguments& arguments) {
-  const std::string& oid = arguments.operands[0];
-  const X509Name name = ReadName(arguments.operands[1]);
-  // Tells the cause, which GetSimpleRDN does not.
-  ReadTree(name, "the name cannot be decoded");
-  std::wstring value;
+X509Name ReadName(const std::string& argument, const char* what) {
+  X509Name name(ReadElement(argument, Kind::kName));
+  std::list<std::list<RDNAttr>> tree;
   SetLastError(ERROR_SUCCESS);
-  if (!name.GetSimpleRDN(oid.c_str(), value)) {
-    Fail(static_cast<DWORD>(CRYPT_E_NOT_FOUND), "the name has no attribute " + oid);
-  }
-  Print(Output(value) + "\n");
-  return 0;
-}
-
-// What SetSimpleRDN does with 8-bit text in the thread's code page, with wide text.
-int RunSet(const Arguments& arguments) {
-  const std::string& oid = arguments.operands[0];
-  const std::wstring value = FromUtf8(arguments.operands[1]);
-  AttributeTree tree = ReadTree(ReadName(arguments.operands[2]), "the name cannot be decoded");
-
-  const auto rdn = std::find_if(tree.begin(), tree.end(), [&oid](const std::list<RDNAttr>& each) {
-    return !each.empty() && each.front().oid == CZEPString(oid.c_str());
-  });
-  if (rdn == tree.end()) {
-    Fail(static_cast<DWORD>(CRYPT_E_NOT_FOUND), "the name has no attribute " + oid);
-  }
-
-  std::wstring element = FromUtf8(oid) + L"=\"";
-  for (const wchar_t unit : value) element.append(unit == L'"' ? 2 : 1, unit);
-  const X509Name single(EncodeText(element + L"\"", 0, true));
-  rdn->front() = ReadTree(single, "the value cannot be read back").front().front();
-
-  X509Name changed;
-  SetLastError(ERROR_SUCCESS);
-  if (!changed.TrySetBy(tree, true)) Fail(GetLastError(), "the name cannot be encoded anew");
-  Print(Hex(changed) + "\n");
-  return 0;
+  // An object without octets would be no name, and no failure either.
+  if (name.cbData == 0 || !name.TryGetNameInfo(tree)) FailToDecode(GetLastError(), name, what);
+  return name;
 }
 
 int RunEqual(const Arguments& arguments) {
-  const X509Name first = ReadName(arguments.operands[0]);
-  const X509Name second = ReadName(arguments.operands[1]);
-  ReadTree(first, "the first name cannot be decoded");
-  ReadTree(second, "the second name cannot be decoded");
+  const X509Name first = ReadName(arguments.operands[0], "the first name");
+  const X509Name second = ReadName(arguments.operands[1], "the second name");
   return first == second ? 0 : 1;
 }
+
+}  // namespace
+
+const Command kEncodeCommand = {
+    "encode",
+    RunEncode,
+    1,
+    1,
+    "TEXT",
+    "the DER of a name text",
+    "Prints one line of hexadecimal digits. TEXT is a list of type=value; \"-\" reads it from\n"
+    "standard input, but for one line end behind it.\n",
+    "x509name encode --sort 'CN=Alpha, O=Org, C=RU'\n"
+    "x509name encode --utf8 --out name.der 'CN=Альфа, O=\"Org, Ltd\"'\n"
+    "x509name encode --lines names.txt\n",
+    {kUtf8Option,
+     kUtf8AlwaysOption,
+     kSeparatorOption,
+     kOptionsOption,
+     {"--sort", nullptr, "put the attributes in canonical order, common name last"},
+     {"--out", "FILE", "write the octets into FILE"},
+     {"--lines", nullptr, "TEXT is a file or \"-\", each line of it a name", RunEncodeLines}}};
+
+const Command kDecodeCommand = {
+    "decode",
+    RunDecode,
+    1,
+    1,
+    "NAME",
+    "the text of a name",
+    "Prints the text in one line, or with CR LF as the separator in several.\n",
+    "x509name decode 3010310E300C06035504031305416C706861\n"
+    "    CN=Alpha\n"
+    "x509name encode 'CN=Alpha, C=RU' | x509name decode --separator ';' -\n"
+    "x509name decode --json name.der\n",
+    {kStyleOption,
+     kSeparatorOption,
+     kOptionsOption,
+     kJsonOption,
+     {"--lines", nullptr, "NAME is a file or \"-\", each line of it a name", RunDecodeLines}}};
+
+const Command kPairsCommand = {"pairs",
+                               RunPairs,
+                               1,
+                               1,
+                               "NAME",
+                               "type and values of each RDN",
+                               "Prints a line for each RDN: type, tab, values joined by \" | \".\n",
+                               "x509name pairs name.der\n"
+                               "x509name pairs --style oids name.der | cut -f 1\n",
+                               {kStyleOption, kOptionsOption, kJsonOption}};
+
+const Command kEqualCommand = {
+    "equal",
+    RunEqual,
+    2,
+    2,
+    "NAME NAME",
+    "whether two names hold the same",
+    "Exit status 0 for equal names, 1 for others. The order of the attributes and the string\n"
+    "types of values do not count, letter case does.\n",
+    "x509name equal a.der b.der && echo same\n",
+    {}};
 
 }  // namespace Example

@@ -69,4 +69,13 @@ NameText ReadNameText(const IdentObj& name) {
   return result;
 }
 
+void FailToDecode(DWORD code, const IdentObj& name, const char* role) {
+  const std::string what = std::string(role) + " cannot be decoded";
+  // The text decoder sets a code where the others do not.
+  const NameText text = ReadNameText(name);
+  if (code == ERROR_SUCCESS) code = text.code;
+  if (code != ERROR_SUCCESS) Fail(code, what);
+  Refuse(text.reason.empty() ? what : what + ": " + text.reason);
+}
+
 }  // namespace Example

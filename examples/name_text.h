@@ -22,6 +22,10 @@ struct NameText {
 // The name's text with short keys (style 3).
 NameText ReadNameText(const Ortholan::IdentObj& name);
 
+// Throws the Failure for a name that a decoder refused with `code`.
+[[noreturn]] void FailToDecode(Ortholan::DWORD code, const Ortholan::IdentObj& name,
+                               const char* role = "the name");
+
 }  // namespace Example
 
 #endif  // ORTHOLAN_EXAMPLES_NAME_TEXT_H_

@@ -1,8 +1,5 @@
 #include "examples/pem.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "examples/text.h"
 
 namespace Example {
@@ -11,18 +8,6 @@ namespace {
 constexpr std::string_view kBegin = "-----BEGIN ";
 constexpr std::string_view kEnd = "-----END ";
 constexpr std::string_view kClose = "-----";
-
-// The last holds more octets behind the certificate.
-constexpr std::string_view kLabels[] = {"CERTIFICATE", "X509 CERTIFICATE", "TRUSTED CERTIFICATE"};
-
-// Cuts the first line from `rest`, without its end.
-std::string_view TakeLine(std::string_view& rest) {
-  const std::size_t end = rest.find('\n');
-  std::string_view line = rest.substr(0, end);
-  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-  while (!line.empty() && IsBlank(line.back())) line.remove_suffix(1);
-  return line;
-}
 
 bool StartsWith(std::string_view line, std::string_view prefix) {
   return line.substr(0, prefix.size()) == prefix;
@@ -33,10 +18,6 @@ std::string_view Label(std::string_view line, std::string_view prefix) {
   line.remove_prefix(prefix.size());
   const std::size_t close = line.find(kClose);
   return line.substr(0, close);
-}
-
-bool IsCertificate(std::string_view label) {
-  return std::find(std::begin(kLabels), std::end(kLabels), label) != std::end(kLabels);
 }
 
 // -1 for a character outside the alphabet.
@@ -76,42 +57,52 @@ std::optional<std::string> FromBase64(std::string_view text) {
   return bytes;
 }
 
-bool HasPemBlock(std::string_view file) {
-  return StartsWith(file, kBegin) || file.find("\n-----BEGIN ") != std::string_view::npos;
+bool HasPemBlock(std::string_view text) {
+  return StartsWith(text, kBegin) || text.find("\n-----BEGIN ") != std::string_view::npos;
 }
 
-std::size_t ForEachPemBlock(std::string_view file, const CertificateFound& found,
-                            const CertificateBad& bad) {
-  const std::size_t whole = file.size();
-  std::size_t number = 0;
-  bool inside = false;
+namespace {
+
+// A block whose lines end here, with what its closing line says.
+PemBlock Closed(std::string_view label, std::string_view lines, std::string_view closing) {
+  PemBlock block{label, {}, nullptr, 0};
+  std::optional<std::string> octets = FromBase64(lines);
+  if (Label(closing, kEnd) != label) {
+    block.fault = "a PEM block that ends with another label";
+  } else if (!octets) {
+    block.fault = "a PEM block that is no base64";
+  } else {
+    block.octets = *std::move(octets);
+  }
+  return block;
+}
+
+}  // namespace
+
+void ForEachPemBlock(std::string_view text, const std::function<void(const PemBlock&)>& found) {
+  std::string_view rest = text;
+  bool isInside = false;
   std::string_view label;
-  const char* text = nullptr;
-  while (!file.empty()) {
-    const char* const lineStart = file.data();
-    const std::string_view line = TakeLine(file);
+  const char* lines = nullptr;
+  const auto report = [&](PemBlock block) {
+    block.end = text.size() - rest.size();
+    found(block);
+  };
+  const auto unclosed = [&] { report({label, {}, "a PEM block without an end", 0}); };
+  while (!rest.empty()) {
+    const char* const lineStart = rest.data();
+    const std::string_view line = TakeLine(rest);
     if (StartsWith(line, kBegin)) {
-      if (inside && IsCertificate(label)) bad(++number, "a PEM block without an end");
-      inside = true;
+      if (isInside) unclosed();
+      isInside = true;
       label = Label(line, kBegin);
-      text = file.data();
-    } else if (inside && StartsWith(line, kEnd)) {
-      inside = false;
-      if (!IsCertificate(label)) continue;
-      const auto size = static_cast<std::size_t>(lineStart - text);
-      const std::optional<std::string> bytes = FromBase64({text, size});
-      ++number;
-      if (Label(line, kEnd) != label) {
-        bad(number, "a PEM block that ends with another label");
-      } else if (!bytes) {
-        bad(number, "a PEM block that is no base64");
-      } else {
-        found(number, *bytes, whole - file.size());
-      }
+      lines = rest.data();
+    } else if (isInside && StartsWith(line, kEnd)) {
+      isInside = false;
+      report(Closed(label, {lines, static_cast<std::size_t>(lineStart - lines)}, line));
     }
   }
-  if (inside && IsCertificate(label)) bad(++number, "a PEM block without an end");
-  return number;
+  if (isInside) unclosed();
 }
 
 }  // namespace Example

@@ -1,4 +1,4 @@
-// PEM text (RFC 7468).
+// PEM text (RFC 7468) and base64.
 #ifndef ORTHOLAN_EXAMPLES_PEM_H_
 #define ORTHOLAN_EXAMPLES_PEM_H_
 
@@ -10,19 +10,18 @@
 
 namespace Example {
 
-// The number of a certificate, from 1, its octets, and where in the file it ends.
-using CertificateFound =
-    std::function<void(std::size_t number, const std::string& der, std::size_t position)>;
-// The number of what cannot be read, and a description.
-using CertificateBad = std::function<void(std::size_t number, const std::string& what)>;
+struct PemBlock {
+  std::string_view label;  // "CERTIFICATE"
+  std::string octets;      // empty where there is a fault
+  const char* fault;       // null, or what is wrong with the block
+  std::size_t end;         // octets of the text up to behind the block
+};
 
-// Whether a line of `file` opens a block.
-bool HasPemBlock(std::string_view file);
+// Whether a line of `text` opens a block.
+bool HasPemBlock(std::string_view text);
 
-// Calls `found` for each certificate's block, `bad` for one that cannot be read. Returns how many
-// there were.
-std::size_t ForEachPemBlock(std::string_view file, const CertificateFound& found,
-                            const CertificateBad& bad);
+// Calls `found` for each block, whatever stands between them.
+void ForEachPemBlock(std::string_view text, const std::function<void(const PemBlock&)>& found);
 
 // The octets of base64 text (RFC 4648 section 4) with white space anywhere; nothing where it is
 // none.

@@ -99,15 +99,13 @@ void Printer::ShowFile(const std::string& path) {
         },
         [this, &progress](std::size_t number, const std::string& what) {
           progress.Hide();
-          Refuse(number, {ERROR_INVALID_DATA, what});
+          Refuse(number, {ERROR_SUCCESS, what});
         });
-    if (count == 0) Fail(ERROR_INVALID_DATA, path + " holds no certificate");
+    if (count == 0) Example::Refuse(path + " holds no certificate");
   } catch (const Failure& failure) {
     Refuse(0, failure);
   }
 }
-
-}  // namespace
 
 int RunShow(const Arguments& arguments) {
   const bool isJson = arguments.Has("--json");
@@ -118,5 +116,21 @@ int RunShow(const Arguments& arguments) {
   }
   return printer.IsSound() ? 0 : 1;
 }
+
+}  // namespace
+
+const Command kShowCommand = {
+    "show",
+    RunShow,
+    1,
+    kAnyNumber,
+    "FILE...",
+    "certificates: names and extensions",
+    "A FILE holds certificates, in PEM with anything between them, or in DER. Subject and issuer\n"
+    "are shown as text and as a tree; what cannot be read is told on standard error, and the\n"
+    "others follow.\n",
+    "x509name show server.pem\n"
+    "x509name show --json bundle.pem | jq -r '.[].subject.text'\n",
+    {kJsonOption}};
 
 }  // namespace Example

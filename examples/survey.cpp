@@ -150,8 +150,6 @@ void Survey::PrintResult() const {
   PrintReasons("refused by the decoder:", refusedDer_);
 }
 
-}  // namespace
-
 int RunSurvey(const Arguments& arguments) {
   Survey survey;
   for (const std::string& path : arguments.operands) {
@@ -168,5 +166,18 @@ int RunSurvey(const Arguments& arguments) {
   survey.PrintResult();
   return 0;
 }
+
+}  // namespace
+
+const Command kSurveyCommand = {
+    "survey",
+    RunSurvey,
+    1,
+    kAnyNumber,
+    "FILE...",
+    "count what becomes of names",
+    "Takes the names of all certificates from DER to text and back, and counts the results.\n",
+    "x509name survey /etc/ssl/certs/ca-certificates.crt\n",
+    {}};
 
 }  // namespace Example

@@ -99,9 +99,6 @@ bool IsBlank(char character) {
   return character == ' ' || (character >= '\t' && character <= '\r');
 }
 
-namespace {
-
-// The value of a hexadecimal digit, -1 for any other character.
 int DigitValue(char character) {
   if (character >= '0' && character <= '9') return character - '0';
   if (character >= 'A' && character <= 'F') return character - 'A' + 10;
@@ -109,27 +106,12 @@ int DigitValue(char character) {
   return -1;
 }
 
-}  // namespace
-
-bool IsHexDigit(char character) { return DigitValue(character) >= 0; }
-
-std::optional<std::string> FromHex(std::string_view text) {
-  std::string bytes;
-  bytes.reserve(text.size() / 2);
-  int high = -1;
-  for (const char character : text) {
-    if (IsBlank(character)) continue;
-    const int value = DigitValue(character);
-    if (value < 0) return std::nullopt;
-    if (high < 0) {
-      high = value;
-    } else {
-      bytes += static_cast<char>(high * 16 + value);
-      high = -1;
-    }
-  }
-  if (high >= 0) return std::nullopt;
-  return bytes;
+std::string_view TakeLine(std::string_view& rest) {
+  const std::size_t end = rest.find('\n');
+  std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  while (!line.empty() && IsBlank(line.back())) line.remove_suffix(1);
+  return line;
 }
 
 std::optional<DWORD> ParseNumber(const std::string& text) {

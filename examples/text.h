@@ -34,11 +34,12 @@ std::string Output(const std::wstring& text);
 std::string Hex(const Ortholan::IdentObj& bytes);
 std::string SpacedHex(const Ortholan::IdentObj& bytes);
 
-// The octets of an even number of hexadecimal digits with white space anywhere among them; nothing
-// for any other text.
-std::optional<std::string> FromHex(std::string_view text);
-bool IsHexDigit(char character);
 bool IsBlank(char character);
+// The value of a hexadecimal digit, -1 for any other character.
+int DigitValue(char character);
+
+// Cuts the first line from `rest`: without its end and the white space before that.
+std::string_view TakeLine(std::string_view& rest);
 
 // A number below 2^32 in C notation: decimal, 0x or octal.
 std::optional<Ortholan::DWORD> ParseNumber(const std::string& text);

@@ -23,52 +23,30 @@ using namespace Ortholan;
 
 namespace {
 
-const Command& NeededCommand(const std::vector<std::string>& arguments) {
-  if (arguments.empty()) throw UsageError{"a command is needed; x509name --help lists them"};
-  const Command* const command = FindCommand(arguments[0]);
-  if (command == nullptr) {
-    throw UsageError{"there is no command " + arguments[0] + "; x509name --help lists them"};
-  }
-  return *command;
-}
-
 bool IsHelp(const std::string& argument) { return argument == "--help" || argument == "-h"; }
 
 // What the command line asks for in place of a command's work; empty where it does not.
 std::string Information(const std::vector<std::string>& arguments) {
-  if (arguments.empty()) return {};
-  if (IsHelp(arguments[0])) return ProgramHelp();
-  if (arguments[0] == "--version") return "x509name " ORTHOLAN_VERSION_STRING "\n";
-  const Command* const command = FindCommand(arguments[0]);
-  if (command == nullptr) return {};
+  const std::string& first = arguments[0];
+  if (first == "--version" || first == "-V") return "x509name " ORTHOLAN_VERSION_STRING "\n";
+  if (first == "help" && arguments.size() > 1) return CommandHelp(FindCommand(arguments[1]));
+  if (IsHelp(first) || first == "help") return ProgramHelp();
   const auto operands = std::find(arguments.begin(), arguments.end(), "--");
-  const bool isAsked = (arguments.size() == 2 && IsHelp(arguments[1])) ||
-                       std::find(arguments.begin(), operands, "--help") != operands;
-  return isAsked ? CommandHelp(*command) : std::string();
-}
-
-int RunCommand(const Command& command, const std::vector<std::string>& all) {
-  const Arguments arguments(all, 1, command.options);
-  const std::size_t count = arguments.operands.size();
-  if (count < command.leastOperands || count > command.mostOperands) {
-    throw UsageError{UsageLine(command)};
-  }
-  const int status = command.run(arguments);
-  FinishOutput();
-  return status;
+  const bool isAsked = std::any_of(arguments.begin(), operands, IsHelp);
+  return isAsked ? CommandHelp(FindCommand(first)) : std::string();
 }
 
 int Run(const std::vector<std::string>& arguments) {
+  if (arguments.empty()) throw UsageError{"a command is needed; x509name --help lists them"};
   const std::string information = Information(arguments);
-  if (information.empty()) return RunCommand(NeededCommand(arguments), arguments);
+  if (information.empty()) return RunCommand(FindCommand(arguments[0]), arguments);
   Print(information);
   FinishOutput();
   return 0;
 }
 
 int Refuse(const std::vector<std::string>& arguments, const Failure& failure) {
-  ReportLine((arguments.empty() ? "" : arguments[0] + ": ") + Describe(failure));
-  if (!failure.excerpt.empty()) ReportExcerpt(failure.excerpt);
+  Report(arguments[0], failure);
   return 1;
 }
 
