@@ -23,5 +23,5 @@ add_custom_target(bench-baseline
 
 if(ORTHOLAN_BUILD_TESTS)
   add_test(NAME bench_check COMMAND "${script}" check ${arguments})
-  set_tests_properties(bench_check PROPERTIES TIMEOUT 120 SKIP_RETURN_CODE 77)
+  set_tests_properties(bench_check PROPERTIES TIMEOUT 600 SKIP_RETURN_CODE 77)
 endif()

@@ -1,6 +1,6 @@
-# Every public header compiled by itself, once as the only thing a source includes and in C++17, and
-# once in C++20 behind what gets in the way elsewhere: on Windows the system's header without
-# NOMINMAX, and macros called min and max everywhere. A header that fails stops the build.
+# Every public header compiled as the only thing a source includes and in C++17, and all together in
+# C++20 behind what gets in the way elsewhere: on Windows the system's header without NOMINMAX, and
+# macros called min and max everywhere. A header that fails stops the build.
 file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include"
   "${PROJECT_SOURCE_DIR}/include/ortholan/*.h" "${PROJECT_SOURCE_DIR}/include/ortholan/*.hpp"
   "${PROJECT_SOURCE_DIR}/include/ortholan/strict/*.h" "${PROJECT_SOURCE_DIR}/include/ortholan/strict/*.hpp")
@@ -22,18 +22,17 @@ string(APPEND surroundings "#undef min
 ")
 
 set(alone "")
-set(surrounded "")
 foreach(header IN LISTS headers)
   string(MAKE_C_IDENTIFIER "${header}" name)
   set(include "#include <${header}>\n")
-  file(CONFIGURE OUTPUT headers/${name}_alone.cpp CONTENT "@include@@include@" @ONLY)
-  file(CONFIGURE OUTPUT headers/${name}_surrounded.cpp CONTENT "@surroundings@@include@" @ONLY)
-  list(APPEND alone "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}_alone.cpp")
-  list(APPEND surrounded "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}_surrounded.cpp")
+  file(CONFIGURE OUTPUT headers/${name}.cpp CONTENT "@include@" @ONLY)
+  list(APPEND alone "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}.cpp")
+  string(APPEND surroundings "${include}")
 endforeach()
+file(CONFIGURE OUTPUT headers/surrounded.cpp CONTENT "@surroundings@" @ONLY)
 
 add_library(headers_alone OBJECT ${alone})
-add_library(headers_surrounded OBJECT ${surrounded})
+add_library(headers_surrounded OBJECT "${CMAKE_CURRENT_BINARY_DIR}/headers/surrounded.cpp")
 set_target_properties(headers_alone PROPERTIES CXX_STANDARD 17)
 set_target_properties(headers_surrounded PROPERTIES CXX_STANDARD 20)
 foreach(target IN ITEMS headers_alone headers_surrounded)

@@ -24,7 +24,7 @@ if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
     COMMAND "${ORTHOLAN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/capi/python_test.py")
   add_test(NAME python_example COMMAND "${ORTHOLAN_PYTHON}" -B "${example}")
   set_tests_properties(python_tests python_example PROPERTIES
-    TIMEOUT 120
+    TIMEOUT 600
     ENVIRONMENT
       "ORTHOLAN_LIBRARY=$<TARGET_FILE:ortholan>;PYTHONPATH=${PROJECT_SOURCE_DIR}/examples/python")
 endif()

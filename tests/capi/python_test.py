@@ -141,7 +141,7 @@ class Program(unittest.TestCase):
         environment = dict(os.environ, PYTHONUTF8="1")
         command = [sys.executable, "-B", str(EXAMPLES / "show.py"), *arguments]
         done = subprocess.run(
-            command, capture_output=True, encoding="utf-8", env=environment, timeout=60
+            command, capture_output=True, encoding="utf-8", env=environment, timeout=600
         )
         return done.returncode, done.stdout, done.stderr
 

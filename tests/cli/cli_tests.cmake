@@ -6,12 +6,24 @@ function(ortholan_cli_test name)
   add_test(NAME cli_${name} COMMAND ${ARGN})
   ortholan_test_properties(cli_${name})
   # A process for each command line.
-  set_tests_properties(cli_${name} PROPERTIES TIMEOUT 300)
+  set_tests_properties(cli_${name} PROPERTIES TIMEOUT 600)
 endfunction()
 
 # A table of command lines each.
 foreach(table IN ITEMS encode decode usage certificates hostile)
   ortholan_cli_test(${table} "${cli}/run.sh" ${table}.sh ${runs_x509name})
+endforeach()
+
+# What the strict commands say: tables of command lines, and runners of vector files.
+file(GLOB tables CONFIGURE_DEPENDS RELATIVE "${cli}" "${cli}/strict_*.sh")
+foreach(table IN LISTS tables)
+  get_filename_component(name "${table}" NAME_WE)
+  ortholan_cli_test(${name} "${cli}/run.sh" ${table} ${runs_x509name})
+endforeach()
+file(GLOB runners CONFIGURE_DEPENDS "${cli}/strict_*.py")
+foreach(runner IN LISTS runners)
+  get_filename_component(name "${runner}" NAME_WE)
+  ortholan_cli_test(${name} python3 "${runner}" "${CMAKE_CURRENT_SOURCE_DIR}/data" ${runs_x509name})
 endforeach()
 
 set(certificates "${CMAKE_CURRENT_SOURCE_DIR}/data/certificates")

@@ -34,7 +34,7 @@ def run_gdb(gdb, program, names, commands, **settings):
     for command in commands:
         arguments += ["-ex", command]
     done = subprocess.run(arguments + ["--args", program, names], capture_output=True, check=False,
-                          timeout=100, env={**os.environ, "LC_ALL": "C.UTF-8", **settings})
+                          timeout=600, env={**os.environ, "LC_ALL": "C.UTF-8", **settings})
     return done.stdout.decode().splitlines(), done.stderr.decode()
 
 
