@@ -1,5 +1,7 @@
 #include "strict/der/refusal.h"
 
+#include <ortholan/strict/general_names.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -38,6 +40,26 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_NO_STRING, "the value is no string"},
     {ORTHOLAN_REASON_TOO_LONG, "an object identifier is too long to be shown"},
     {ORTHOLAN_REASON_DUPLICATE_EXTENSION, "the same extension stands there twice"},
+    {ORTHOLAN_REASON_HOST_EMPTY, "the host name is empty"},
+    {ORTHOLAN_REASON_HOST_EMPTY_LABEL, "a label of the host name is empty"},
+    {ORTHOLAN_REASON_HOST_LONG_LABEL, "a label of the host name is longer than 63 octets"},
+    {ORTHOLAN_REASON_HOST_LONG, "the host name is longer than 253 octets"},
+    {ORTHOLAN_REASON_HOST_CHARACTER, "a character stands there that no host name has"},
+    {ORTHOLAN_REASON_HOST_UNDERSCORE, "the host name has an underscore"},
+    {ORTHOLAN_REASON_HOST_HYPHEN, "a label of the host name begins or ends with a hyphen"},
+    {ORTHOLAN_REASON_HOST_NUMERIC, "the last label of the host name is a number"},
+    {ORTHOLAN_REASON_HOST_UNICODE, "letters beyond ASCII have to be written as A-labels (xn--)"},
+    {ORTHOLAN_REASON_HOST_TRAILING_DOT, "the host name ends in a dot"},
+    {ORTHOLAN_REASON_HOST_WILDCARD,
+     "a \"*\" has to be the whole left-most label, with two labels or more behind it"},
+    {ORTHOLAN_REASON_MAILBOX_AT, "the mailbox has no \"@\" behind its local part"},
+    {ORTHOLAN_REASON_MAILBOX_LOCAL, "the local part of the mailbox is malformed"},
+    {ORTHOLAN_REASON_MAILBOX_LITERAL, "the address in brackets of the mailbox is malformed"},
+    {ORTHOLAN_REASON_URI_SCHEME, "the URI has no scheme in front"},
+    {ORTHOLAN_REASON_URI_CHARACTER,
+     "a character stands there that the part of the URI cannot have"},
+    {ORTHOLAN_REASON_URI_LITERAL, "the address in brackets of the URI is malformed"},
+    {ORTHOLAN_REASON_URI_PORT, "the port of the URI is no number"},
     {ORTHOLAN_REASON_GENERAL_NAME, "this is none of the nine kinds of general names"},
     {ORTHOLAN_REASON_NAME_CHARACTER, "a name of characters holds a control character or no ASCII"},
     {ORTHOLAN_REASON_ADDRESS_SIZE, "an address has a size that no address has"},

@@ -1,5 +1,7 @@
 #include "strict/general_names/general_name_view.h"
 
+#include <ortholan/strict/general_names.h>
+
 #include "strict/der/identifier.h"
 #include "strict/names/name_view.h"
 

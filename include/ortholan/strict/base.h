@@ -111,16 +111,6 @@ enum {
   ORTHOLAN_REASON_DUPLICATE_EXTENSION = 120
 };
 
-// General names, 140 to 179 (RFC 5280 4.2.1.6).
-enum {
-  // A tag that is none of the nine, or one of them in the wrong form.
-  ORTHOLAN_REASON_GENERAL_NAME = 140,
-  // A control character or an octet outside IA5String in a name of characters.
-  ORTHOLAN_REASON_NAME_CHARACTER = 141,
-  // An address of neither 4 nor 16 octets; with a mask, of neither 8 nor 32.
-  ORTHOLAN_REASON_ADDRESS_SIZE = 142
-};
-
 // Stands in `met` where the input ended.
 #define ORTHOLAN_MET_END UINT32_C(0xFFFFFFFF)
 

@@ -1,0 +1,89 @@
+#include "strict/general_names/host.h"
+
+#include <ortholan/strict/general_names.h>
+
+#include <algorithm>
+
+namespace Ortholan::strict {
+namespace {
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsLetter(char c) { return LowerAscii(c) >= 'a' && LowerAscii(c) <= 'z'; }
+
+// Why a character cannot stand in a label.
+ortholan_reason FaultOfCharacter(char c, uint32_t choices) {
+  if (IsLetter(c) || IsDigit(c) || c == '-') return ORTHOLAN_REASON_NONE;
+  if (c == '_' && (choices & kUnderscores) != 0) return ORTHOLAN_REASON_NONE;
+  if (c == '_') return ORTHOLAN_REASON_HOST_UNDERSCORE;
+  if (c == '*') return ORTHOLAN_REASON_HOST_WILDCARD;
+  if (static_cast<uint8_t>(c) >= 0x80) return ORTHOLAN_REASON_HOST_UNICODE;
+  return ORTHOLAN_REASON_HOST_CHARACTER;
+}
+
+class HostChecker {
+ public:
+  HostChecker(std::string_view host, uint32_t choices, Refusal* refusal)
+      : host_(host), choices_(choices), refusal_(refusal) {}
+
+  bool Check() {
+    if (host_.empty()) return RefuseAt(ORTHOLAN_REASON_HOST_EMPTY, 0);
+    const std::string_view labels = WithoutTrailingDot(host_);
+    if (labels.size() != host_.size() && (choices_ & kTrailingDot) == 0 && !labels.empty() &&
+        labels.back() != '.') {
+      return RefuseAt(ORTHOLAN_REASON_HOST_TRAILING_DOT, labels.size());
+    }
+    size_t start = 0;
+    for (;;) {
+      const size_t end = std::min(labels.find('.', start), labels.size());
+      if (!CheckLabel(start, end)) return false;
+      if (end == labels.size()) break;
+      start = end + 1;
+    }
+    if (labels.size() > kMaxHostOctets) return RefuseAt(ORTHOLAN_REASON_HOST_LONG, kMaxHostOctets);
+    if (labels.find_first_not_of("0123456789", start) == std::string_view::npos) {
+      return RefuseAt(ORTHOLAN_REASON_HOST_NUMERIC, start);
+    }
+    return true;
+  }
+
+ private:
+  bool CheckLabel(size_t start, size_t end) {
+    if (start == end) return RefuseAt(ORTHOLAN_REASON_HOST_EMPTY_LABEL, start);
+    for (size_t i = start; i < end; ++i) {
+      const ortholan_reason fault = FaultOfCharacter(host_[i], choices_);
+      if (fault != ORTHOLAN_REASON_NONE) return RefuseAt(fault, i);
+    }
+    if (end - start > kMaxLabelOctets) {
+      return RefuseAt(ORTHOLAN_REASON_HOST_LONG_LABEL, start + kMaxLabelOctets);
+    }
+    if ((choices_ & kEdgeHyphens) != 0) return true;
+    if (host_[start] == '-') return RefuseAt(ORTHOLAN_REASON_HOST_HYPHEN, start);
+    if (host_[end - 1] == '-') return RefuseAt(ORTHOLAN_REASON_HOST_HYPHEN, end - 1);
+    return true;
+  }
+  bool RefuseAt(ortholan_reason reason, size_t at) {
+    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(host_.data()) + at,
+                  host_.size() - at);
+  }
+
+  std::string_view host_;
+  uint32_t choices_;
+  Refusal* refusal_;
+};
+
+}  // namespace
+
+bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal) {
+  return HostChecker(host, choices, refusal).Check();
+}
+
+bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal) {
+  std::string_view base;
+  if (!TakeWildcard(pattern, &base)) return CheckHost(pattern, choices, refusal);
+  if (!CheckHost(base, choices, refusal)) return false;
+  if (!BehindFirstLabel(WithoutTrailingDot(base)).empty()) return true;
+  return Refuse(refusal, ORTHOLAN_REASON_HOST_WILDCARD,
+                reinterpret_cast<const uint8_t*>(pattern.data()), pattern.size());
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,78 @@
+// Host names as names carry them (RFC 1034 3.5, RFC 5890): checked, compared without case, taken
+// apart by labels. ASCII alone, without allocation.
+//
+//   if (!CheckHost("www.Example.org", kUnderscores, &refusal)) ...
+//   IsWithinHost("www.Example.org", "example.org")   // true: the host itself or below it
+#ifndef ORTHOLAN_STRICT_GENERAL_NAMES_HOST_H_
+#define ORTHOLAN_STRICT_GENERAL_NAMES_HOST_H_
+
+#include <string_view>
+
+#include "strict/der/refusal.h"
+
+namespace Ortholan::strict {
+
+constexpr size_t kMaxHostOctets = 253;
+constexpr size_t kMaxLabelOctets = 63;
+
+// What a host name may have beyond letters, digits and inner hyphens.
+enum HostChoice : uint32_t {
+  kPlainHost = 0,
+  kUnderscores = 1,  // anywhere in a label
+  kTrailingDot = 2,  // one, behind the last label
+  kEdgeHyphens = 4,  // labels that begin or end with a hyphen
+};
+
+// Whether `host` is a host name: labels of 1 to 63 octets, 253 in all without a dot at the end, the
+// last label no number. Notes the first fault at its place.
+bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal);
+// The same for a presented name, which may be "*." and a host name of two labels or more.
+bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
+
+constexpr char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
+
+// Compares without the case of ASCII letters; also schemes and keywords.
+inline bool SameWithoutCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (size_t i = 0; i < a.size(); ++i) {
+    if (a[i] != b[i] && LowerAscii(a[i]) != LowerAscii(b[i])) return false;
+  }
+  return true;
+}
+
+// The host without one dot at its end.
+constexpr std::string_view WithoutTrailingDot(std::string_view host) {
+  if (!host.empty() && host.back() == '.') host.remove_suffix(1);
+  return host;
+}
+
+// Whether `host` is `parent` or ends in "." and `parent`. Both are checked hosts without a dot at
+// the end; an empty parent has every host below it.
+inline bool IsWithinHost(std::string_view host, std::string_view parent) {
+  if (parent.empty()) return true;
+  if (host.size() < parent.size()) return false;
+  const size_t front = host.size() - parent.size();
+  return (front == 0 || host[front - 1] == '.') && SameWithoutCase(host.substr(front), parent);
+}
+
+// "*." in front of something; `*base` is what stands behind it.
+inline bool TakeWildcard(std::string_view pattern, std::string_view* base) {
+  if (pattern.size() < 2 || pattern[0] != '*' || pattern[1] != '.') return false;
+  *base = pattern.substr(2);
+  return true;
+}
+
+// What stands behind the first label and its dot; empty for a host of one label.
+constexpr std::string_view BehindFirstLabel(std::string_view host) {
+  const size_t dot = host.find('.');
+  return dot == std::string_view::npos ? std::string_view() : host.substr(dot + 1);
+}
+
+// Whether a label is of the form that stands for letters beyond ASCII (RFC 5890 2.3.2.1).
+inline bool IsALabel(std::string_view label) {
+  return label.size() > 4 && SameWithoutCase(label.substr(0, 4), "xn--");
+}
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_GENERAL_NAMES_HOST_H_
