@@ -1,6 +1,6 @@
 // A growing array whose first N items need no allocation: scratch space of one call.
-#ifndef ORTHOLAN_FOUNDATION_SMALL_BUFFER_H_
-#define ORTHOLAN_FOUNDATION_SMALL_BUFFER_H_
+#ifndef ORTHOLAN_BYTES_SMALL_BUFFER_H_
+#define ORTHOLAN_BYTES_SMALL_BUFFER_H_
 
 #include <cstddef>
 #include <cstring>
@@ -74,4 +74,4 @@ class SmallBuffer {
 
 }  // namespace Ortholan
 
-#endif  // ORTHOLAN_FOUNDATION_SMALL_BUFFER_H_
+#endif  // ORTHOLAN_BYTES_SMALL_BUFFER_H_
