@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "bytes/ascii.h"
 #include "capi/text.h"
-#include "foundation/ascii.h"
 #include "foundation/code_page.h"
 #include "names/encoder/type_resolver.h"
 

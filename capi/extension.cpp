@@ -1,8 +1,10 @@
 // One certificate extension.
+#include "bytes/byte_view.h"
 #include "capi/call.h"
 #include "capi/extension_record.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 
 namespace Ortholan::capi {
@@ -67,7 +69,7 @@ void ortholan_extension_free(ortholan_extension* extension) { delete extension; 
 ortholan_result ortholan_extension_oid(const ortholan_extension* extension, char** oid) {
   return Call(__func__, [&] {
     if (!Clear(oid) || extension == nullptr) return NullArgument();
-    GiveText(AsText(ByteView(extension->extension.oid)), oid, nullptr);
+    GiveText(AsText(ViewOf(extension->extension.oid)), oid, nullptr);
     return Done();
   });
 }
@@ -84,7 +86,7 @@ ortholan_result ortholan_extension_value(const ortholan_extension* extension, ui
                                          size_t* size) {
   return Call(__func__, [&] {
     if (!Clear(value, size) || extension == nullptr) return NullArgument();
-    GiveOctets(ByteView(extension->extension.value), value, size);
+    GiveOctets(ViewOf(extension->extension.value), value, size);
     return Done();
   });
 }
@@ -95,7 +97,7 @@ ortholan_result ortholan_extension_der(const ortholan_extension* extension, uint
     if (!Clear(der, size) || extension == nullptr) return NullArgument();
     Ortholan::IdentObj record;
     const Outcome written = WriteRecord(&extension->extension, &record);
-    if (written) GiveOctets(ByteView(record), der, size);
+    if (written) GiveOctets(ViewOf(record), der, size);
     return written;
   });
 }

@@ -5,12 +5,14 @@
 #include <list>
 #include <memory>
 
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "capi/call.h"
 #include "capi/extension_record.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/blob_view.h"
 #include "foundation/element_reader.h"
-#include "foundation/element_writer.h"
 #include "foundation/required_text.h"
 
 namespace Ortholan::capi {
@@ -129,7 +131,7 @@ ortholan_result ortholan_extensions_der(const ortholan_extensions* extensions, u
     if (!Clear(der, size) || extensions == nullptr) return NullArgument();
     Ortholan::IdentObj list;
     const Outcome written = WriteAll(*extensions, &list);
-    if (written) GiveOctets(ByteView(list), der, size);
+    if (written) GiveOctets(ViewOf(list), der, size);
     return written;
   });
 }

@@ -4,8 +4,8 @@
 
 #include <ortholan/cert_extension.h>
 
+#include "bytes/byte_view.h"
 #include "capi/call.h"
-#include "foundation/byte_view.h"
 
 namespace Ortholan::capi {
 

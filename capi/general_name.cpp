@@ -1,9 +1,11 @@
 // General names, one and a sequence of them.
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "capi/call.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/blob_view.h"
 #include "foundation/element_reader.h"
-#include "foundation/element_writer.h"
 
 namespace Ortholan::capi {
 namespace {
@@ -96,7 +98,7 @@ ortholan_result ortholan_general_name_value(const ortholan_general_name* name, u
   return Call(__func__, [&] {
     if (!Clear(value, size) || name == nullptr) return NullArgument();
     ByteView content;
-    const Status status = ContentOf(ByteView(name->name.GetContent()), &content);
+    const Status status = ContentOf(ViewOf(name->name.GetContent()), &content);
     if (status != Status::kOk) return Refused(ORTHOLAN_ERROR_DER, status);
     GiveOctets(content, value, size);
     return Done();
@@ -107,7 +109,7 @@ ortholan_result ortholan_general_name_der(const ortholan_general_name* name, uin
                                           size_t* size) {
   return Call(__func__, [&] {
     if (!Clear(der, size) || name == nullptr) return NullArgument();
-    GiveOctets(ByteView(name->name.GetContent()), der, size);
+    GiveOctets(ViewOf(name->name.GetContent()), der, size);
     return Done();
   });
 }

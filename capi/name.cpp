@@ -1,9 +1,12 @@
 // Whole names: made, compared, and turned into text and octets.
+#include "bytes/ascii.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "capi/call.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
-#include "foundation/element_writer.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/decoder/name_renderer.h"
@@ -71,7 +74,7 @@ Outcome CheckName(ByteView der) {
 
 Outcome Render(const X509Name& name, uint32_t options, char** text, size_t* size) {
   NameRenderer renderer(options & kStyleMask, options);
-  if (!renderer.Render(ByteView(name))) {
+  if (!renderer.Render(ViewOf(name))) {
     return RefusedByLastError(ORTHOLAN_ERROR_DER, Status::kCorrupt);
   }
   if (renderer.ascii().data() == nullptr) return GiveWideText(renderer.wide(), text, size);
@@ -142,7 +145,7 @@ ortholan_result ortholan_name_text(const ortholan_name* name, uint32_t options, 
 ortholan_result ortholan_name_der(const ortholan_name* name, uint8_t** der, size_t* size) {
   return Call(__func__, [&] {
     if (!Clear(der, size) || name == nullptr) return NullArgument();
-    GiveOctets(ByteView(name->name), der, size);
+    GiveOctets(ViewOf(name->name), der, size);
     return Done();
   });
 }

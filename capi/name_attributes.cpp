@@ -2,10 +2,13 @@
 #include <string>
 #include <vector>
 
+#include "bytes/byte_view.h"
+#include "bytes/hex.h"
 #include "capi/attribute_type.h"
 #include "capi/call.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
@@ -15,11 +18,10 @@ namespace Ortholan::capi {
 namespace {
 
 void AppendHexDigits(ByteView octets, std::string* text) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
-  for (const BYTE octet : octets) {
-    text->push_back(kDigits[octet >> 4]);
-    text->push_back(kDigits[octet & 0xF]);
-  }
+  const size_t before = text->size();
+  text->resize(before + 2 * octets.size);
+  char* out = text->data() + before;
+  for (const BYTE octet : octets) out = WriteHexOctet(octet, out);
 }
 
 Outcome AppendUtf8(std::wstring_view wide, std::string* text) {
@@ -120,7 +122,7 @@ class AttributeBlock {
 template <typename Use>
 Outcome WalkAttributes(const X509Name& name, Use use) {
   Outcome outcome = Done();
-  const bool walked = ForEachAttribute(ByteView(name), [&](const DecodedAttribute& each) {
+  const bool walked = ForEachAttribute(ViewOf(name), [&](const DecodedAttribute& each) {
     outcome = use(each);
     return static_cast<bool>(outcome);
   });
@@ -157,7 +159,7 @@ ortholan_result ortholan_name_count(const ortholan_name* name, size_t* count) {
   return Call(__func__, [&] {
     if (!Clear(count) || name == nullptr) return NullArgument();
     size_t rdns = 0;
-    const Status status = Ortholan::CountChildren(ByteView(name->name), &rdns);
+    const Status status = Ortholan::CountChildren(ViewOf(name->name), &rdns);
     if (status != Status::kOk) return Refused(ORTHOLAN_ERROR_DER, status);
     *count = rdns;
     return Done();

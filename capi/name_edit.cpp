@@ -1,12 +1,15 @@
 // Single RDNs of a name put in, replaced and taken out; all others keep their octets.
 #include <string>
 
+#include "bytes/ascii.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "capi/attribute_type.h"
 #include "capi/call.h"
 #include "capi/handles.h"
 #include "capi/text.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
-#include "foundation/element_writer.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/encoder/name_assembler.h"
 
@@ -22,7 +25,7 @@ struct Parts {
 
 // Without a type no RDN is looked for.
 Outcome Divide(const X509Name& name, const AttributeType* type, Parts* parts) {
-  ElementReader reader{ByteView(name)};
+  ElementReader reader{ViewOf(name)};
   ByteView rdns;
   for (Element rdn; reader.Next(&rdn);) {
     if (rdns.data == nullptr) rdns.data = rdn.bytes.data;
@@ -86,7 +89,7 @@ Outcome Put(ortholan_name* name, const char* type_text, std::string_view value, 
   if (outcome) outcome = EncodeOne(type, value, options, &made);
   if (outcome) outcome = Divide(name->name, replace ? &type : nullptr, &parts);
   if (!outcome) return outcome;
-  ElementReader reader{ByteView(made)};
+  ElementReader reader{ViewOf(made)};
   Element rdn;
   if (!reader.Next(&rdn)) return Refused(ORTHOLAN_ERROR_INTERNAL, reader.fault().status);
   return Join(parts, rdn.bytes, &name->name);

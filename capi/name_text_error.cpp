@@ -1,9 +1,9 @@
 // Why a name text is refused.
 #include <ortholan/name_text_error.h>
 
+#include "bytes/utf16.h"
 #include "capi/call.h"
 #include "capi/text.h"
-#include "foundation/utf16.h"
 
 namespace Ortholan::capi {
 namespace {

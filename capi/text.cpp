@@ -4,9 +4,10 @@
 #include <limits>
 #include <new>
 
+#include "bytes/ascii.h"
+#include "bytes/utf16.h"
 #include "foundation/code_page.h"
 #include "foundation/oid_text.h"
-#include "foundation/utf16.h"
 
 namespace Ortholan::capi {
 

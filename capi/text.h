@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "bytes/byte_view.h"
 #include "capi/call.h"
-#include "foundation/byte_view.h"
 
 namespace Ortholan::capi {
 

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
+#include "foundation/blob_view.h"
 #include "platform/calls.h"
 
 namespace Ortholan {
@@ -51,8 +52,8 @@ bool CertExtension::operator!=(const CertExtension& other) const {
 }
 
 bool CertExtension::operator<(const CertExtension& other) const {
-  return Order(ByteView(oid), ByteView(other.oid)) < 0 && critical < other.critical &&
-         Order(ByteView(value), ByteView(other.value)) < 0;
+  return Order(ViewOf(oid), ViewOf(other.oid)) < 0 && critical < other.critical &&
+         Order(ViewOf(value), ViewOf(other.value)) < 0;
 }
 
 bool CertExtension::operator>(const CertExtension& other) const { return other < *this; }

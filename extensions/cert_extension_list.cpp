@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
+#include "foundation/blob_view.h"
 
 template class std::list<Ortholan::CertExtension>;
 
@@ -14,7 +15,7 @@ constexpr DWORD kCountField = 4;
 template <typename List>
 auto FindOid(List* list, ByteView oid) {
   return std::find_if(list->begin(), list->end(), [oid](const CertExtension& extension) {
-    return SameBytes(ByteView(extension.oid), oid);
+    return SameBytes(ViewOf(extension.oid), oid);
   });
 }
 
@@ -36,7 +37,7 @@ bool CertExtensionList::FindExtension(CZEPString oid, CertExtension& out) const 
 }
 
 bool CertExtensionList::Update(const CertExtension& ext) {
-  const auto found = FindOid(this, ByteView(ext.oid));
+  const auto found = FindOid(this, ViewOf(ext.oid));
   if (found == end()) {
     push_back(ext);
     return true;

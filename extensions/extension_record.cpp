@@ -5,9 +5,12 @@
 #include <algorithm>
 #include <limits>
 
+#include "bytes/byte_view.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 #include "foundation/element_reader.h"
-#include "foundation/element_writer.h"
 #include "foundation/oid_text.h"
 #include "foundation/status_code.h"
 
@@ -44,11 +47,11 @@ Status ReadIdentifier(std::string_view text, SmallBuffer<BYTE, kMaxOidContent>* 
 // Leaves `record` as it is on failure.
 Status WriteRecord(const CertExtension& extension, IdentObj* record) {
   SmallBuffer<BYTE, kMaxOidContent> oid;
-  const Status status = ReadIdentifier(AsText(ByteView(extension.oid)), &oid);
+  const Status status = ReadIdentifier(AsText(ViewOf(extension.oid)), &oid);
   if (status != Status::kOk) return status;
   const ByteView critical(kCriticalElement,
                           extension.critical != 0 ? std::size(kCriticalElement) : 0);
-  const ByteView value(extension.value);
+  const ByteView value = ViewOf(extension.value);
   const uint64_t content = ElementSize(oid.size()) + critical.size + ElementSize(value.size);
   const uint64_t size = ElementSize(content);
   if (size > std::numeric_limits<DWORD>::max()) return Status::kNoMemory;
@@ -160,7 +163,7 @@ DWORD ReadRecordBytes(const CZEPFile& file, uint64_t position, DWORD limit, Iden
     const uint64_t wanted = std::min(tried, available);
     const DWORD code = ReadUpTo(file, static_cast<DWORD>(wanted), record);
     if (code != ERROR_SUCCESS) return code;
-    if (TellSize(ByteView(*record), &size)) break;
+    if (TellSize(ViewOf(*record), &size)) break;
     // What cannot be read is told by whoever decodes it.
     if (wanted == available) return ERROR_SUCCESS;
   }
@@ -177,7 +180,7 @@ DWORD DecodeFrom(const CZEPFile& file, uint64_t position, DWORD limit, CertExten
   } catch (const XZEPStatus& failure) {
     return ASNTStatusToWinError(failure.GetStatus());
   }
-  const DWORD code = Decode(ByteView(record), extension, consumed);
+  const DWORD code = Decode(ViewOf(record), extension, consumed);
   if (code != ERROR_SUCCESS) return code;
   return file.Seek(position + *consumed) ? ERROR_SUCCESS : GetLastError();
 }

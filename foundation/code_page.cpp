@@ -1,20 +1,11 @@
 #include "foundation/code_page.h"
 
-#include <cstdint>
-#include <cstring>
 #include <limits>
+
+#include "bytes/ascii.h"
 
 namespace Ortholan {
 namespace {
-
-constexpr uint64_t kHighBits = 0x8080808080808080;
-constexpr size_t kWord = sizeof(uint64_t);
-
-bool IsAsciiWord(const char* text) {
-  uint64_t word;
-  std::memcpy(&word, text, kWord);
-  return (word & kHighBits) == 0;
-}
 
 bool FitsTheCalls(size_t length) {
   if (length <= static_cast<size_t>(std::numeric_limits<int>::max())) return true;
@@ -41,21 +32,6 @@ Conversion WidenAs(UINT codePage, DWORD flags, std::string_view text, std::wstri
 
 }  // namespace
 
-bool IsAscii(std::string_view text) {
-  const char* const data = text.data();
-  const size_t size = text.size();
-  if (size < kWord) {
-    unsigned seen = 0;
-    for (const char c : text) seen |= static_cast<unsigned char>(c);
-    return seen < 0x80;
-  }
-  // The last word may overlap the one before.
-  for (size_t i = 0; i < size - kWord; i += kWord) {
-    if (!IsAsciiWord(data + i)) return false;
-  }
-  return IsAsciiWord(data + size - kWord);
-}
-
 Conversion Narrow(std::wstring_view text, UINT codePage, std::string* out) {
   if (text.empty()) {
     out->clear();
@@ -80,13 +56,6 @@ Conversion Widen(std::string_view text, UINT codePage, std::wstring* out) {
 
 Conversion WidenUtf8(std::string_view text, std::wstring* out) {
   return WidenAs(kCodePageUtf8, MB_ERR_INVALID_CHARS, text, out);
-}
-
-void AppendAscii(std::string_view text, std::wstring* out) {
-  const size_t before = out->size();
-  out->resize(before + text.size());
-  wchar_t* to = out->data() + before;
-  for (size_t i = 0; i < text.size(); ++i) to[i] = static_cast<unsigned char>(text[i]);
 }
 
 bool AppendWidened(std::string_view text, UINT codePage, std::wstring* out) {

@@ -8,8 +8,6 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/byte_view.h"
-
 namespace Ortholan {
 
 constexpr UINT kCodePageAnsi = 0;
@@ -27,17 +25,8 @@ Conversion Widen(std::string_view text, UINT codePage, std::wstring* out);
 // UTF-8 with last error 1113 (ERROR_NO_UNICODE_TRANSLATION) for a broken part.
 Conversion WidenUtf8(std::string_view text, std::wstring* out);
 
-// Appends text of characters below 0x80.
-void AppendAscii(std::string_view text, std::wstring* out);
 // Appends what Widen would give; false, `out` unchanged, where it fails.
 bool AppendWidened(std::string_view text, UINT codePage, std::wstring* out);
-
-// Whether every character is below 0x80, which all code pages of ours have in common.
-bool IsAscii(std::string_view text);
-
-inline std::string_view AsText(ByteView bytes) {
-  return {reinterpret_cast<const char*>(bytes.data), bytes.size};
-}
 
 }  // namespace Ortholan
 

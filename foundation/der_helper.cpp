@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <limits>
 
+#include "bytes/ascii.h"
+#include "bytes/byte_view.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 #include "foundation/element_header.h"
 #include "foundation/oid_text.h"
@@ -23,7 +26,7 @@ constexpr DWORD kStringTags[] = {kTagUtf8String,    kTagNumericString, kTagPrint
 
 ElementHeader HeaderOf(const IdentObj& element, const char* where) {
   ElementHeader header;
-  const Status status = ReadHeader(ByteView(element), &header);
+  const Status status = ReadHeader(ViewOf(element), &header);
   if (status != Status::kOk) Throw({status, where});
   return header;
 }
@@ -85,8 +88,8 @@ std::string DecodeOid(const IdentObj& oid, bool anyTag) {
   // An implicit tag hides the type; what stands here is an identifier.
   if (anyTag && header.cls != kUniversal) header.tag = kTagOid;
   IdentObj value;
-  Check(ASNTGetElement(header, ByteView(oid).end(), value), kWhere);
-  return std::string(AsText(ByteView(value)));
+  Check(ASNTGetElement(header, ViewOf(oid).end(), value), kWhere);
+  return std::string(AsText(ViewOf(value)));
 }
 
 IdentObj EncodeOid(const std::string& dotted) {
@@ -94,7 +97,7 @@ IdentObj EncodeOid(const std::string& dotted) {
 }
 
 IdentObj EncodeOctetString(const IdentObj& bytes) {
-  return PutPrimitive(kTagOctetString, ByteView(bytes));
+  return PutPrimitive(kTagOctetString, ViewOf(bytes));
 }
 
 IdentObj EncodeUtf8String(const std::wstring& text) {
@@ -117,7 +120,7 @@ std::wstring DecodeUtf8String(const IdentObj& value, bool anyTag) {
   const ElementHeader header = HeaderOf(value, kWhere);
   if (!anyTag && !IsStringTag(header)) Throw({Status::kWrongType, kStringOfWrongType});
   ByteView content;
-  const Status status = BoundedContent(header, ByteView(value).end(), &content);
+  const Status status = BoundedContent(header, ViewOf(value).end(), &content);
   if (status != Status::kOk) Throw({status, kWhere});
   const std::string_view text = AsText(content);
   if (IsAscii(text)) return std::wstring(text.begin(), text.end());

@@ -5,8 +5,9 @@
 #include <limits>
 #include <string_view>
 
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "foundation/element_header.h"
-#include "foundation/element_writer.h"
 #include "foundation/oid_text.h"
 #include "foundation/status_code.h"
 #include "foundation/time_text.h"

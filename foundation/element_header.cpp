@@ -1,27 +1,22 @@
 #include "foundation/element_header.h"
 
 #include <cstring>
+#include <limits>
 
 namespace Ortholan {
 namespace {
 
-constexpr BYTE kLastGroupMask = 0x7F;
-constexpr size_t kMaxLengthOctets = 8;
 constexpr const char* kMeasureFault = "ASNTGetIndefiniteLength";
 
-// Reads the groups of a high tag number from `*position` on.
+// Reads the number of a high tag, whose groups begin at `*position`.
 Status ReadHighTag(ByteView in, size_t* position, DWORD* tag) {
-  DWORD number = 0;
-  while (*position < in.size) {
-    const BYTE octet = in[(*position)++];
-    if (number > (0xFFFFFFFF >> 7)) return Status::kBadTag;
-    number = number << 7 | (octet & kLastGroupMask);
-    if ((octet & kLongForm) == 0) {
-      *tag = number;
-      return Status::kOk;
-    }
+  uint64_t number = 0;
+  if (ReadBase128(in, std::numeric_limits<uint32_t>::max(), position, &number) !=
+      Base128Result::kDone) {
+    return Status::kBadTag;
   }
-  return Status::kBadTag;
+  *tag = static_cast<DWORD>(number);
+  return Status::kOk;
 }
 
 // Octets before the first pair of zeros that lies whole in `content`; false where there is none.
@@ -40,36 +35,21 @@ bool CountToZeroPair(ByteView content, size_t* count) {
   return false;
 }
 
-Status ReadLongLength(ByteView in, size_t octets, size_t* position, DWORD* length) {
-  if (octets > kMaxLengthOctets || octets > in.size - *position) return Status::kCorrupt;
-  DWORD value = 0;
-  for (size_t i = 0; i < octets; ++i) value = value << 8 | in[(*position)++];
-  // 0xFFFFFFFF stands for the indefinite form in the header's description.
-  if (value == kIndefiniteLength) return Status::kCorrupt;
-  *length = value;
-  return Status::kOk;
-}
-
-// Reads the length octets at `position`; fills `length`, `content` and `indefinite`.
-Status ReadLength(ByteView in, size_t position, ElementHeader* header) {
-  if (position >= in.size) return Status::kCorrupt;
-  const BYTE first = in[position++];
-  DWORD length = first;
-  if (first == kLongForm) {
-    header->indefinite = true;
-    length = kIndefiniteLength;
-    if (header->constructed == 0) {
-      size_t count = 0;
-      if (!CountToZeroPair(in.From(position), &count) || count >= kIndefiniteLength) {
-        return Status::kCorrupt;
-      }
-      length = static_cast<DWORD>(count);
-    }
-  } else if (first > kLongForm) {
-    const Status status = ReadLongLength(in, first & kLastGroupMask, &position, &length);
-    if (status != Status::kOk) return status;
+// Reads the length octets at `position`; fills `length`, `content` and `indefinite`. Lengths wrap
+// to 32 bits.
+Status FillLength(ByteView in, size_t position, ElementHeader* header) {
+  Length length;
+  if (!ReadLength(in, &position, &length)) return Status::kCorrupt;
+  size_t octets = static_cast<DWORD>(length.octets);
+  header->indefinite = length.indefinite;
+  if (length.indefinite && header->constructed == 0 &&
+      !CountToZeroPair(in.From(position), &octets)) {
+    return Status::kCorrupt;
   }
-  header->length = length;
+  const bool is_open = length.indefinite && header->constructed != 0;
+  // 0xFFFFFFFF stands for the indefinite form in the header's description.
+  if (octets >= kIndefiniteLength) return Status::kCorrupt;
+  header->length = is_open ? kIndefiniteLength : static_cast<DWORD>(octets);
   header->content = in.data + position;
   return Status::kOk;
 }
@@ -114,7 +94,7 @@ Status ReadAnyHeader(ByteView in, ElementHeader* header) {
       return status;
     }
   }
-  return ReadLength(in, position, header);
+  return FillLength(in, position, header);
 }
 
 Status BoundedContent(const ASNT_ASN_STRUCT_INFO& info, const BYTE* end, ByteView* content) {

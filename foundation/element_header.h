@@ -4,41 +4,14 @@
 
 #include <ortholan/asn1.h>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {
 
-constexpr BYTE kClassMask = 0xC0;
-constexpr BYTE kUniversal = 0x00;
-constexpr BYTE kContextSpecific = 0x80;
-constexpr BYTE kConstructed = 0x20;
-constexpr BYTE kTagMask = 0x1F;
-constexpr BYTE kHighTagNumber = 0x1F;
-constexpr BYTE kLongForm = 0x80;
 constexpr DWORD kIndefiniteLength = 0xFFFFFFFF;
-
-// Universal tag numbers.
-enum Tag : DWORD {
-  kTagBoolean = 1,
-  kTagInteger = 2,
-  kTagBitString = 3,
-  kTagOctetString = 4,
-  kTagNull = 5,
-  kTagOid = 6,
-  kTagEnumerated = 10,
-  kTagUtf8String = 12,
-  kTagSequence = 16,
-  kTagSet = 17,
-  kTagNumericString = 18,
-  kTagPrintableString = 19,
-  kTagTeletexString = 20,
-  kTagIA5String = 22,
-  kTagUtcTime = 23,
-  kTagGeneralizedTime = 24,
-  kTagVisibleString = 26,
-  kTagBmpString = 30,
-};
 
 constexpr const char* kHeaderFault = "CASNTBaseRecord::ReadASNInfo";
 

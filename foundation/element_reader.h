@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
 #include "foundation/element_header.h"
 #include "foundation/status_code.h"
 

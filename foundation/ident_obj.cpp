@@ -6,7 +6,8 @@
 #include <new>
 #include <utility>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
+#include "foundation/blob_view.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {
@@ -101,7 +102,7 @@ void IdentObj::Assign(const void* data, DWORD size) {
 
 bool IdentObj::operator==(const IdentObj& other) const {
   if (cbData != other.cbData) return false;
-  return SameBytes(ByteView(*this), ByteView(other));
+  return SameBytes(ViewOf(*this), ViewOf(other));
 }
 
 bool IdentObj::operator!=(const IdentObj& other) const { return !(*this == other); }

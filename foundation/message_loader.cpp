@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "foundation/ascii.h"
+#include "bytes/ascii.h"
 #include "platform/calls.h"
 
 namespace Ortholan {

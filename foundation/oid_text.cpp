@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <limits>
 
+#include "bytes/base128.h"
+
 namespace Ortholan {
 namespace {
 
 constexpr uint32_t kSecondArcs = 40;
-constexpr BYTE kMoreGroups = 0x80;
 constexpr size_t kMaxArcDigits = 10;
-constexpr size_t kMaxArcGroups = 5;
+constexpr uint32_t kMaxArc = std::numeric_limits<uint32_t>::max();
 
 void AppendArc(uint32_t arc, OidText* text) {
   const size_t before = text->size();
@@ -28,7 +29,7 @@ bool ReadArc(const char** at, const char* end, uint32_t* arc) {
     const unsigned digit = static_cast<unsigned char>(*next) - unsigned{'0'};
     if (digit > 9) break;
     value = value * 10 + digit;
-    if (value > std::numeric_limits<uint32_t>::max()) return false;
+    if (value > kMaxArc) return false;
   }
   *at = next;
   *arc = static_cast<uint32_t>(value);
@@ -41,16 +42,6 @@ bool SkipDot(const char** at, const char* end) {
   return true;
 }
 
-// Base 128, most significant group first. False where there is no room before `end`.
-bool WriteGroups(uint32_t arc, const BYTE* end, BYTE** out) {
-  size_t groups = 1;
-  while (groups < kMaxArcGroups && arc >> (7 * groups) != 0) ++groups;
-  if (groups > static_cast<size_t>(end - *out)) return false;
-  while (--groups != 0) *(*out)++ = static_cast<BYTE>(arc >> (7 * groups) | kMoreGroups);
-  *(*out)++ = static_cast<BYTE>(arc & 0x7F);
-  return true;
-}
-
 }  // namespace
 
 Status FormatOid(ByteView content, OidText* text) {
@@ -59,18 +50,15 @@ Status FormatOid(ByteView content, OidText* text) {
   AppendArc(content[0] / kSecondArcs, text);
   text->push_back('.');
   AppendArc(content[0] % kSecondArcs, text);
-  uint32_t arc = 0;
-  bool unfinished = false;
-  for (const BYTE octet : content.From(1)) {
-    if (arc > (std::numeric_limits<uint32_t>::max() >> 7)) return Status::kCorrupt;
-    arc = arc << 7 | (octet & 0x7Fu);
-    unfinished = (octet & kMoreGroups) != 0;
-    if (unfinished) continue;
+  for (size_t position = 1; position < content.size;) {
+    uint64_t arc = 0;
+    if (ReadBase128(content, kMaxArc, &position, &arc) != Base128Result::kDone) {
+      return Status::kCorrupt;
+    }
     text->push_back('.');
-    AppendArc(arc, text);
-    arc = 0;
+    AppendArc(static_cast<uint32_t>(arc), text);
   }
-  return unfinished ? Status::kCorrupt : Status::kOk;
+  return Status::kOk;
 }
 
 Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* content) {
@@ -87,7 +75,9 @@ Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* cont
   while (at != end) {
     uint32_t arc = 0;
     if (!SkipDot(&at, end) || !ReadArc(&at, end, &arc)) return Status::kNotEncodable;
-    if (!WriteGroups(arc, octets + kMaxOidContent, &out)) return Status::kNotEncodable;
+    const size_t room = kMaxOidContent - static_cast<size_t>(out - octets);
+    if (Base128Size(arc) > room) return Status::kNotEncodable;
+    out = WriteBase128(out, arc);
   }
   content->Truncate(static_cast<size_t>(out - octets));
   return Status::kOk;

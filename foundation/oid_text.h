@@ -8,8 +8,8 @@
 
 #include <string_view>
 
-#include "foundation/byte_view.h"
-#include "foundation/small_buffer.h"
+#include "bytes/byte_view.h"
+#include "bytes/small_buffer.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {

@@ -5,9 +5,11 @@
 #include <limits>
 #include <utility>
 
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
+#include "foundation/blob_view.h"
 #include "foundation/element_header.h"
 #include "foundation/element_reader.h"
-#include "foundation/element_writer.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {
@@ -29,7 +31,7 @@ IdentObj WrapChildren(const std::list<IdentObj>& children, BYTE identifier) {
   IdentObj element(nullptr, static_cast<DWORD>(size));
   BYTE* out = WriteHeader(element.pbData, identifier, content);
   for (const IdentObj& child : children) {
-    WriteBytes(out, ByteView(child));
+    WriteBytes(out, ViewOf(child));
     out += child.cbData;
   }
   return element;

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "foundation/ascii.h"
+#include "bytes/ascii.h"
 
 namespace Ortholan {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <ortholan/platform.h>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "foundation/ascii.h"
+#include "bytes/ascii.h"
 #include "foundation/message_loader.h"
 #include "foundation/required_text.h"
 #include "foundation/status_code.h"

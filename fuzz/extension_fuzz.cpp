@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
+#include "foundation/blob_view.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
@@ -165,7 +166,7 @@ void FuzzExtension(const uint8_t* data, size_t size) {
   unsigned sum = 0;
   for (size_t i = 0; i < size; ++i) sum = sum * 31 + data[i];
   const IdentObj copy(data, static_cast<DWORD>(size));
-  ByteView rest(copy);
+  ByteView rest = ViewOf(copy);
   std::vector<CertExtension> extensions;
   for (bool first = true;; first = false) {
     CertExtension extension;

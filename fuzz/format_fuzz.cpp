@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string>
 
-#include "foundation/ascii.h"
+#include "bytes/ascii.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"

@@ -7,6 +7,7 @@
 #include <new>
 #include <string>
 
+#include "foundation/blob_view.h"
 #include "foundation/element_header.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
@@ -28,8 +29,8 @@ ByteView BehindIdentifier(ByteView element) {
 void CheckWritten(GeneralName name) {
   const IdentObj content = name.GetContent();
   const IdentObj der = name.DerEncode();
-  const ByteView before(content);
-  const ByteView after(der);
+  const ByteView before = ViewOf(content);
+  const ByteView after = ViewOf(der);
   ElementHeader header;
   if (ReadHeader(before, &header) != Status::kOk) {
     LAW(der == content);

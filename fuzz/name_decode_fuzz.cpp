@@ -13,9 +13,12 @@
 #include <utility>
 #include <vector>
 
+#include "bytes/byte_view.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 #include "foundation/element_reader.h"
-#include "foundation/element_writer.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
@@ -126,7 +129,7 @@ bool CheckText(const X509Name& name, DWORD style, DWORD separator) {
 
   std::wstring wide;
   NameRenderer renderer(style, options, true);
-  const auto rendered = Answer([&] { return renderer.Render(ByteView(name)); });
+  const auto rendered = Answer([&] { return renderer.Render(ViewOf(name)); });
   renderer.MoveTo(&wide);
   LAW(rendered == decoded && wide == text);
 
@@ -286,7 +289,7 @@ void CheckComparison(const X509Name& name, bool has_tree) {
   const std::string outcome = Outcome([&] { equal = name == copy; });
   LAW(outcome == (has_tree ? kReturned : kNameRefused));
   LAW(equal == has_tree);
-  if (has_tree) CheckOrders(ByteView(name));
+  if (has_tree) CheckOrders(ViewOf(name));
 }
 
 // Encoding what was decoded, and decoding that, changes nothing more.
@@ -351,7 +354,7 @@ void FuzzNameDecode(const uint8_t* data, size_t size) {
   CheckComparison(name, name.TryGetNameInfo(rdns));
   CheckSimpleList(name);
   CheckStable(name);
-  CheckSplitting(ByteView(name));
+  CheckSplitting(ViewOf(name));
 }
 
 }  // namespace Ortholan::fuzzing

@@ -3,6 +3,7 @@
 #include <ortholan/asn1.h>
 #include <ortholan/der_helper.h>
 
+#include "foundation/blob_view.h"
 #include "foundation/element_reader.h"
 #include "foundation/oid_text.h"
 #include "fuzz/input.h"
@@ -175,7 +176,7 @@ void CheckDerHelper(const IdentObj& element) {
 
 void FuzzScanner(const uint8_t* data, size_t size) {
   const IdentObj element(data, static_cast<DWORD>(size));
-  const ByteView bytes(element);
+  const ByteView bytes = ViewOf(element);
   CheckHeader(bytes);
   CheckIndefinite(bytes);
   CheckValue(bytes);

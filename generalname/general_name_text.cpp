@@ -8,8 +8,9 @@
 #include <list>
 #include <string_view>
 
-#include "foundation/byte_view.h"
-#include "foundation/utf16.h"
+#include "bytes/byte_view.h"
+#include "bytes/utf16.h"
+#include "foundation/blob_view.h"
 
 namespace Ortholan {
 namespace {
@@ -28,7 +29,7 @@ std::wstring FromAscii(std::string_view text) { return std::wstring(text.begin()
 // As many units as there are bytes: the bytes as UTF-16LE, an odd last one a unit of its own, then
 // NULs.
 std::wstring OtherNameText(const IdentObj& content) {
-  const ByteView bytes(content);
+  const ByteView bytes = ViewOf(content);
   std::wstring text;
   AppendUtf16Le(bytes, &text);
   if (bytes.size % 2 != 0) text.push_back(static_cast<wchar_t>(bytes[bytes.size - 1]));
@@ -71,7 +72,7 @@ std::wstring EdiPartyNameText(const IdentObj& content) {
 
 std::wstring IpAddressText(const IdentObj& content) {
   char text[32];
-  const ByteView b(content);
+  const ByteView b = ViewOf(content);
   if (b.size == 4) {
     std::snprintf(text, sizeof(text), "%d.%d.%d.%d", b[0], b[1], b[2], b[3]);
   } else if (b.size == 6) {

@@ -2,27 +2,15 @@
 
 #include <limits>
 
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
+#include "foundation/blob_view.h"
 #include "foundation/element_header.h"
-#include "foundation/element_writer.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {
-namespace {
-
-// Identifier octets as they stand, the 1F form with however many groups it was written.
-size_t IdentifierOctets(ByteView element) {
-  size_t octets = 1;
-  if ((element[0] & kTagMask) == kHighTagNumber) {
-    while ((element[octets] & kLongForm) != 0) ++octets;
-    ++octets;
-  }
-  return octets;
-}
-
-}  // namespace
-
 IdentObj WithContextTag(const IdentObj& element, DWORD tag) {
-  const ByteView bytes(element);
+  const ByteView bytes = ViewOf(element);
   ElementHeader header;
   if (ReadHeader(bytes, &header) != Status::kOk) return element;
   const ByteView rest = bytes.From(IdentifierOctets(bytes));

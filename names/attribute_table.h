@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
 
 namespace Ortholan {
 

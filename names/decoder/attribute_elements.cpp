@@ -1,6 +1,7 @@
 #include "names/decoder/attribute_elements.h"
 
-#include "foundation/element_writer.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 
 namespace Ortholan {
 namespace {

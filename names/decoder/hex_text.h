@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "foundation/byte_view.h"
+#include "bytes/byte_view.h"
 
 namespace Ortholan {
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "names/decoder/quoting.h"

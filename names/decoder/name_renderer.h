@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/byte_view.h"
-#include "foundation/small_buffer.h"
+#include "bytes/byte_view.h"
+#include "bytes/small_buffer.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/type_name.h"
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "foundation/blob_view.h"
 #include "foundation/status_code.h"
 #include "names/decoder/attribute_chain.h"
 #include "names/decoder/attribute_elements.h"
@@ -84,7 +85,7 @@ void CertNameInfoWrapper::Clean() {
 }
 
 bool X500NameDecoder::Decode(const IdentObj& name, CertNameInfoWrapper& info) {
-  const ByteView bytes(name);
+  const ByteView bytes = ViewOf(name);
   size_t count = 0;
   if (bytes.empty() || CountChildren(bytes, &count) != Status::kOk) return false;
   info.Clean();

@@ -3,6 +3,8 @@
 
 #include <tuple>
 
+#include "bytes/ascii.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "names/decoder/attribute_elements.h"
@@ -69,7 +71,7 @@ bool DecodeElem(ByteView rdn, DWORD style, Pairs* pairs) {
 bool X500NameDecoder::Decode(const IdentObj& name,
                              std::list<std::pair<std::wstring, std::list<std::wstring>>>& pairs,
                              DWORD style) {
-  const ByteView bytes(name);
+  const ByteView bytes = ViewOf(name);
   if (bytes.empty()) return false;
   pairs.clear();
   nameStyle_ = style;

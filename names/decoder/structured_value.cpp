@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "bytes/utf16.h"
 #include "foundation/status_code.h"
-#include "foundation/utf16.h"
 
 namespace Ortholan {
 namespace {

@@ -1,5 +1,6 @@
 #include "names/decoder/type_name.h"
 
+#include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "platform/calls.h"

@@ -1,8 +1,10 @@
 #include "names/decoder/value_text.h"
 
+#include "bytes/ascii.h"
+#include "bytes/byte_view.h"
+#include "bytes/utf16.h"
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
-#include "foundation/utf16.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/hex_text.h"
 

@@ -1,5 +1,6 @@
 #include <ortholan/name_decoder.h>
 
+#include "foundation/blob_view.h"
 #include "names/decoder/name_renderer.h"
 #include "names/decoder/type_name.h"
 
@@ -21,7 +22,7 @@ void X500NameDecoder::SetDecoderOptions(DWORD options) { decoderOptions_ = optio
 DWORD X500NameDecoder::GetDecoderOptions() const { return decoderOptions_; }
 
 bool X500NameDecoder::Decode(const IdentObj& name, std::wstring& text, DWORD options) {
-  const ByteView bytes(name);
+  const ByteView bytes = ViewOf(name);
   if (bytes.empty()) return false;
   nameStyle_ = options & kStyleMask;
   NameRenderer renderer(nameStyle_, decoderOptions_);

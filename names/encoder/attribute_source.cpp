@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+#include "bytes/ascii.h"
+#include "bytes/byte_view.h"
+#include "bytes/utf16.h"
+#include "foundation/blob_view.h"
+
 namespace Ortholan {
 namespace {
 
@@ -11,44 +16,26 @@ std::string_view WithoutTrailingNuls(std::string_view text) {
   return text.substr(0, text.find_last_not_of('\0') + 1);
 }
 
-wchar_t UnitAt(ByteView bytes, size_t index) {
-  return static_cast<wchar_t>(bytes[2 * index] | bytes[2 * index + 1] << 8);
-}
-
-// Copies the low octets of UTF-16LE units and tells whether all of them are ASCII. No branch in the
-// loop: the compiler takes many units at a time.
-bool NarrowAscii(const BYTE* units, size_t count, char* out) {
-  unsigned high = 0;
-  unsigned low = 0;
-  for (size_t i = 0; i < count; ++i) {
-    low |= units[2 * i];
-    high |= units[2 * i + 1];
-    out[i] = static_cast<char>(units[2 * i]);
-  }
-  return high == 0 && low < 0x80;
-}
-
 Characters ReadPadded(ByteView bytes, Arena* arena) {
+  const LittleEndianSource units{bytes.data};
   size_t count = bytes.size / 2;
-  for (size_t i = 0; i < kPaddingUnits && count != 0 && UnitAt(bytes, count - 1) == L'\0'; ++i) {
-    --count;
-  }
+  for (size_t i = 0; i < kPaddingUnits && count != 0 && units[count - 1] == 0; ++i) --count;
   char* const ascii = arena->Take<char>(count);
-  if (NarrowAscii(bytes.data, count, ascii)) return std::string_view(ascii, count);
+  if (NarrowAscii(units, count, ascii)) return std::string_view(ascii, count);
   wchar_t* const wide = arena->Take<wchar_t>(count);
-  for (size_t i = 0; i < count; ++i) wide[i] = UnitAt(bytes, i);
+  for (size_t i = 0; i < count; ++i) wide[i] = static_cast<wchar_t>(units[i]);
   return std::wstring_view(wide, count);
 }
 
 }  // namespace
 
 AttributeView::AttributeView(const RDNAttr& attr)
-    : oid(attr.oid.c_str()), value_type(attr.valueType), value(attr.value) {}
+    : oid(attr.oid.c_str()), value_type(attr.valueType), value(ViewOf(attr.value)) {}
 
 AttributeView::AttributeView(const CERT_RDN_ATTR& attr)
     : oid(attr.pszObjId != nullptr ? attr.pszObjId : ""),
       value_type(attr.dwValueType),
-      value(attr.Value) {}
+      value(ViewOf(attr.Value)) {}
 
 bool WidenCharacters(std::string_view text, UINT codePage, Arena* arena, Characters* characters) {
   if (IsAscii(text)) {

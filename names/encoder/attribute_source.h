@@ -7,8 +7,8 @@
 
 #include <string_view>
 
-#include "foundation/arena.h"
-#include "foundation/byte_view.h"
+#include "bytes/arena.h"
+#include "bytes/byte_view.h"
 #include "foundation/code_page.h"
 #include "names/encoder/value_encoder.h"
 

@@ -4,7 +4,8 @@
 
 #include <limits>
 
-#include "foundation/element_writer.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "foundation/oid_text.h"
 #include "foundation/status_code.h"
 #include "names/encoder/value_type.h"

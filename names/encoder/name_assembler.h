@@ -12,7 +12,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "foundation/small_buffer.h"
+#include "bytes/small_buffer.h"
 #include "names/attribute_table.h"
 #include "names/encoder/value_encoder.h"
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/arena.h"
+#include "bytes/arena.h"
 #include "foundation/chunked_list.h"
 #include "names/attribute_table.h"
 #include "names/encoder/char_class.h"

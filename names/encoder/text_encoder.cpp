@@ -5,7 +5,9 @@
 #include <cstring>
 #include <numeric>
 
-#include "foundation/element_writer.h"
+#include "bytes/ascii.h"
+#include "bytes/der_length.h"
+#include "bytes/der_tag.h"
 #include "foundation/status_code.h"
 #include "names/encoder/name_assembler.h"
 #include "names/encoder/name_parser.h"
@@ -170,25 +172,13 @@ bool Encode(std::basic_string_view<Char> trimmed, DWORD options, bool sortByPrio
 // worth the copy.
 constexpr size_t kMostNarrowed = 512;
 
-// Copies `text` to `out` and tells whether all of it is ASCII. No branch in the loop: the compiler
-// takes many characters at a time.
-bool NarrowAscii(std::wstring_view text, char* out) {
-  const wchar_t* const from = text.data();
-  uint32_t seen = 0;
-  for (size_t i = 0; i < text.size(); ++i) {
-    seen |= static_cast<uint32_t>(from[i]);
-    out[i] = static_cast<char>(from[i]);
-  }
-  return seen < 0x80;
-}
-
 }  // namespace
 
 bool EncodeNameText(std::wstring_view text, DWORD options, bool sortByPriority,
                     const AttributeRow** unfinished, IdentObj* der) {
   const std::wstring_view trimmed = Trimmed(text);
   char ascii[kMostNarrowed];
-  if (trimmed.size() <= kMostNarrowed && NarrowAscii(trimmed, ascii)) {
+  if (trimmed.size() <= kMostNarrowed && NarrowAscii(trimmed.data(), trimmed.size(), ascii)) {
     const std::string_view narrow(ascii, trimmed.size());
     return Encode(narrow, options, sortByPriority, unfinished, der);
   }

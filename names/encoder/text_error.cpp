@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "names/encoder/char_class.h"
 #include "names/encoder/encoder_options.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "foundation/ascii.h"
+#include "bytes/ascii.h"
 #include "platform/calls.h"
 
 namespace Ortholan {

@@ -1,6 +1,7 @@
 #include "names/encoder/value_encoder.h"
 
-#include "foundation/utf16.h"
+#include "bytes/der_tag.h"
+#include "bytes/utf16.h"
 #include "names/encoder/line_splitter.h"
 
 namespace Ortholan {

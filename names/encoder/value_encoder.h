@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "foundation/element_writer.h"
+#include "bytes/der_length.h"
 #include "names/encoder/char_class.h"
 #include "platform/string_value.h"
 

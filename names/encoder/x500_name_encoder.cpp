@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "foundation/arena.h"
+#include "bytes/arena.h"
 #include "foundation/code_page.h"
 #include "foundation/status_code.h"
 #include "names/encoder/attribute_source.h"

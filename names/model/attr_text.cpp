@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "bytes/small_buffer.h"
 #include "foundation/required_text.h"
-#include "foundation/small_buffer.h"
 #include "foundation/untyped_failure.h"
 #include "names/model/name_text.h"
 

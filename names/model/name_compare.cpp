@@ -11,8 +11,10 @@
 #include <string>
 #include <string_view>
 
+#include "bytes/ascii.h"
+#include "bytes/small_buffer.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
-#include "foundation/small_buffer.h"
 #include "foundation/untyped_failure.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
@@ -25,7 +27,7 @@ namespace {
 // The RDNs of a name; the empty object has none.
 class RdnReader {
  public:
-  explicit RdnReader(const X509Name& name) : empty_(name.cbData == 0), reader_(ByteView(name)) {}
+  explicit RdnReader(const X509Name& name) : empty_(name.cbData == 0), reader_(ViewOf(name)) {}
 
   bool Next(Element* rdn) { return reader_.Next(rdn); }
   size_t rest() const { return reader_.rest(); }
@@ -152,7 +154,7 @@ bool IsReadable(const X509Name& name) {
 
 // False in the result's stead is left to the caller where a name cannot be read.
 bool Compare(const X509Name& a, const X509Name& b, bool* equal) {
-  if (SameBytes(ByteView(a), ByteView(b))) {
+  if (SameBytes(ViewOf(a), ViewOf(b))) {
     *equal = true;
     return IsReadable(a);
   }

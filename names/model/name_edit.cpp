@@ -6,10 +6,11 @@
 #include <cstring>
 #include <memory>
 
-#include "foundation/ascii.h"
+#include "bytes/ascii.h"
+#include "bytes/utf16.h"
+#include "foundation/blob_view.h"
 #include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
-#include "foundation/utf16.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/model/name_text.h"
@@ -96,9 +97,9 @@ bool ReadPairs(const X509Name& name, Pairs* pairs) {
   };
   if constexpr (std::is_same_v<Pairs, std::vector<SimpleRDN>>) {
     size_t count = 0;
-    if (CountChildren(ByteView(name), &count) == Status::kOk) found.reserve(count);
+    if (CountChildren(ViewOf(name), &count) == Status::kOk) found.reserve(count);
   }
-  if (name.cbData != 0 && !ForEachAttribute(ByteView(name), append)) return false;
+  if (name.cbData != 0 && !ForEachAttribute(ViewOf(name), append)) return false;
   pairs->swap(found);
   return true;
 }

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "bytes/ascii.h"
+#include "foundation/blob_view.h"
 #include "foundation/code_page.h"
 #include "foundation/required_text.h"
 #include "foundation/status_code.h"
@@ -59,7 +61,7 @@ bool Render(const X509Name& name, unsigned long options, std::wstring* text) {
 bool RenderNarrow(const X509Name& name, unsigned long options, std::string* out) {
   const DWORD word = static_cast<DWORD>(options);
   NameRenderer renderer(word & kNameStyleMask, word);
-  const ByteView bytes(name);
+  const ByteView bytes = ViewOf(name);
   if (name.cbData != 0 && (bytes.empty() || !renderer.Render(bytes))) return false;
   const std::string_view ascii = renderer.ascii();
   if (ascii.data() != nullptr) {
@@ -208,7 +210,7 @@ bool X509Name::TryGetNameInfo(std::list<std::list<RDNAttr>>& out) const {
     value.Write(attr.value.pbData);
     return true;
   };
-  if (cbData != 0 && !ForEachAttribute(ByteView(*this), append)) return false;
+  if (cbData != 0 && !ForEachAttribute(ViewOf(*this), append)) return false;
   out.swap(rdns);
   return true;
 }

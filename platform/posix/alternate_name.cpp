@@ -101,7 +101,7 @@ DWORD CheckEntries(const CERT_ALT_NAME_INFO& info, DerWriter* out) {
   return ERROR_SUCCESS;
 }
 
-DWORD ReadText(Bytes content, StructRoom* room, LPWSTR* text) {
+DWORD ReadText(ByteView content, StructRoom* room, LPWSTR* text) {
   *text = room->Take<wchar_t>(content.size + 1);
   for (std::size_t i = 0; i < content.size; ++i) {
     if (content.data[i] == 0) return CRYPT_E_ASN1_RULE;
@@ -111,7 +111,7 @@ DWORD ReadText(Bytes content, StructRoom* room, LPWSTR* text) {
   return ERROR_SUCCESS;
 }
 
-DWORD ReadOtherName(Bytes content, StructRoom* room, PCERT_OTHER_NAME* name) {
+DWORD ReadOtherName(ByteView content, StructRoom* room, PCERT_OTHER_NAME* name) {
   Element type;
   Element value;
   if (const DWORD error = TakeElement(&content, &type)) return error;
@@ -161,10 +161,10 @@ DWORD WriteAlternateName(const CERT_ALT_NAME_INFO& info, DerWriter* out) {
   return WriteAlternateNameAs(kSequence, info, out);
 }
 
-DWORD ReadAlternateNameContent(Bytes content, StructRoom* room, CERT_ALT_NAME_INFO* info) {
+DWORD ReadAlternateNameContent(ByteView content, StructRoom* room, CERT_ALT_NAME_INFO* info) {
   std::size_t count = 0;
   Element element;
-  for (Bytes rest = content; rest.size != 0; ++count) {
+  for (ByteView rest = content; rest.size != 0; ++count) {
     if (const DWORD error = TakeElement(&rest, &element)) return error;
   }
   auto* const entries = room->Take<CERT_ALT_NAME_ENTRY>(count);
@@ -178,8 +178,8 @@ DWORD ReadAlternateNameContent(Bytes content, StructRoom* room, CERT_ALT_NAME_IN
   return ERROR_SUCCESS;
 }
 
-DWORD ReadAlternateName(Bytes der, StructRoom* room, CERT_ALT_NAME_INFO* info) {
-  Bytes content;
+DWORD ReadAlternateName(ByteView der, StructRoom* room, CERT_ALT_NAME_INFO* info) {
+  ByteView content;
   if (const DWORD error = ReadTagged(der, kSequence, &content)) return error;
   return ReadAlternateNameContent(content, room, info);
 }

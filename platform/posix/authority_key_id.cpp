@@ -26,7 +26,7 @@ void WriteSerialNumber(const CRYPT_INTEGER_BLOB& number, DerWriter* out) {
   out->PutHeader(kSerialNumber, mark);
 }
 
-DWORD ReadSerialNumber(Bytes content, StructRoom* room, CRYPT_INTEGER_BLOB* number) {
+DWORD ReadSerialNumber(ByteView content, StructRoom* room, CRYPT_INTEGER_BLOB* number) {
   if (content.size == 0) return CRYPT_E_ASN1_CORRUPT;
   *number = room->Copy(content);
   if (number->pbData == nullptr) return ERROR_SUCCESS;
@@ -60,8 +60,8 @@ DWORD WriteAuthorityKeyId(const CERT_AUTHORITY_KEY_ID2_INFO& info, DerWriter* ou
   return ERROR_SUCCESS;
 }
 
-DWORD ReadAuthorityKeyId(Bytes der, StructRoom* room, CERT_AUTHORITY_KEY_ID2_INFO* info) {
-  Bytes members;
+DWORD ReadAuthorityKeyId(ByteView der, StructRoom* room, CERT_AUTHORITY_KEY_ID2_INFO* info) {
+  ByteView members;
   if (const DWORD error = ReadTagged(der, kSequence, &members)) return error;
   // Each member at most once and in this order, as their tags rise.
   BYTE before = 0;

@@ -21,7 +21,7 @@ void WriteUnsigned(DWORD value, DerWriter* out) {
   out->PutHeader(kInteger, mark);
 }
 
-DWORD ReadUnsigned(Bytes content, DWORD* value) {
+DWORD ReadUnsigned(ByteView content, DWORD* value) {
   if (content.size == 0 || content.data[0] >= 0x80) return CRYPT_E_ASN1_CORRUPT;
   std::uint64_t sum = 0;
   for (std::size_t i = 0; i < content.size; ++i) {
@@ -46,8 +46,8 @@ DWORD WriteBasicConstraints(const CERT_BASIC_CONSTRAINTS2_INFO& info, DerWriter*
   return ERROR_SUCCESS;
 }
 
-DWORD ReadBasicConstraints(Bytes der, StructRoom* /*room*/, CERT_BASIC_CONSTRAINTS2_INFO* info) {
-  Bytes members;
+DWORD ReadBasicConstraints(ByteView der, StructRoom* /*room*/, CERT_BASIC_CONSTRAINTS2_INFO* info) {
+  ByteView members;
   if (const DWORD error = ReadTagged(der, kSequence, &members)) return error;
   Element member;
   if (members.size != 0 && members.data[0] == kBoolean) {

@@ -30,8 +30,8 @@ DWORD WriteBits(const CRYPT_BIT_BLOB& info, DerWriter* out) {
   return ERROR_SUCCESS;
 }
 
-DWORD ReadBits(Bytes der, StructRoom* room, CRYPT_BIT_BLOB* info) {
-  Bytes content;
+DWORD ReadBits(ByteView der, StructRoom* room, CRYPT_BIT_BLOB* info) {
+  ByteView content;
   if (const DWORD error = ReadTagged(der, kBitString, &content)) return error;
   if (content.size == 0) return CRYPT_E_ASN1_CORRUPT;
   const BYTE unused = content.data[0];

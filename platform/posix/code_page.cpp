@@ -7,8 +7,8 @@
 #include <cstring>
 #include <cwchar>
 
+#include "bytes/utf8.h"
 #include "platform/posix/fail.h"
-#include "platform/posix/utf8.h"
 
 namespace Ortholan {
 namespace {
@@ -42,11 +42,11 @@ int Written(bool fits, std::size_t size) {
 int WidenUtf8(DWORD flags, const BYTE* text, std::size_t size, wchar_t* out, std::size_t room) {
   if ((flags & ~MB_ERR_INVALID_CHARS) != 0) return Fail(ERROR_INVALID_FLAGS);
   if (room == 0) {
-    const auto counted = posix::FromUtf8(text, size, posix::UnitCounter{});
+    const auto counted = FromUtf8(text, size, UnitCounter{});
     if (counted.broken && flags != 0) return Fail(ERROR_NO_UNICODE_TRANSLATION);
     return Counted(counted.sink.size);
   }
-  const auto written = posix::FromUtf8(text, size, posix::WideWriter{out, room});
+  const auto written = FromUtf8(text, size, WideWriter{out, room});
   if (written.broken && flags != 0) return Fail(ERROR_NO_UNICODE_TRANSLATION);
   return Written(written.fits, room - written.sink.room);
 }
@@ -60,28 +60,28 @@ int WidenAscii(DWORD flags, const BYTE* text, std::size_t size, wchar_t* out, st
   return Written(count == size, size);
 }
 
-bool IsBroken(posix::WideSource text, std::size_t size) {
+bool IsBroken(WideSource text, std::size_t size) {
   std::size_t count;
   for (std::size_t i = 0; i < size; i += count) {
-    if (posix::ReadUtf16(text, i, size - i, &count) == posix::kBroken) return true;
+    if (ReadUtf16(text, i, size - i, &count) == kBroken) return true;
   }
   return false;
 }
 
 int NarrowToUtf8(DWORD flags, const wchar_t* text, std::size_t size, char* out, std::size_t room) {
   if ((flags & ~WC_ERR_INVALID_CHARS) != 0) return Fail(ERROR_INVALID_FLAGS);
-  const posix::WideSource source{text};
+  const WideSource source{text};
   if (flags != 0 && IsBroken(source, size)) return Fail(ERROR_NO_UNICODE_TRANSLATION);
-  if (room == 0) return Counted(posix::Utf8Size(source, size));
-  const posix::ByteWriter writer{reinterpret_cast<BYTE*>(out), room};
-  const auto written = posix::ToUtf8(source, size, writer);
+  if (room == 0) return Counted(Utf8Size(source, size));
+  const ByteWriter writer{reinterpret_cast<BYTE*>(out), room};
+  const auto written = ToUtf8(source, size, writer);
   return Written(written.fits, room - written.sink.room);
 }
 
 int NarrowToAscii(DWORD flags, const wchar_t* text, std::size_t size, char* out, std::size_t room,
                   char substitute, BOOL* substituted) {
   if ((flags & ~kNarrowFlags) != 0) return Fail(ERROR_INVALID_FLAGS);
-  const posix::WideSource source{text};
+  const WideSource source{text};
   std::size_t count = 0;
   bool replaced = false;
   for (std::size_t i = 0; i < size; ++i) {

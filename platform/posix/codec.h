@@ -2,7 +2,7 @@
 // over one structure, run once to learn the size and once more to fill the caller's room:
 //
 //   DWORD Write(const Info& info, DerWriter* out);          last-error code, 0 for success
-//   DWORD Read(Bytes der, StructRoom* room, Info* info);
+//   DWORD Read(ByteView der, StructRoom* room, Info* info);
 
 #ifndef ORTHOLAN_PLATFORM_POSIX_CODEC_H_
 #define ORTHOLAN_PLATFORM_POSIX_CODEC_H_
@@ -32,7 +32,7 @@ class DerWriter {
     ++size_;
     if (end_ != nullptr) *(end_ - size_) = octet;
   }
-  void PutOctets(Bytes octets) {
+  void PutOctets(ByteView octets) {
     size_ += octets.size;
     if (end_ != nullptr && octets.size != 0) std::memcpy(end_ - size_, octets.data, octets.size);
   }
@@ -40,7 +40,7 @@ class DerWriter {
   void PutHeader(BYTE tag, std::size_t mark) {
     const std::size_t contentSize = size_ - mark;
     size_ += ElementSize(contentSize) - contentSize;
-    if (end_ != nullptr) WriteHeader(tag, contentSize, end_ - size_);
+    if (end_ != nullptr) WriteHeader(end_ - size_, tag, contentSize);
   }
 
   // Where in the structure a text was refused; the caller of the codec gets it in place of a size.
@@ -76,7 +76,7 @@ class StructRoom {
     if (array != nullptr)
       std::memcpy(reinterpret_cast<BYTE*>(array) + i * sizeof value, &value, sizeof value);
   }
-  CRYPT_DATA_BLOB Copy(Bytes octets) {
+  CRYPT_DATA_BLOB Copy(ByteView octets) {
     BYTE* const copy = Take<BYTE>(octets.size);
     if (copy != nullptr) std::memcpy(copy, octets.data, octets.size);
     return {static_cast<DWORD>(octets.size), copy};
@@ -91,7 +91,7 @@ inline bool IsThere(const CRYPT_DATA_BLOB& blob) {
   return blob.cbData == 0 || blob.pbData != nullptr;
 }
 
-inline Bytes ToBytes(const CRYPT_DATA_BLOB& blob) { return {blob.pbData, blob.cbData}; }
+inline ByteView ToBytes(const CRYPT_DATA_BLOB& blob) { return {blob.pbData, blob.cbData}; }
 
 // Stores the size; true where the caller's room takes it and is to be filled. `*result` is what
 // the call returns.
@@ -121,9 +121,9 @@ BOOL EncodeWith(const void* structInfo, BYTE* out, DWORD* outBytes) noexcept {
   return TRUE;
 }
 
-template <class Info, DWORD (*Read)(Bytes, StructRoom*, Info*)>
+template <class Info, DWORD (*Read)(ByteView, StructRoom*, Info*)>
 BOOL DecodeWith(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* outBytes) noexcept {
-  const Bytes der{encoded, encodedBytes};
+  const ByteView der{encoded, encodedBytes};
   Info info = {};
   StructRoom counter(sizeof info);
   if (const DWORD error = Read(der, &counter, &info)) return Fail(error);

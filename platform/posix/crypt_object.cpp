@@ -35,7 +35,7 @@ struct Codec {
 };
 
 template <class Info, DWORD (*Write)(const Info&, posix::DerWriter*),
-          DWORD (*Read)(posix::Bytes, posix::StructRoom*, Info*)>
+          DWORD (*Read)(ByteView, posix::StructRoom*, Info*)>
 constexpr Codec MakeCodec(std::uintptr_t constant) {
   return {constant, posix::EncodeWith<Info, Write>, posix::DecodeWith<Info, Read>};
 }

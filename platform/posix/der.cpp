@@ -1,24 +1,11 @@
 #include "platform/posix/der.h"
 
 namespace Ortholan::posix {
-namespace {
-
-// Octets of the tag at the front of `in`; 0 where it is not all there.
-std::size_t TagSize(Bytes in) {
-  if (in.size == 0) return 0;
-  if ((in.data[0] & 0x1F) != 0x1F) return 1;
-  std::size_t size = 1;
-  while (size < in.size && in.data[size] >= 0x80) ++size;
-  return size < in.size ? size + 1 : 0;
-}
-
-}  // namespace
-
-bool MeasureIndefinite(Bytes in, std::size_t* size) {
+bool MeasureIndefinite(ByteView in, std::size_t* size) {
   std::size_t depth = 1;
   std::size_t at = 0;
   while (in.size - at >= 2) {
-    if (in.data[at] == 0 && in.data[at + 1] == 0) {
+    if (in[at] == 0 && in[at + 1] == 0) {
       if (--depth == 0) {
         *size = at;
         return true;
@@ -26,11 +13,11 @@ bool MeasureIndefinite(Bytes in, std::size_t* size) {
       at += 2;
       continue;
     }
-    const bool constructed = (in.data[at] & 0x20) != 0;
-    const std::size_t tag = TagSize({in.data + at, in.size - at});
+    const bool constructed = (in[at] & kConstructed) != 0;
+    const std::size_t tag = IdentifierOctets(in.From(at));
     at += tag;
     if (tag == 0 || at == in.size) return false;
-    if (in.data[at] == 0x80) {
+    if (in[at] == kLongForm) {
       if (!constructed) return false;
       ++depth;
       ++at;
@@ -38,7 +25,7 @@ bool MeasureIndefinite(Bytes in, std::size_t* size) {
     }
     // A definite length reads alike behind the last octet of any tag.
     Element element;
-    if (!ReadElement({in.data + at - 1, in.size - at + 1}, &element)) return false;
+    if (!ReadElement(in.From(at - 1), &element)) return false;
     at += element.size - 1;
   }
   return false;

@@ -7,7 +7,7 @@ namespace {
 constexpr BYTE kIdentifier = 0x06;
 constexpr BYTE kSequence = 0x30;
 
-DWORD CountUsages(Bytes members, std::size_t* count) {
+DWORD CountUsages(ByteView members, std::size_t* count) {
   Element member;
   for (*count = 0; members.size != 0; ++*count) {
     if (const DWORD error = TakeElement(&members, &member)) return error;
@@ -32,8 +32,8 @@ DWORD WriteEnhancedKeyUsage(const CERT_ENHKEY_USAGE& info, DerWriter* out) {
   return ERROR_SUCCESS;
 }
 
-DWORD ReadEnhancedKeyUsage(Bytes der, StructRoom* room, CERT_ENHKEY_USAGE* info) {
-  Bytes members;
+DWORD ReadEnhancedKeyUsage(ByteView der, StructRoom* room, CERT_ENHKEY_USAGE* info) {
+  ByteView members;
   if (const DWORD error = ReadTagged(der, kSequence, &members)) return error;
   std::size_t count;
   if (const DWORD error = CountUsages(members, &count)) return error;

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "bytes/base128.h"
+
 namespace Ortholan::posix {
 namespace {
 
@@ -33,9 +35,9 @@ bool TakeLastArc(LPCSTR text, std::size_t* end, std::uint64_t* arc) {
 }
 
 void PutSubidentifier(std::uint64_t value, DerWriter* out) {
-  out->PutOctet(value & 0x7F);
-  for (value >>= 7; value != 0; value >>= 7)
-    out->PutOctet(static_cast<BYTE>(0x80 | (value & 0x7F)));
+  BYTE groups[kMostBase128];
+  const BYTE* const end = WriteBase128(groups, value);
+  out->PutOctets({groups, static_cast<std::size_t>(end - groups)});
 }
 
 // Writes decimal digits to a text, or only counts them.
@@ -63,17 +65,14 @@ class TextWriter {
   std::size_t size_ = 0;
 };
 
-DWORD WriteDotted(Bytes content, TextWriter* out) {
+DWORD WriteDotted(ByteView content, TextWriter* out) {
   if (content.size == 0) return CRYPT_E_ASN1_CORRUPT;
   bool first = true;
-  for (std::size_t i = 0; i < content.size; ++i) {
+  for (std::size_t i = 0; i < content.size;) {
     std::uint64_t value = 0;
-    for (;; ++i) {
-      if (i == content.size) return CRYPT_E_ASN1_CORRUPT;
-      value = value << 7 | (content.data[i] & 0x7Fu);
-      if (value > kLargestArc + 2 * kArcsOfFirst) return CRYPT_E_ASN1_LARGE;
-      if (content.data[i] < 0x80) break;
-    }
+    const Base128Result read = ReadBase128(content, kLargestArc + 2 * kArcsOfFirst, &i, &value);
+    if (read == Base128Result::kUnfinished) return CRYPT_E_ASN1_CORRUPT;
+    if (read == Base128Result::kTooLarge) return CRYPT_E_ASN1_LARGE;
     if (first) {
       const std::uint64_t arc = value < 2 * kArcsOfFirst ? value / kArcsOfFirst : 2;
       out->PutNumber(arc);
@@ -113,7 +112,7 @@ DWORD WriteIdentifier(BYTE tag, LPCSTR dotted, DerWriter* out) {
   return ERROR_SUCCESS;
 }
 
-DWORD ReadIdentifier(Bytes content, StructRoom* room, LPSTR* dotted) {
+DWORD ReadIdentifier(ByteView content, StructRoom* room, LPSTR* dotted) {
   TextWriter counter(nullptr);
   if (const DWORD error = WriteDotted(content, &counter)) return error;
   *dotted = room->Take<char>(counter.size());

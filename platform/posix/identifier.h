@@ -16,7 +16,7 @@ DWORD WriteIdentifier(BYTE tag, LPCSTR dotted, DerWriter* out);
 
 // Puts the terminated text of the content into `room`. Fails with 0x80093103 (empty, or the last
 // arc not finished) or 0x80093104 (an arc above 32 bits).
-DWORD ReadIdentifier(Bytes content, StructRoom* room, LPSTR* dotted);
+DWORD ReadIdentifier(ByteView content, StructRoom* room, LPSTR* dotted);
 
 }  // namespace Ortholan::posix
 

@@ -5,8 +5,8 @@
 #include <cstring>
 #include <iterator>
 
+#include "bytes/utf8.h"
 #include "platform/posix/codec.h"
-#include "platform/posix/utf8.h"
 
 namespace Ortholan::posix {
 namespace {
@@ -58,17 +58,17 @@ struct TagTable {
 };
 constexpr TagTable kTags;
 
-std::size_t ContentSize(Form form, Bytes value) {
+std::size_t ContentSize(Form form, ByteView value) {
   if (form == Form::kBigEndianUtf16) return value.size & ~std::size_t{1};
   if (form != Form::kUtf8) return value.size;
   return Utf8Size(LittleEndianSource{value.data}, value.size / 2);
 }
 
-void CopyOctets(Bytes from, BYTE* to) {
+void CopyOctets(ByteView from, BYTE* to) {
   if (from.size != 0) std::memcpy(to, from.data, from.size);
 }
 
-void WriteContent(Form form, Bytes value, std::size_t contentSize, BYTE* out) {
+void WriteContent(Form form, ByteView value, std::size_t contentSize, BYTE* out) {
   switch (form) {
     case Form::kBigEndianUtf16:
       SwapUnits(value.data, contentSize, out);
@@ -81,12 +81,12 @@ void WriteContent(Form form, Bytes value, std::size_t contentSize, BYTE* out) {
   }
 }
 
-std::size_t ValueSize(DWORD type, Bytes content) {
+std::size_t ValueSize(DWORD type, ByteView content) {
   if (type != CERT_RDN_UTF8_STRING) return content.size;
   return 2 * FromUtf8(content.data, content.size, UnitCounter{}).sink.size;
 }
 
-void WriteValue(DWORD type, Bytes content, BYTE* out) {
+void WriteValue(DWORD type, ByteView content, BYTE* out) {
   if (type == CERT_RDN_UTF8_STRING || type == CERT_RDN_BMP_STRING) {
     ReadUtf16Le(type, content, out);
   } else {
@@ -96,7 +96,7 @@ void WriteValue(DWORD type, Bytes content, BYTE* out) {
 
 }  // namespace
 
-std::size_t ReadUtf16Le(DWORD type, Bytes content, BYTE* out) noexcept {
+std::size_t ReadUtf16Le(DWORD type, ByteView content, BYTE* out) noexcept {
   if (type == CERT_RDN_BMP_STRING) {
     SwapUnits(content.data, content.size, out);
     return content.size;
@@ -110,7 +110,7 @@ BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) n
   const DWORD type = value.dwValueType;
   const TypeRow row = type < std::size(kTypes) ? kTypes[type] : kTypes[CERT_RDN_ANY_TYPE];
   if (row.form == Form::kRefused) return Fail(CRYPT_E_ASN1_CHOICE);
-  const Bytes octets{value.Value.pbData, value.Value.cbData};
+  const ByteView octets{value.Value.pbData, value.Value.cbData};
   if (octets.data == nullptr && octets.size != 0) return Fail(ERROR_INVALID_PARAMETER);
 
   const std::size_t contentSize = ContentSize(row.form, octets);
@@ -118,7 +118,7 @@ BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) n
   BOOL result;
   if (!WantsContent(size, out, outBytes, &result)) return result;
 
-  if (row.form != Form::kWhole) out = WriteHeader(row.tag, contentSize, out);
+  if (row.form != Form::kWhole) out = WriteHeader(out, row.tag, contentSize);
   WriteContent(row.form, octets, contentSize, out);
   return TRUE;
 }
@@ -129,7 +129,7 @@ BOOL DecodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* 
   if (type == 0) return Fail(CRYPT_E_ASN1_BADTAG);
   Element element;
   if (!ReadElement({encoded, encodedBytes}, &element)) return Fail(CRYPT_E_ASN1_CORRUPT);
-  const Bytes content = element.content;
+  const ByteView content = element.content;
   if (type == CERT_RDN_BMP_STRING && content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT);
 
   const std::size_t valueSize = ValueSize(type, content);

@@ -35,7 +35,7 @@ BOOL DecodeUnicodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out,
 
 // The content of a CERT_RDN_BMP_STRING, of even size, or a CERT_RDN_UTF8_STRING as UTF-16LE octets,
 // of which the latter gives up to twice as many as it has. Returns how many.
-std::size_t ReadUtf16Le(DWORD type, Bytes content, BYTE* out) noexcept;
+std::size_t ReadUtf16Le(DWORD type, ByteView content, BYTE* out) noexcept;
 
 }  // namespace Ortholan::posix
 

@@ -15,8 +15,8 @@ DWORD WriteOctetString(const CRYPT_DATA_BLOB& info, DerWriter* out) {
   return ERROR_SUCCESS;
 }
 
-DWORD ReadOctetString(Bytes der, StructRoom* room, CRYPT_DATA_BLOB* info) {
-  Bytes content;
+DWORD ReadOctetString(ByteView der, StructRoom* room, CRYPT_DATA_BLOB* info) {
+  ByteView content;
   if (const DWORD error = ReadTagged(der, kOctetString, &content)) return error;
   *info = room->Copy(content);
   return ERROR_SUCCESS;

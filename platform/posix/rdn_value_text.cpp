@@ -4,8 +4,9 @@
 
 #include <cstddef>
 
+#include "bytes/hex.h"
+#include "bytes/utf8.h"
 #include "platform/posix/fail.h"
-#include "platform/posix/utf8.h"
 
 namespace Ortholan {
 namespace {
@@ -33,7 +34,7 @@ Reading ReadingOf(DWORD type) {
 
 // Units before the first NUL.
 std::size_t TerminatedUnits(const CERT_RDN_VALUE_BLOB& value) {
-  const posix::LittleEndianSource units{value.pbData};
+  const LittleEndianSource units{value.pbData};
   std::size_t count = 0;
   while (count < value.cbData / 2 && units[count] != 0) ++count;
   return count;
@@ -45,12 +46,8 @@ std::size_t HexSize(const CERT_RDN_VALUE_BLOB& value) {
 
 template <class Char>
 void WriteHex(const CERT_RDN_VALUE_BLOB& value, Char* out) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
   *out++ = '#';
-  for (std::size_t i = 0; i < value.cbData; ++i) {
-    *out++ = static_cast<Char>(kDigits[value.pbData[i] >> 4]);
-    *out++ = static_cast<Char>(kDigits[value.pbData[i] & 0xF]);
-  }
+  for (std::size_t i = 0; i < value.cbData; ++i) out = WriteHexOctet(value.pbData[i], out);
 }
 
 // Sizes and texts without the terminator, in bytes of UTF-8 or in UTF-16 units.
@@ -58,19 +55,19 @@ void WriteHex(const CERT_RDN_VALUE_BLOB& value, Char* out) {
 std::size_t TextSize(Reading reading, const CERT_RDN_VALUE_BLOB& value, const char*) {
   if (reading == Reading::kHex) return HexSize(value);
   if (reading == Reading::kNarrow) return value.cbData;
-  return posix::Utf8Size(posix::LittleEndianSource{value.pbData}, TerminatedUnits(value));
+  return Utf8Size(LittleEndianSource{value.pbData}, TerminatedUnits(value));
 }
 
 std::size_t TextSize(Reading reading, const CERT_RDN_VALUE_BLOB& value, const wchar_t*) {
   if (reading == Reading::kHex) return HexSize(value);
   if (reading == Reading::kUtf16) return TerminatedUnits(value);
-  return posix::FromUtf8(value.pbData, value.cbData, posix::UnitCounter{}).sink.size;
+  return FromUtf8(value.pbData, value.cbData, UnitCounter{}).sink.size;
 }
 
 void WriteText(Reading reading, const CERT_RDN_VALUE_BLOB& value, char* out, std::size_t size) {
   if (reading == Reading::kUtf16) {
-    posix::ToUtf8(posix::LittleEndianSource{value.pbData}, TerminatedUnits(value),
-                  posix::ByteWriter{reinterpret_cast<BYTE*>(out), size});
+    ToUtf8(LittleEndianSource{value.pbData}, TerminatedUnits(value),
+           ByteWriter{reinterpret_cast<BYTE*>(out), size});
     return;
   }
   for (std::size_t i = 0; i < size; ++i) out[i] = static_cast<char>(value.pbData[i]);
@@ -78,10 +75,10 @@ void WriteText(Reading reading, const CERT_RDN_VALUE_BLOB& value, char* out, std
 
 void WriteText(Reading reading, const CERT_RDN_VALUE_BLOB& value, wchar_t* out, std::size_t size) {
   if (reading == Reading::kNarrow) {
-    posix::FromUtf8(value.pbData, value.cbData, posix::WideWriter{out, size});
+    FromUtf8(value.pbData, value.cbData, WideWriter{out, size});
     return;
   }
-  const posix::LittleEndianSource units{value.pbData};
+  const LittleEndianSource units{value.pbData};
   for (std::size_t i = 0; i < size; ++i) out[i] = static_cast<wchar_t>(units[i]);
 }
 

@@ -2,9 +2,9 @@
 #include <cstdint>
 #include <cstring>
 
+#include "bytes/utf8.h"
 #include "platform/posix/codec.h"
 #include "platform/posix/name_value.h"
-#include "platform/posix/utf8.h"
 
 namespace Ortholan::posix {
 namespace {
@@ -77,8 +77,7 @@ const TypeRow* RowOfTag(BYTE tag) {
 
 // U+FFFD for what is no character.
 std::uint32_t ToScalar(std::uint32_t value) {
-  const bool surrogate = (value & 0xFFFFF800) == 0xD800;
-  return surrogate || value > kLastScalar ? kReplacement : value;
+  return IsSurrogate(value) || value > kLastScalar ? kReplacement : value;
 }
 
 std::uint32_t UniversalAt(const BYTE* octets) {
@@ -102,7 +101,7 @@ std::size_t WriteUniversal(LittleEndianSource text, std::size_t units, BYTE* out
 }
 
 template <class Sink>
-Sink ReadUniversal(Bytes content, Sink sink) {
+Sink ReadUniversal(ByteView content, Sink sink) {
   for (std::size_t i = 0; i < content.size; i += kUniversalSize) {
     sink.Put(UniversalAt(content.data + i));
   }
@@ -116,7 +115,7 @@ bool EndsWithCharacter(Form form, std::size_t contentSize) {
   return contentSize % width == 0;
 }
 
-std::size_t CountUnits(Form form, Bytes content) {
+std::size_t CountUnits(Form form, ByteView content) {
   switch (form) {
     case Form::kBmp:
       return content.size / kUnitSize;
@@ -129,7 +128,7 @@ std::size_t CountUnits(Form form, Bytes content) {
   }
 }
 
-void ReadText(Form form, Bytes content, BYTE* out) {
+void ReadText(Form form, ByteView content, BYTE* out) {
   LittleEndianWriter writer{out};
   switch (form) {
     case Form::kBmp:
@@ -177,7 +176,7 @@ BOOL EncodeUnicodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outB
   const std::size_t contentSize = universal ? WriteUniversal(text, units, nullptr) : units;
   BOOL result;
   if (!WantsContent(ElementSize(contentSize), out, outBytes, &result)) return result;
-  out = WriteHeader(row->tag, contentSize, out);
+  out = WriteHeader(out, row->tag, contentSize);
   if (universal) {
     WriteUniversal(text, units, out);
   } else {
@@ -193,7 +192,7 @@ BOOL DecodeUnicodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out,
   if (row == nullptr) return Fail(CRYPT_E_ASN1_BADTAG);
   Element element;
   if (!ReadElement({encoded, encodedBytes}, &element)) return Fail(CRYPT_E_ASN1_CORRUPT);
-  const Bytes content = element.content;
+  const ByteView content = element.content;
   if (!EndsWithCharacter(row->form, content.size)) return Fail(CRYPT_E_ASN1_CORRUPT);
 
   const std::size_t textSize = kUnitSize * CountUnits(row->form, content);

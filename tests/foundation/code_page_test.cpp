@@ -4,7 +4,9 @@
 
 #include <string>
 
-#include "foundation/utf16.h"
+#include "bytes/ascii.h"
+#include "bytes/utf16.h"
+#include "foundation/blob_view.h"
 #include "tests/support/hex.h"
 
 namespace Ortholan::testing {
@@ -64,14 +66,14 @@ TEST(Utf16, IsCountedWrittenAndRead) {
     EXPECT_EQ(WriteUtf16Le(row.text, bytes.pbData), bytes.pbData + bytes.cbData);
     EXPECT_EQ(Hex(bytes), row.bytes);
     std::wstring read = L"x";
-    AppendUtf16Le(ByteView(bytes), &read);
+    AppendUtf16Le(ViewOf(bytes), &read);
     EXPECT_EQ(CountUtf8(read), 1 + row.utf8);
     WriteUtf16Le(read.substr(1), bytes.pbData);
     EXPECT_EQ(Hex(bytes), row.bytes);
   }
   EXPECT_EQ(CountUtf8(std::wstring_view(L"\xD83D\xDE00", 1)), 3u) << "half of a pair";
   std::wstring read;
-  AppendUtf16Le(ByteView(Blob("61 00 62")), &read);
+  AppendUtf16Le(ViewOf(Blob("61 00 62")), &read);
   EXPECT_EQ(read, L"a") << "an odd last octet is left";
 }
 

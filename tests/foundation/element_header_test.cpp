@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "foundation/blob_view.h"
 #include "tests/support/hex.h"
 #include "tests/support/thrown.h"
 
@@ -74,7 +75,7 @@ TEST(ElementHeader, IsReadOrRefused) {
 
     ElementHeader header;
     if (good) {
-      EXPECT_EQ(ReadHeader(ByteView(in), &header), Status::kOk);
+      EXPECT_EQ(ReadHeader(ViewOf(in), &header), Status::kOk);
       EXPECT_EQ(header.indefinite, row.headerSize == 2 && in.pbData[1] == 0x80);
     }
   }

@@ -4,6 +4,7 @@
 #include <list>
 #include <string>
 
+#include "foundation/blob_view.h"
 #include "foundation/element_reader.h"
 #include "tests/support/hex.h"
 #include "tests/support/thrown.h"
@@ -83,7 +84,7 @@ DWORD Walk(const IdentObj& in) {
   EXPECT_LE(consumed, in.cbData);
   EXPECT_TRUE(status == 0 || status == 205 || status == 206) << status;
 
-  ElementReader reader{ByteView(in)};
+  ElementReader reader{ViewOf(in)};
   std::list<IdentObj> views;
   for (Element child; reader.Next(&child);) {
     views.emplace_back(child.bytes.data, static_cast<DWORD>(child.bytes.size));

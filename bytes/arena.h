@@ -1,8 +1,6 @@
 // Memory for the texts of one call, released as a whole.
-#ifndef ORTHOLAN_FOUNDATION_ARENA_H_
-#define ORTHOLAN_FOUNDATION_ARENA_H_
-
-#include <ortholan/platform.h>
+#ifndef ORTHOLAN_BYTES_ARENA_H_
+#define ORTHOLAN_BYTES_ARENA_H_
 
 #include <cstddef>
 #include <memory>
@@ -31,19 +29,19 @@ class Arena {
   static constexpr size_t kChunk = 16 * 1024;
   static constexpr size_t kMost = static_cast<size_t>(-1) - kAlignment;
 
-  BYTE* TakeBytes(size_t size) {
+  uint8_t* TakeBytes(size_t size) {
     size = (size + kAlignment - 1) / kAlignment * kAlignment;
     if (size > left_) return TakeChunk(size);
-    BYTE* const taken = next_;
+    uint8_t* const taken = next_;
     next_ += size;
     left_ -= size;
     return taken;
   }
   // A large piece has a chunk of its own, so that the room left is not lost.
-  BYTE* TakeChunk(size_t size) {
+  uint8_t* TakeChunk(size_t size) {
     const bool is_large = size > kChunk / 4;
-    chunks_.emplace_back(new BYTE[is_large ? size : kChunk]);
-    BYTE* const chunk = chunks_.back().get();
+    chunks_.emplace_back(new uint8_t[is_large ? size : kChunk]);
+    uint8_t* const chunk = chunks_.back().get();
     if (!is_large) {
       next_ = chunk + size;
       left_ = kChunk - size;
@@ -51,12 +49,12 @@ class Arena {
     return chunk;
   }
 
-  alignas(kAlignment) BYTE first_[kFirst];
-  BYTE* next_ = first_;
+  alignas(kAlignment) uint8_t first_[kFirst];
+  uint8_t* next_ = first_;
   size_t left_ = kFirst;
-  std::vector<std::unique_ptr<BYTE[]>> chunks_;
+  std::vector<std::unique_ptr<uint8_t[]>> chunks_;
 };
 
 }  // namespace Ortholan
 
-#endif  // ORTHOLAN_FOUNDATION_ARENA_H_
+#endif  // ORTHOLAN_BYTES_ARENA_H_
