@@ -4,7 +4,7 @@ PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
 .PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline docs abi format \
-  package clean
+  deb package clean
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -20,16 +20,17 @@ help:
 	@echo 'make docs         the site: pages and public declarations, into build/native/docs/html'
 	@echo 'make abi          record the symbols that both libraries export in abi/'
 	@echo 'make format       format the sources'
+	@echo 'make deb          Debian packages into build/package/packages, unpacked and used'
 	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'
 	@echo '                  and used'
 	@echo 'make compilers    the tests built by clang++, natively and for Windows'
 	@echo 'make clean        delete build/'
 
 demo:
-	@scripts/setup.sh native
-	@cmake --preset native
-	@cmake --build --preset native --target x509name
-	@scripts/demo.sh build/native/x509name
+	@scripts/setup.sh demo
+	@cmake --preset release
+	@cmake --build --preset release --target x509name
+	@scripts/demo.sh build/release/x509name
 
 test:
 	@scripts/setup.sh test
@@ -77,6 +78,12 @@ abi:
 format:
 	@scripts/setup.sh test
 	scripts/format.sh
+
+deb:
+	@scripts/setup.sh deb
+	cmake --preset package
+	cmake --build --preset package --target package
+	scripts/package_check.sh build/package
 
 package:
 	@scripts/setup.sh package

@@ -27,7 +27,7 @@ function(ortholan_hardening target)
   target_link_options(${target} PRIVATE "LINKER:-z,relro,-z,now")
   if(NOT ORTHOLAN_SANITIZED)
     # _FORTIFY_SOURCE needs an optimising compiler.
-    set(release "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
+    set(release "$<OR:$<CONFIG:Release>,$<CONFIG:RelWithDebInfo>,$<CONFIG:MinSizeRel>>")
     target_compile_options(${target} PRIVATE
       "$<$<AND:${cxx},${release}>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
   endif()

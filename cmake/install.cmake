@@ -1,7 +1,7 @@
 # Installation, and what find_package(Ortholan) and pkg-config find. Nothing installed holds an
 # absolute path, so that the tree may be moved.
 #
-# Components: runtime (what a built program needs), development, program, documents.
+# Components: runtime (what a built program needs), development, program, python, documents.
 include(CMakePackageConfigHelpers)
 
 set(ORTHOLAN_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Ortholan")
@@ -20,6 +20,13 @@ if(MINGW)
     DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
   install(FILES "${ORTHOLAN_C_DEFINITIONS}"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
+  if(TARGET ortholan_c_library)
+    install(FILES "${ORTHOLAN_C_LIBRARY}"
+      DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
+  endif()
+  ortholan_runtime_licences("${PROJECT_BINARY_DIR}/licences")
+  install(DIRECTORY "${PROJECT_BINARY_DIR}/licences"
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
 endif()
 
 install(DIRECTORY
@@ -43,24 +50,35 @@ install(FILES
   "${PROJECT_SOURCE_DIR}/debug/ortholan.natvis"
   "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/ortholan" COMPONENT development)
+# GDB loads by itself what lies beside a library, or below its own data directory under the full
+# path of one that came with the system.
 if(NOT WIN32)
-  # GDB looks below its own data directory for the full path of a library that it loads: what is
-  # configured for /usr it finds by itself.
+  set(ORTHOLAN_GDB_DIR "${CMAKE_INSTALL_LIBDIR}")
+  if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set(ORTHOLAN_GDB_DIR "${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}")
+  endif()
   install(FILES "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py"
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load/${CMAKE_INSTALL_FULL_LIBDIR}"
+    DESTINATION "${ORTHOLAN_GDB_DIR}"
     RENAME "libortholan.so.${PROJECT_VERSION}-gdb.py"
     COMPONENT development)
 endif()
 
-install(FILES
-  "${PROJECT_SOURCE_DIR}/LICENSE"
-  "${PROJECT_SOURCE_DIR}/README.md"
-  "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
-  "${PROJECT_SOURCE_DIR}/SECURITY.md"
+# Python finds the library where the system keeps libraries, or beside the module.
+if(NOT WIN32 AND CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set(ORTHOLAN_PYTHON_DIR lib/python3/dist-packages)
+else()
+  set(ORTHOLAN_PYTHON_DIR "${CMAKE_INSTALL_DATADIR}/ortholan/python")
+endif()
+# A recipe of a package manager may have left the examples out.
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples/python/"
+  DESTINATION "${ORTHOLAN_PYTHON_DIR}" COMPONENT python OPTIONAL
+  FILES_MATCHING PATTERN "ortholan*" PATTERN "__pycache__" EXCLUDE)
+
+include(cmake/installed_pages.cmake)
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents)
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs"
-  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents
-  FILES_MATCHING PATTERN "*.md")
+install(DIRECTORY "${ORTHOLAN_PAGES_DIR}/"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents)
 
 install(EXPORT OrtholanTargets NAMESPACE Ortholan::
   DESTINATION "${ORTHOLAN_CMAKE_DIR}" COMPONENT development)

@@ -4,8 +4,8 @@ include("${CMAKE_CURRENT_LIST_DIR}/mingw-w64-toolchain.cmake")
 
 # The directory of the standard library, which clang++ does not find by its version's name.
 execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-libgcc-file-name
-  OUTPUT_VARIABLE gcc_directory OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-cmake_path(GET gcc_directory PARENT_PATH gcc_directory)
+  OUTPUT_VARIABLE gcc_directory OUTPUT_STRIP_TRAILING_WHITESPACE)
+get_filename_component(gcc_directory "${gcc_directory}" DIRECTORY)
 set(gcc_headers "${gcc_directory}/include/c++")
 
 set(CMAKE_C_COMPILER clang)

@@ -15,7 +15,7 @@ function(ortholan_find_runtime_dlls out)
     if(NOT IS_ABSOLUTE "${path}")
       message(FATAL_ERROR "${CMAKE_CXX_COMPILER} does not say where its ${name} is")
     endif()
-    cmake_path(NORMAL_PATH path)
+    get_filename_component(path "${path}" ABSOLUTE)
     list(APPEND found "${path}")
   endforeach()
   set(${out} "${found}" PARENT_SCOPE)
@@ -27,7 +27,7 @@ function(ortholan_copy_runtime_dlls directory)
   ortholan_find_runtime_dlls(dlls)
   set(copies)
   foreach(dll IN LISTS dlls)
-    cmake_path(GET dll FILENAME name)
+    get_filename_component(name "${dll}" NAME)
     add_custom_command(OUTPUT "${directory}/${name}"
       COMMAND "${CMAKE_COMMAND}" -E copy "${dll}" "${directory}/${name}"
       DEPENDS "${dll}"
@@ -37,4 +37,23 @@ function(ortholan_copy_runtime_dlls directory)
   add_custom_target(ortholan_runtime_dlls ALL DEPENDS ${copies})
   add_dependencies(ortholan ortholan_runtime_dlls)
   add_dependencies(ortholan_static ortholan_runtime_dlls)
+endfunction()
+
+# Puts the licences of the DLLs into `directory`, from where Debian keeps those of its packages; on
+# other systems whoever hands the DLLs on adds them.
+function(ortholan_runtime_licences directory)
+  file(MAKE_DIRECTORY "${directory}")
+  foreach(pair IN ITEMS
+      "doc/gcc-mingw-w64-x86-64-posix-runtime/copyright|libstdc++-and-libgcc.txt"
+      "doc/mingw-w64-x86-64-dev/copyright|winpthreads.txt"
+      "common-licenses/GPL-3|GPL-3.txt")
+    string(REPLACE "|" ";" pair "${pair}")
+    list(GET pair 0 from)
+    list(GET pair 1 name)
+    if(EXISTS "/usr/share/${from}")
+      configure_file("/usr/share/${from}" "${directory}/${name}" COPYONLY)
+    else()
+      message(STATUS "The licence of the runtime's DLLs is not at hand: ${name}")
+    endif()
+  endforeach()
 endfunction()

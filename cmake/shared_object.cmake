@@ -11,4 +11,4 @@ endif()
 
 # Calls between the library's own exported functions need not be open to replacement.
 target_compile_options(ortholan_objects PRIVATE
-  "$<$<CONFIG:Release,RelWithDebInfo>:-fno-semantic-interposition>")
+  "$<$<OR:$<CONFIG:Release>,$<CONFIG:RelWithDebInfo>>:-fno-semantic-interposition>")

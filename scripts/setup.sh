@@ -1,15 +1,19 @@
 #!/usr/bin/env bash
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
-#   setup.sh native|test|fuzz|bench|docs|package
+#   setup.sh demo|native|test|fuzz|bench|docs|deb|package
 set -euo pipefail
 
-native=(g++ cmake ninja-build ca-certificates libgtest-dev)
+demo=(g++ cmake ninja-build ca-certificates)
+native=("${demo[@]}" libgtest-dev)
 # The sanitizers' runtime goes with the release of Debian's default clang.
 clang=(clang libclang-rt-14-dev)
-windows=(g++-mingw-w64-x86-64-posix googletest wine64)
+# llvm has the tool for import libraries of Visual C++'s form.
+windows=(g++-mingw-w64-x86-64-posix googletest llvm wine64)
+debian=(dpkg-dev fakeroot file gdb lintian pkg-config python3)
 
 case ${1-} in
+  demo) packages=("${demo[@]}") ;;
   native) packages=("${native[@]}") ;;
   test)
     packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format gdb libssl-dev
@@ -21,10 +25,10 @@ case ${1-} in
       libbotan-2-dev libmbedtls-dev)
     ;;
   docs) packages=("${native[@]}" doxygen graphviz python3) ;;
-  package) packages=("${native[@]}" "${windows[@]}" dpkg-dev fakeroot file gdb lintian
-    pkg-config unzip) ;;
+  deb) packages=("${demo[@]}" "${debian[@]}") ;;
+  package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   *)
-    echo "usage: setup.sh native|test|fuzz|bench|docs|package" >&2
+    echo "usage: setup.sh demo|native|test|fuzz|bench|docs|deb|package" >&2
     exit 2
     ;;
 esac

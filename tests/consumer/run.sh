@@ -89,6 +89,7 @@ install_tree() {
   if grep -rIlF -e "$build" -e "$tree first" -e "${here%/tests/*}" "$tree"; then
     fail "a path of this machine was installed"
   fi
+  python3 "$here/../documents/links.py" "$tree" || fail "dead links were installed"
 }
 
 find_package() {

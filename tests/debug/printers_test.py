@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """GDB's printers, driven in batch mode over a small program.
 
-  printers_test.py GDB PRINTERS PRINTED NAMES LIBRARY X509NAME CMAKE BUILD LIBDIR
+  printers_test.py GDB PRINTERS PRINTED NAMES LIBRARY X509NAME CMAKE BUILD
 
 PRINTERS is the script under test, PRINTED the program, NAMES a file of names in hexadecimal digits,
 LIBRARY the shared object that the program has loaded. X509NAME says which text a name has. CMAKE
-installs what BUILD holds; LIBDIR is where the library would go.
+installs what BUILD holds.
 """
+import glob
 import json
 import os
 import re
@@ -144,14 +145,14 @@ def check_names(found, digits, x509name):
     check("names compared with the library", compared >= 140, True)
 
 
-def check_auto_load(gdb, program, names, library, install, libdir):
+def check_auto_load(gdb, program, names, library, install):
     """GDB finds the script by itself, by the name that it is installed with."""
     real = os.path.realpath(library)
     with tempfile.TemporaryDirectory() as root:
         subprocess.run([*install, "--component", "development", "--prefix", root], check=True,
                        stdout=subprocess.DEVNULL)
         name = os.path.basename(real) + "-gdb.py"
-        installed = f"{root}/share/gdb/auto-load{libdir}/{name}"
+        [installed] = glob.glob(f"{root}/**/{name}", recursive=True)
         # Where it would lie, were the library installed where it was built.
         directory = root + os.path.dirname(real)
         os.makedirs(directory)
@@ -163,7 +164,7 @@ def check_auto_load(gdb, program, names, library, install, libdir):
 
 
 def main():
-    gdb, printers, program, data, library, x509name, cmake, build, libdir = sys.argv[1:]
+    gdb, printers, program, data, library, x509name, cmake, build = sys.argv[1:]
     digits = [row[0] for row in NAMES] + names_of_all_types(printers)
     with open(data, encoding="ascii") as file:
         digits += [line.strip() for line in file if line.strip() and line[0] != "#"]
@@ -200,7 +201,7 @@ def main():
             "set auto-load no", f"source {printers}", "break Inspect", "run",
             *printing([f"names[{cyrillic}]"])], LC_ALL="C", PYTHONUTF8="0")
         check(f"ASCII ({errors})", "\\u0433" in str(printed(lines)), True)
-        check_auto_load(gdb, program, names, library, [cmake, "--install", build], libdir)
+        check_auto_load(gdb, program, names, library, [cmake, "--install", build])
     for failure in failures:
         print(failure, file=sys.stderr)
     print(f"printers_test.py: {len(failures)} failed")

@@ -1,17 +1,11 @@
 # The README and the pages: their programs compiled and run, their tables asked of the library.
 include(documents/example.cmake)
 
-# What C programs are linked with: on Windows, as other compilers do it, an import library of the C
+# What C programs are linked with: on Windows, as other compilers do it, the import library of the C
 # names alone.
-set(ORTHOLAN_C_LIBRARY Ortholan::ortholan)
-if(WIN32)
-  set(ORTHOLAN_C_LIBRARY "${CMAKE_CURRENT_BINARY_DIR}/ortholan_c.lib")
-  add_custom_command(OUTPUT "${ORTHOLAN_C_LIBRARY}"
-    COMMAND "${CMAKE_DLLTOOL}"
-      --input-def "${ORTHOLAN_C_DEFINITIONS}" --output-lib "${ORTHOLAN_C_LIBRARY}"
-    DEPENDS "${ORTHOLAN_C_DEFINITIONS}"
-    VERBATIM)
-  add_custom_target(ortholan_c_import DEPENDS "${ORTHOLAN_C_LIBRARY}")
+set(c_library Ortholan::ortholan)
+if(TARGET ortholan_c_library)
+  set(c_library "${ORTHOLAN_C_LIBRARY}")
 endif()
 
 foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/name-text.md
