@@ -43,6 +43,17 @@ typedef struct ortholan_text {
 // ortholan_reason_sentence has a sentence for each.
 typedef int32_t ortholan_reason;
 
+// What was decided. Only one of them is a yes: compare with ORTHOLAN_VERDICT_YES.
+typedef int32_t ortholan_verdict;
+enum {
+  // The input does not let anybody decide; where a no would let something through, this is a
+  // refusal
+  // as well.
+  ORTHOLAN_VERDICT_CANNOT_TELL = 0,
+  ORTHOLAN_VERDICT_YES = 1,
+  ORTHOLAN_VERDICT_NO = 2
+};
+
 // Calls, 1 to 19.
 enum {
   ORTHOLAN_REASON_NONE = 0,
