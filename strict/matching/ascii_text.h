@@ -1,14 +1,10 @@
-// Case and white space of ASCII, octet by octet.
+// White space of ASCII.
 #ifndef ORTHOLAN_STRICT_MATCHING_ASCII_TEXT_H_
 #define ORTHOLAN_STRICT_MATCHING_ASCII_TEXT_H_
 
 #include <cstdint>
 
 namespace Ortholan::strict {
-
-constexpr uint8_t FoldAsciiCase(uint8_t octet) {
-  return static_cast<uint8_t>(octet - 'A') < 26 ? octet | 0x20 : octet;
-}
 
 // Space, tabulations, line ends and form feed.
 constexpr bool IsAsciiBlank(uint8_t octet) {

@@ -1,5 +1,6 @@
 #include "strict/matching/preparation.h"
 
+#include "bytes/ascii.h"
 #include "strict/der/string_value.h"
 #include "strict/matching/ascii_text.h"
 #include "strict/matching/normalization.h"
@@ -148,7 +149,7 @@ inline bool Preparation::TakeAscii(Progress* at, Progress* last) const {
   if (octet > ' ' && octet != 0x7F) {
     *last = *at;
     PutBlanks(at);
-    *at->out++ = FoldAsciiCase(octet);
+    *at->out++ = ToAsciiLower(octet);
   } else if (IsAsciiBlank(octet)) {
     *last = *at;
     ++at->blanks;

@@ -47,8 +47,7 @@ typedef int32_t ortholan_reason;
 typedef int32_t ortholan_verdict;
 enum {
   // The input does not let anybody decide; where a no would let something through, this is a
-  // refusal
-  // as well.
+  // refusal as well.
   ORTHOLAN_VERDICT_CANNOT_TELL = 0,
   ORTHOLAN_VERDICT_YES = 1,
   ORTHOLAN_VERDICT_NO = 2

@@ -57,6 +57,13 @@ enum class Reading : int32_t {
   kStructure = ORTHOLAN_READ_STRUCTURE,
 };
 
+// What was decided; only kYes is a yes.
+enum class Verdict : int32_t {
+  kNo = ORTHOLAN_VERDICT_NO,
+  kYes = ORTHOLAN_VERDICT_YES,
+  kCannotTell = ORTHOLAN_VERDICT_CANNOT_TELL,
+};
+
 // Calls a function that writes into the caller's room, first with room for most, and again with as
 // much as it needs. `call` takes pointer, room and the place of the size.
 template <class String, class Call>
