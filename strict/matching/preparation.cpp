@@ -1,8 +1,7 @@
 #include "strict/matching/preparation.h"
 
-#include "bytes/ascii.h"
 #include "strict/der/string_value.h"
-#include "strict/matching/ascii_text.h"
+#include "strict/matching/folding.h"
 #include "strict/matching/normalization.h"
 #include "strict/matching/preparation_tables.h"
 
