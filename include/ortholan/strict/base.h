@@ -43,6 +43,10 @@ typedef struct ortholan_text {
 // ortholan_reason_sentence has a sentence for each.
 typedef int32_t ortholan_reason;
 
+// A decision in three values. Only YES lets something through; zeros are CANNOT_TELL.
+typedef int32_t ortholan_verdict;
+enum { ORTHOLAN_VERDICT_CANNOT_TELL = 0, ORTHOLAN_VERDICT_YES = 1, ORTHOLAN_VERDICT_NO = 2 };
+
 // Calls, 1 to 19.
 enum {
   ORTHOLAN_REASON_NONE = 0,
