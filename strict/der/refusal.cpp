@@ -1,6 +1,7 @@
 #include "strict/der/refusal.h"
 
 #include <ortholan/strict/general_names.h>
+#include <ortholan/strict/identity.h>
 
 #include <algorithm>
 #include <iterator>
@@ -60,9 +61,27 @@ constexpr Row kSentences[] = {
      "a character stands there that the part of the URI cannot have"},
     {ORTHOLAN_REASON_URI_LITERAL, "the address in brackets of the URI is malformed"},
     {ORTHOLAN_REASON_URI_PORT, "the port of the URI is no number"},
+    {ORTHOLAN_REASON_SERVICE, "a service is written as \"_service.host\""},
+    {ORTHOLAN_REASON_OTHER_NAME, "the value of an other name is not what its type prescribes"},
+    {ORTHOLAN_REASON_ADDRESS_TEXT, "the text is no IP address"},
     {ORTHOLAN_REASON_GENERAL_NAME, "this is none of the nine kinds of general names"},
     {ORTHOLAN_REASON_NAME_CHARACTER, "a name of characters holds a control character or no ASCII"},
     {ORTHOLAN_REASON_ADDRESS_SIZE, "an address has a size that no address has"},
+    {ORTHOLAN_REASON_NO_MATCH, "no name of the certificate is the one that was asked for"},
+    {ORTHOLAN_REASON_NO_ALTERNATIVE_NAMES, "the certificate has no subject alternative names"},
+    {ORTHOLAN_REASON_NO_CERTIFICATE, "this is no certificate but a request or a CRL"},
+    {ORTHOLAN_REASON_OTHER_KIND, "the name is of another kind"},
+    {ORTHOLAN_REASON_OTHER_HOST, "the name is another host"},
+    {ORTHOLAN_REASON_WILDCARD_LABELS, "\"*\" stands for exactly one label"},
+    {ORTHOLAN_REASON_OTHER_ADDRESS, "the name is another address"},
+    {ORTHOLAN_REASON_OTHER_FAMILY, "one address is IPv4 and the other IPv6"},
+    {ORTHOLAN_REASON_OTHER_LOCAL_PART, "the mailbox has another local part"},
+    {ORTHOLAN_REASON_OTHER_SCHEME, "the URI has another scheme"},
+    {ORTHOLAN_REASON_OTHER_SERVICE_NAME, "the name is another service"},
+    {ORTHOLAN_REASON_HOST_IS_ADDRESS, "this is an address, which has to be asked for as one"},
+    {ORTHOLAN_REASON_URI_HOST, "the URI has no host that could be compared"},
+    {ORTHOLAN_REASON_ASCII_LOCAL_PART,
+     "a mailbox whose local part is ASCII stands in the wrong kind of name"},
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
-// Verdicts of the layer: yes, no, cannot tell.
+// A decision in three values. Only kYes lets something through, and what was not decided is
+// kCannotTell.
 #ifndef ORTHOLAN_STRICT_DER_VERDICT_H_
 #define ORTHOLAN_STRICT_DER_VERDICT_H_
 
@@ -7,9 +8,9 @@
 namespace Ortholan::strict {
 
 enum class Verdict : ortholan_verdict {
-  kNo = ORTHOLAN_VERDICT_NO,
-  kYes = ORTHOLAN_VERDICT_YES,
   kCannotTell = ORTHOLAN_VERDICT_CANNOT_TELL,
+  kYes = ORTHOLAN_VERDICT_YES,
+  kNo = ORTHOLAN_VERDICT_NO,
 };
 
 }  // namespace Ortholan::strict

@@ -52,15 +52,18 @@ bool CheckAddress(ByteView content, bool hasMask, Refusal* refusal) {
 
 }  // namespace
 
+bool GeneralNameView::FromElement(const Element& element, GeneralNameView* name) {
+  const uint8_t number = element.identifier & kLongTag;
+  if (number >= sizeof kIdentifiers || element.identifier != kIdentifiers[number]) return false;
+  *name = {static_cast<GeneralNameKind>(number), element.content, element.bytes};
+  return true;
+}
+
 bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
   Element element;
-  if (list->AtEnd()) return list->RefuseHere(ORTHOLAN_REASON_TRUNCATED);
-  const uint8_t number = list->rest()[0] & kLongTag;
-  if (number >= sizeof kIdentifiers || list->rest()[0] != kIdentifiers[number]) {
-    return list->RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
-  }
+  const Reader before = *list;
   if (!list->Read(&element)) return false;
-  *name = {static_cast<GeneralNameKind>(number), element.content, element.bytes};
+  if (!FromElement(element, name)) return Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
   switch (name->kind) {
     case GeneralNameKind::kOther:
       return ReadOtherName(element.content, list->leniency(), list->refusal());

@@ -35,6 +35,9 @@ struct GeneralNameView {
   ByteView content;
   ByteView bytes;  // the whole element
 
+  // An element as the general name that its tag makes it, nothing inside looked at; false for a tag
+  // that is none of the nine in its right form.
+  static bool FromElement(const Element& element, GeneralNameView* name);
   // Reads the next element as a general name: one of the nine tags in its right form, a directory
   // name holding one SEQUENCE, an other name an identifier and one value. Strings are not looked
   // at.

@@ -1,18 +1,13 @@
 #include "strict/general_names/host.h"
 
-#include <ortholan/strict/general_names.h>
-
 #include <algorithm>
 
 namespace Ortholan::strict {
 namespace {
 
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool IsLetter(char c) { return LowerAscii(c) >= 'a' && LowerAscii(c) <= 'z'; }
-
 // Why a character cannot stand in a label.
 ortholan_reason FaultOfCharacter(char c, uint32_t choices) {
-  if (IsLetter(c) || IsDigit(c) || c == '-') return ORTHOLAN_REASON_NONE;
+  if (IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-') return ORTHOLAN_REASON_NONE;
   if (c == '_' && (choices & kUnderscores) != 0) return ORTHOLAN_REASON_NONE;
   if (c == '_') return ORTHOLAN_REASON_HOST_UNDERSCORE;
   if (c == '*') return ORTHOLAN_REASON_HOST_WILDCARD;

@@ -6,8 +6,11 @@
 #ifndef ORTHOLAN_STRICT_GENERAL_NAMES_HOST_H_
 #define ORTHOLAN_STRICT_GENERAL_NAMES_HOST_H_
 
+#include <ortholan/strict/general_names.h>
+
 #include <string_view>
 
+#include "bytes/ascii.h"
 #include "strict/der/refusal.h"
 
 namespace Ortholan::strict {
@@ -29,13 +32,15 @@ bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal);
 // The same for a presented name, which may be "*." and a host name of two labels or more.
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
 
-constexpr char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
+constexpr char ToAsciiLower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
 
 // Compares without the case of ASCII letters; also schemes and keywords.
 inline bool SameWithoutCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (size_t i = 0; i < a.size(); ++i) {
-    if (a[i] != b[i] && LowerAscii(a[i]) != LowerAscii(b[i])) return false;
+    if (a[i] != b[i] && ToAsciiLower(a[i]) != ToAsciiLower(b[i])) return false;
   }
   return true;
 }

@@ -1,7 +1,5 @@
 #include "strict/general_names/mailbox.h"
 
-#include <ortholan/strict/general_names.h>
-
 #include "strict/der/string_value.h"
 #include "strict/general_names/host.h"
 
@@ -12,7 +10,7 @@ constexpr std::string_view kLiteralTag = "IPv6:";
 
 // RFC 5322 3.2.3.
 bool IsAtomCharacter(char c) {
-  return (c >= '0' && c <= '9') || (LowerAscii(c) >= 'a' && LowerAscii(c) <= 'z') ||
+  return IsAsciiDigit(c) || IsAsciiLetter(c) ||
          (c != '\0' && std::string_view("!#$%&'*+-/=?^_`{|}~").find(c) != std::string_view::npos);
 }
 

@@ -48,12 +48,31 @@ enum {
   ORTHOLAN_REASON_URI_LITERAL = 156,
   // A port that is no number (RFC 3986 3.2.3).
   ORTHOLAN_REASON_URI_PORT = 157,
+  // No service name: "_", one to fifteen letters, digits and hyphens, "." and a host (RFC 4985 2).
+  ORTHOLAN_REASON_SERVICE = 158,
+  // The value of an other name is not what its type prescribes.
+  ORTHOLAN_REASON_OTHER_NAME = 159,
+  // Text that is no address, and no address with a prefix or mask.
+  ORTHOLAN_REASON_ADDRESS_TEXT = 160,
   // A tag that is none of the nine, or one of them in the wrong form.
   ORTHOLAN_REASON_GENERAL_NAME = 170,
   // A control character or an octet outside IA5String in a name of characters.
   ORTHOLAN_REASON_NAME_CHARACTER = 171,
   // An address of neither 4 nor 16 octets; with a mask, of neither 8 nor 32.
   ORTHOLAN_REASON_ADDRESS_SIZE = 172
+};
+
+// What kind of other name a type stands for.
+enum {
+  ORTHOLAN_OTHER_UNKNOWN = 0,
+  ORTHOLAN_OTHER_UPN = 1,              // user principal name of Windows, 1.3.6.1.4.1.311.20.2.3
+  ORTHOLAN_OTHER_SERVICE = 2,          // SRVName, RFC 4985
+  ORTHOLAN_OTHER_UTF8_MAILBOX = 3,     // SmtpUTF8Mailbox, RFC 9598
+  ORTHOLAN_OTHER_KERBEROS = 4,         // KRB5PrincipalName, RFC 4556 3.2.2
+  ORTHOLAN_OTHER_XMPP = 5,             // XmppAddr, RFC 6120 13.7.1.4
+  ORTHOLAN_OTHER_PERMANENT_ID = 6,     // PermanentIdentifier, RFC 4043
+  ORTHOLAN_OTHER_HARDWARE_MODULE = 7,  // HardwareModuleName, RFC 4108 5
+  ORTHOLAN_OTHER_GUID = 8              // of a domain controller, 1.3.6.1.4.1.311.25.1
 };
 
 #ifdef __cplusplus

@@ -1,0 +1,193 @@
+#include "strict/general_names/other_name.h"
+
+#include "strict/der/identifier.h"
+#include "strict/der/string_value.h"
+#include "strict/general_names/host.h"
+
+namespace Ortholan::strict {
+namespace {
+
+constexpr uint8_t kGeneralString = 0x1B;
+constexpr size_t kGuidOctets = 16;
+constexpr size_t kMaxServiceOctets = 16;  // 15 behind the underscore (RFC 6335 5.1)
+
+bool RefuseIn(Reader* reader, ByteView whole, size_t at, ortholan_reason reason) {
+  return Refuse(reader->refusal(), reason, whole.data + at, whole.size - at);
+}
+
+// Characters of a string type, none of them a control.
+bool ReadText(Reader* reader, uint8_t identifier, std::string_view* text) {
+  Element element;
+  if (!reader->Read(identifier, &element)) return false;
+  const uint8_t type = identifier == kGeneralString ? uint8_t{kIA5String} : identifier;
+  ScalarReader scalars(type, element.content);
+  for (;;) {
+    const size_t at = element.content.size - scalars.rest().size;
+    uint32_t scalar;
+    if (!scalars.Next(&scalar)) {
+      if (!scalars.broken()) break;
+      return RefuseIn(reader, element.content, at, ORTHOLAN_REASON_ENCODING);
+    }
+    if (scalar < 0x20 || (scalar >= 0x7F && scalar < 0xA0)) {
+      return RefuseIn(reader, element.content, at, ORTHOLAN_REASON_NAME_CHARACTER);
+    }
+  }
+  *text = AsText(element.content);
+  return true;
+}
+
+template <uint8_t kIdentifier>
+bool ReadString(Reader* value, OtherName* name) {
+  return ReadText(value, kIdentifier, &name->text);
+}
+
+bool ReadOid(Reader* fields, ByteView* oid) {
+  if (!fields->Read(kOid, oid)) return false;
+  return IsIdentifier(*oid) || fields->RefuseAt(ORTHOLAN_REASON_OID, oid->data);
+}
+
+// An element inside an explicit tag.
+bool ReadTagged(Reader* fields, uint8_t number, uint8_t identifier, ByteView* content) {
+  ByteView tagged;
+  if (!fields->Read(ContextConstructed(number), &tagged)) return false;
+  Reader inside(tagged, fields->leniency(), fields->refusal());
+  return inside.Read(identifier, content) && inside.End();
+}
+
+bool ReadPrincipal(ByteView content, Reader* outer, OtherName* name) {
+  Reader fields(content, outer->leniency(), outer->refusal());
+  if (!ReadTagged(&fields, 0, kInteger, &name->name_type) ||
+      !ReadTagged(&fields, 1, kSequence, &name->components) || !fields.End()) {
+    return false;
+  }
+  Reader strings(name->components, outer->leniency(), outer->refusal());
+  std::string_view component;
+  while (!strings.AtEnd()) {
+    if (!ReadText(&strings, kGeneralString, &component)) return false;
+  }
+  return true;
+}
+
+// RFC 4556 3.2.2.
+bool ReadKerberos(Reader* value, OtherName* name) {
+  ByteView content, tagged, principal;
+  if (!value->Read(kSequence, &content)) return false;
+  Reader fields(content, value->leniency(), value->refusal());
+  if (!fields.Read(ContextConstructed(0), &tagged)) return false;
+  Reader realm(tagged, value->leniency(), value->refusal());
+  return ReadText(&realm, kGeneralString, &name->text) && realm.End() &&
+         ReadTagged(&fields, 1, kSequence, &principal) && fields.End() &&
+         ReadPrincipal(principal, value, name);
+}
+
+// RFC 4043 2.
+bool ReadPermanentId(Reader* value, OtherName* name) {
+  ByteView content;
+  if (!value->Read(kSequence, &content)) return false;
+  Reader fields(content, value->leniency(), value->refusal());
+  if (fields.Sees(kUtf8String) && !ReadText(&fields, kUtf8String, &name->text)) return false;
+  return (fields.AtEnd() || ReadOid(&fields, &name->oid)) && fields.End();
+}
+
+// RFC 4108 5.
+bool ReadHardwareModule(Reader* value, OtherName* name) {
+  ByteView content;
+  if (!value->Read(kSequence, &content)) return false;
+  Reader fields(content, value->leniency(), value->refusal());
+  return ReadOid(&fields, &name->oid) && fields.Read(kOctetString, &name->octets) && fields.End();
+}
+
+bool ReadGuid(Reader* value, OtherName* name) {
+  if (!value->Read(kOctetString, &name->octets)) return false;
+  return name->octets.size == kGuidOctets ||
+         RefuseIn(value, name->octets, 0, ORTHOLAN_REASON_OTHER_NAME);
+}
+
+bool ReadService(Reader* value, OtherName* name) {
+  std::string_view service, host;
+  return ReadText(value, kIA5String, &name->text) &&
+         SplitService(name->text, &service, &host, value->refusal());
+}
+
+struct Row {
+  OtherNameKind kind;
+  size_t type_size;
+  uint8_t type[10];
+  bool (*read)(Reader* value, OtherName* name);
+};
+
+constexpr Row kRows[] = {
+    // 1.3.6.1.4.1.311.20.2.3
+    {OtherNameKind::kUpn, 10, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 20, 2, 3}, ReadString<kUtf8String>},
+    // id-on, 1.3.6.1.5.5.7.8
+    {OtherNameKind::kService, 8, {0x2B, 6, 1, 5, 5, 7, 8, 7}, ReadService},
+    {OtherNameKind::kUtf8Mailbox, 8, {0x2B, 6, 1, 5, 5, 7, 8, 9}, ReadString<kUtf8String>},
+    {OtherNameKind::kXmpp, 8, {0x2B, 6, 1, 5, 5, 7, 8, 5}, ReadString<kUtf8String>},
+    {OtherNameKind::kPermanentId, 8, {0x2B, 6, 1, 5, 5, 7, 8, 3}, ReadPermanentId},
+    {OtherNameKind::kHardwareModule, 8, {0x2B, 6, 1, 5, 5, 7, 8, 4}, ReadHardwareModule},
+    // id-pkinit-san, 1.3.6.1.5.2.2
+    {OtherNameKind::kKerberos, 6, {0x2B, 6, 1, 5, 2, 2}, ReadKerberos},
+    // 1.3.6.1.4.1.311.25.1
+    {OtherNameKind::kGuid, 9, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 25, 1}, ReadGuid},
+};
+
+const Row* FindRow(ByteView type) {
+  for (const Row& row : kRows) {
+    if (SameBytes(type, {row.type, row.type_size})) return &row;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+OtherNameKind KindOfOtherName(ByteView type) {
+  const Row* const row = FindRow(type);
+  return row != nullptr ? row->kind : OtherNameKind::kUnknown;
+}
+
+ByteView TypeOfOtherName(OtherNameKind kind) {
+  for (const Row& row : kRows) {
+    if (row.kind == kind) return {row.type, row.type_size};
+  }
+  return {};
+}
+
+bool OtherName::Read(ByteView content, Leniency leniency, OtherName* name, Refusal* refusal) {
+  OtherName read;
+  Reader fields(content, leniency, refusal);
+  ByteView tagged;
+  if (!ReadOid(&fields, &read.type) || !fields.Read(ContextConstructed(0), &tagged) ||
+      !fields.End()) {
+    return false;
+  }
+  Reader whole(tagged, leniency, refusal);
+  if (!whole.Read(&read.value) || !whole.End() || !CheckNested(read.value, leniency, refusal)) {
+    return false;
+  }
+  const Row* const row = FindRow(read.type);
+  if (row != nullptr) {
+    read.kind = row->kind;
+    Reader value(tagged, leniency, refusal);
+    if (!row->read(&value, &read)) return false;
+  }
+  *name = read;
+  return true;
+}
+
+bool SplitService(std::string_view text, std::string_view* service, std::string_view* host,
+                  Refusal* refusal) {
+  const size_t dot = text.find('.');
+  const std::string_view label = text.substr(0, dot);
+  const bool is_service = dot != std::string_view::npos && label.size() > 1 &&
+                          label.size() <= kMaxServiceOctets && label[0] == '_' &&
+                          CheckHost(label.substr(1), kPlainHost, nullptr);
+  if (!is_service) {
+    return Refuse(refusal, ORTHOLAN_REASON_SERVICE, reinterpret_cast<const uint8_t*>(text.data()),
+                  text.size());
+  }
+  *service = label;
+  *host = text.substr(dot + 1);
+  return CheckHost(*host, kPlainHost, refusal);
+}
+
+}  // namespace Ortholan::strict
