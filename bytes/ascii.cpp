@@ -6,30 +6,31 @@
 namespace Ortholan {
 namespace {
 
-constexpr uint64_t kHighBits = 0x8080808080808080;
-constexpr size_t kWord = sizeof(uint64_t);
-
+template <class Word>
 bool IsAsciiWord(const char* text) {
-  uint64_t word;
-  std::memcpy(&word, text, kWord);
+  constexpr Word kHighBits = static_cast<Word>(0x8080808080808080);
+  Word word;
+  std::memcpy(&word, text, sizeof word);
   return (word & kHighBits) == 0;
+}
+
+// For a text of a word or more. The last word may overlap the one before.
+template <class Word>
+bool AreAsciiWords(const char* text, size_t size) {
+  for (size_t i = 0; i < size - sizeof(Word); i += sizeof(Word)) {
+    if (!IsAsciiWord<Word>(text + i)) return false;
+  }
+  return IsAsciiWord<Word>(text + size - sizeof(Word));
 }
 
 }  // namespace
 
 bool IsAscii(std::string_view text) {
-  const char* const data = text.data();
-  const size_t size = text.size();
-  if (size < kWord) {
-    unsigned seen = 0;
-    for (const char c : text) seen |= static_cast<unsigned char>(c);
-    return seen < 0x80;
-  }
-  // The last word may overlap the one before.
-  for (size_t i = 0; i < size - kWord; i += kWord) {
-    if (!IsAsciiWord(data + i)) return false;
-  }
-  return IsAsciiWord(data + size - kWord);
+  if (text.size() >= sizeof(uint64_t)) return AreAsciiWords<uint64_t>(text.data(), text.size());
+  if (text.size() >= sizeof(uint32_t)) return AreAsciiWords<uint32_t>(text.data(), text.size());
+  unsigned seen = 0;
+  for (const char c : text) seen |= static_cast<unsigned char>(c);
+  return seen < 0x80;
 }
 
 void AppendAscii(std::string_view text, std::wstring* out) {

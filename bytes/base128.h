@@ -37,16 +37,23 @@ enum class Base128Result { kDone, kUnfinished, kTooLarge };
 // group, or more than `most`, which is below 2^57. Leading groups of zero are taken.
 inline Base128Result ReadBase128(ByteView in, uint64_t most, size_t* position, uint64_t* value) {
   uint64_t number = 0;
-  while (*position < in.size) {
-    const uint8_t octet = in[(*position)++];
+  size_t at = *position;
+  Base128Result result = Base128Result::kUnfinished;
+  while (at < in.size) {
+    const uint8_t octet = in[at++];
     number = number << 7 | (octet & 0x7Fu);
-    if (number > most) return Base128Result::kTooLarge;
-    if ((octet & kMoreGroups) == 0) {
-      *value = number;
-      return Base128Result::kDone;
+    if (number > most) {
+      result = Base128Result::kTooLarge;
+      break;
+    }
+    if (octet < kMoreGroups) {
+      result = Base128Result::kDone;
+      break;
     }
   }
-  return Base128Result::kUnfinished;
+  *position = at;
+  *value = number;
+  return result;
 }
 
 }  // namespace Ortholan

@@ -48,19 +48,16 @@ struct Length {
   bool indefinite = false;
 };
 
+// The rule for all but the short form: `first` is the octet before `*position`.
+bool ReadLongLength(ByteView in, uint8_t first, size_t* position, Length* length);
+
 // Reads the length at `*position`, which moves past it. False where it is not all there or has more
 // than eight octets. Content need not be there.
 inline bool ReadLength(ByteView in, size_t* position, Length* length) {
-  constexpr size_t kMostOctets = 8;
   if (*position >= in.size) return false;
   const uint8_t first = in[(*position)++];
   *length = {first, false};
-  if (first < kLongForm) return true;
-  *length = {0, first == kLongForm};
-  const size_t octets = first - size_t{kLongForm};
-  if (octets > kMostOctets || octets > in.size - *position) return false;
-  for (size_t i = 0; i < octets; ++i) length->octets = length->octets << 8 | in[(*position)++];
-  return true;
+  return first < kLongForm || ReadLongLength(in, first, position, length);
 }
 
 }  // namespace Ortholan

@@ -13,11 +13,12 @@ constexpr uint32_t kSecondArcs = 40;
 constexpr size_t kMaxArcDigits = 10;
 constexpr uint32_t kMaxArc = std::numeric_limits<uint32_t>::max();
 
-void AppendArc(uint32_t arc, OidText* text) {
+void AppendDotAndArc(uint32_t arc, OidText* text) {
   const size_t before = text->size();
-  char* first = text->Extend(kMaxArcDigits);
-  const std::to_chars_result end = std::to_chars(first, first + kMaxArcDigits, arc);
-  text->Truncate(before + static_cast<size_t>(end.ptr - first));
+  char* const dot = text->Extend(1 + kMaxArcDigits);
+  *dot = '.';
+  const std::to_chars_result end = std::to_chars(dot + 1, dot + 1 + kMaxArcDigits, arc);
+  text->Truncate(before + static_cast<size_t>(end.ptr - dot));
 }
 
 // Reads decimal digits from `*at` on. False where there are none or the arc passes 32 bits.
@@ -47,18 +48,15 @@ bool SkipDot(const char** at, const char* end) {
 Status FormatOid(ByteView content, OidText* text) {
   text->clear();
   if (content.empty()) return Status::kCorrupt;
-  AppendArc(content[0] / kSecondArcs, text);
-  text->push_back('.');
-  AppendArc(content[0] % kSecondArcs, text);
-  for (size_t position = 1; position < content.size;) {
-    uint64_t arc = 0;
+  text->push_back(static_cast<char>('0' + content[0] / kSecondArcs));
+  uint64_t arc = content[0] % kSecondArcs;
+  for (size_t position = 1;;) {
+    AppendDotAndArc(static_cast<uint32_t>(arc), text);
+    if (position == content.size) return Status::kOk;
     if (ReadBase128(content, kMaxArc, &position, &arc) != Base128Result::kDone) {
       return Status::kCorrupt;
     }
-    text->push_back('.');
-    AppendArc(static_cast<uint32_t>(arc), text);
   }
-  return Status::kOk;
 }
 
 Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* content) {

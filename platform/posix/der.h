@@ -29,17 +29,20 @@ bool MeasureIndefinite(ByteView in, std::size_t* size);
 inline bool ReadElement(ByteView in, Element* element) {
   if (in.size < 2) return false;
   element->tag = in[0];
-  std::size_t position = 1;
-  Length length;
-  if (!ReadLength(in, &position, &length)) return false;
-  std::uint64_t size = length.octets;
+  std::size_t position = 2;
+  std::uint64_t size = in[1];
   std::size_t terminator = 0;
-  if (length.indefinite) {
-    std::size_t measured;
-    const bool constructed = (element->tag & kConstructed) != 0;
-    if (!constructed || !MeasureIndefinite(in.From(position), &measured)) return false;
-    size = measured;
-    terminator = 2;
+  if (size >= kLongForm) {
+    Length length;
+    if (!ReadLongLength(in, in[1], &position, &length)) return false;
+    size = length.octets;
+    if (length.indefinite) {
+      std::size_t measured;
+      const bool constructed = (element->tag & kConstructed) != 0;
+      if (!constructed || !MeasureIndefinite(in.From(position), &measured)) return false;
+      size = measured;
+      terminator = 2;
+    }
   }
   if (size > in.size - position) return false;
   element->content = {in.data + position, static_cast<std::size_t>(size)};
