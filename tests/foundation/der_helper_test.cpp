@@ -13,9 +13,6 @@ namespace {
 constexpr UINT kUtf8 = 65001;
 constexpr UINT kUsAscii = 20127;
 constexpr UINT kNoCodePage = 12345;
-// ": Неверный тип" in code page 1251.
-constexpr char kWrongType[] = ": \xCD\xE5\xE2\xE5\xF0\xED\xFB\xE9 \xF2\xE8\xEF";
-
 TEST(DerHelper, TellsTagAndClass) {
   EXPECT_EQ(DerHelper::GetTag(Blob("5F 81 00 7F")), 128u);
   EXPECT_FALSE(DerHelper::IsUniversal(Blob("5F 81 00 7F")));
@@ -28,58 +25,6 @@ TEST(DerHelper, TellsTagAndClass) {
     if (DerHelper::IsStringTag({0x80, 0, tag, 0, nullptr})) tags += std::to_string(tag) + " ";
   }
   EXPECT_EQ(tags, "12 18 19 20 22 26 ");
-}
-
-struct DecodeRow {
-  const char* label;
-  const char* element;
-  bool anyTag;
-  const char* text;
-  DWORD status = 0;
-};
-
-const DecodeRow kIdentifiers[] = {
-    {"the number alone counts", "86 03 55 04 03", false, "2.5.4.3"},
-    {"implicit tag", "88 03 55 04 03", true, "2.5.4.3"},
-    {"implicit tag of a string's number", "8C 03 55 04 03", true, "2.5.4.3"},
-    {"string by its own tag", "0C 01 41", true, "A"},
-    {"string", "0C 01 41", false, "", 131},
-    {"implicit tag, not any", "88 03 55 04 03", false, "", 131},
-    {"no such type", "1C 01 41", true, "", 205},
-    {"unfinished", "06 02 55 84", false, "", 206},
-    {"content passes the end", "88 7F 55", true, "", 206},
-    {"tag never ends", "1F 81", true, "", 205},
-};
-
-const DecodeRow kStrings[] = {
-    {"UTF8String", "0C 05 41 D0 96 00 42", false, "0041 0416 0000 0042"},
-    {"IA5String with UTF-8", "16 02 D0 96", false, "0416"},
-    {"broken UTF-8", "14 02 41 FF", false, "0041 FFFD"},
-    {"empty", "9A 00", false, ""},
-    {"BMPString", "1E 02 00 41", false, "", 131},
-    {"BMPString, any tag", "1E 02 00 41", true, "0000 0041"},
-    {"constructed indefinite", "2C 80 04 01 41 00 00", false, "", 206},
-    {"content passes the end", "0C 02 41", false, "", 206},
-    {"tag never ends", "1F 81", true, "", 205},
-};
-
-// `decode` gives the text as the rows write it.
-template <size_t N, class Decode>
-void CheckDecoding(const DecodeRow (&rows)[N], const std::string& where, Decode decode) {
-  for (const DecodeRow& row : rows) {
-    std::string text;
-    const std::string thrown = Thrown([&] { text = decode(Blob(row.element), row.anyTag); });
-    EXPECT_EQ(text, row.text) << row.label;
-    const std::string told = row.status == 0 ? "" : where + (row.status == 131 ? kWrongType : "");
-    EXPECT_EQ(thrown, std::to_string(row.status) + told) << row.label;
-  }
-}
-
-TEST(DerHelper, Decodes) {
-  CheckDecoding(kIdentifiers, " DerHelper::DecodeOid", &DerHelper::DecodeOid);
-  CheckDecoding(kStrings, " DerHelper::DecodeUtf8String", [](const IdentObj& value, bool anyTag) {
-    return Hex(DerHelper::DecodeUtf8String(value, anyTag));
-  });
 }
 
 TEST(DerHelper, Encodes) {

@@ -1,18 +1,76 @@
+// General names by tag and content: the rows of the vector files, and what the factories make.
+
 #include <gtest/gtest.h>
 #include <ortholan/general_name.h>
 
 #include <new>
 #include <utility>
 
+#include "tests/support/calls.h"
 #include "tests/support/hex.h"
 #include "tests/support/thrown.h"
 
 namespace Ortholan::testing {
 namespace {
 
-constexpr auto kTag30 = static_cast<GeneralNameTag>(30);
-constexpr auto kTag31 = static_cast<GeneralNameTag>(31);
-constexpr auto kTag128 = static_cast<GeneralNameTag>(128);
+GeneralName Name(const VectorRow& row) {
+  return GeneralName(static_cast<GeneralNameTag>(row.number("tag")), ExactCopy(row.octets("in")));
+}
+
+std::string Encoded(const VectorRow& row) {
+  GeneralName name = Name(row);
+  const std::string der = Hex(name.DerEncode());
+  EXPECT_EQ(Hex(name.GetContent()), row.text("in"));
+  return der;
+}
+
+// The tag; the whole of the octets is kept.
+std::string Decoded(const VectorRow& row) {
+  GeneralName name;
+  const std::string thrown =
+      Thrown([&] { name = GeneralName::DerDecode(ExactCopy(row.octets("in"))); });
+  if (thrown != "0") return thrown;
+  EXPECT_EQ(Hex(name.GetContent()), row.text("in"));
+  return std::to_string(name.GetTag());
+}
+
+// Texts are compared as units, because some are no characters; the arguments count for nothing.
+std::string Text(const VectorRow& row) {
+  GeneralName name = Name(row);
+  std::wstring text;
+  const std::string thrown = Thrown([&] { text = name.ToString(0, 0); });
+  EXPECT_EQ(Thrown([&] { EXPECT_EQ(name.ToString(1, static_cast<size_t>(-1)), text); }), thrown);
+  if (thrown != "0") return thrown;
+  const bool same = text == row.wide("out");
+  return same ? row.text("out") : "units " + Hex(text);
+}
+
+TEST(GeneralName, Answers) {
+  RunCalls("general_name_content.tsv", {{"encode", Encoded}, {"decode", Decoded}, {"text", Text}});
+}
+
+// What the other interfaces are asked too.
+TEST(GeneralName, IsReadFromItsEncoding) {
+  for (const VectorRow& row : ReadVectors("general_names.tsv")) {
+    SCOPED_TRACE(row.where());
+    GeneralName name;
+    const std::string thrown =
+        Thrown([&] { name = GeneralName::DerDecode(ExactCopy(row.octets("der"))); });
+    EXPECT_EQ(thrown == "0", row.text("code") != "DER");
+    if (thrown != "0") continue;
+    EXPECT_EQ(name.GetTag(), row.number("tag"));
+    std::wstring text;
+    EXPECT_EQ(Thrown([&] { text = name.ToString(0, 0); }) == "0", !row.has("code"));
+    EXPECT_EQ(Hex(text), Hex(row.wide("text")));
+  }
+}
+
+TEST(GeneralName, MadeByAFactoryIsShown) {
+  EXPECT_EQ(GeneralName::CreateUri(L"http://x/").ToString(0, 0), L"http://x/");
+  EXPECT_EQ(GeneralName::CreateEdiPartyName({L"A", L"B"}).ToString(0, 0),
+            L"30 06 A0 01 41 A1 01 42");
+  EXPECT_EQ(GeneralName::CreateRegisteredId("1.2.3").ToString(0, 0), L"*\x03");
+}
 
 TEST(GeneralName, FactoriesStoreTheirTagAndContent) {
   const struct {
@@ -68,69 +126,6 @@ TEST(GeneralName, FactoriesRefuse) {
   EXPECT_EQ(Thrown([] { GeneralName::CreateOther("", IdentObj()); }), "1 ASNTPutElement");
   for (const wchar_t* address : {L"", L"10.0.0.1", L"::1", L"я"}) {
     EXPECT_THROW(GeneralName::CreateIpAddress(address), std::bad_alloc);
-  }
-}
-
-TEST(GeneralName, EncodingReplacesIdentifierOctetsAlone) {
-  const struct {
-    const char* label;
-    GeneralNameTag tag;
-    const char* content;
-    const char* der;
-  } kRows[] = {
-      {"long identifier", rfc822Name, "1F 81 00 01 41", "A1 01 41"},
-      {"padded identifier", directoryName, "BF 80 80 01 02 05 00", "A4 02 05 00"},
-      {"long length", dNSName, "0C 81 01 41", "A2 81 01 41"},
-      {"indefinite", directoryName, "30 80 05 00 00 00", "A4 80 05 00 00 00"},
-      {"counted", x400Address, "04 80 41 00 00", "A3 80 41 00 00"},
-      {"content cut short", rfc822Name, "16 05 41", "A1 05 41"},
-      {"octets behind", rfc822Name, "0C 01 41 FF", "A1 01 41 FF"},
-      {"an address passes for an element", iPAddress, "0A 00 00 01", "A7 00 00 01"},
-      {"decoded", dNSName, "82 01 41", "A2 01 41"},
-      {"last short tag", kTag30, "16 01 41", "BE 01 41"},
-      {"first long tag", kTag31, "16 01 41", "BF 1F 01 41"},
-      {"two groups", kTag128, "16 01 41", "BF 81 00 01 41"},
-      {"one octet", rfc822Name, "16", "16"},
-      {"identifier never ends", rfc822Name, "1F 81", "1F 81"},
-      {"no length", rfc822Name, "1F 01", "1F 01"},
-      {"length cut short", rfc822Name, "04 82 01", "04 82 01"},
-      {"length too long", rfc822Name, "04 89 00 00 00 00 00 00 00 00 00",
-       "04 89 00 00 00 00 00 00 00 00 00"},
-      {"never terminated", rfc822Name, "04 80 41", "04 80 41"},
-  };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.label);
-    GeneralName name(row.tag, Blob(row.content));
-    EXPECT_EQ(Hex(name.DerEncode()), row.der);
-    EXPECT_EQ(Hex(name.GetContent()), row.content);
-  }
-}
-
-TEST(GeneralName, DecodingKeepsTheWhole) {
-  const struct {
-    const char* label;
-    const char* der;
-    DWORD tag;
-    const char* outcome = "0";
-  } kRows[] = {
-      {"host", "82 03 61 62 63", 2},
-      {"any class", "30 00", 16},
-      {"long identifier", "BF 81 00 00", 128},
-      {"content cut short", "86 05 61", 6},
-      {"octets behind", "82 00 FF", 2},
-      {"nothing", "", 0, "206 DerHelper::GetTag"},
-      {"one octet", "82", 0, "206 DerHelper::GetTag"},
-      {"length cut short", "82 82 01", 0, "206 DerHelper::GetTag"},
-      {"identifier never ends", "9F 81", 0, "205 DerHelper::GetTag"},
-  };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.label);
-    const IdentObj der = Blob(row.der);
-    GeneralName name;
-    EXPECT_EQ(Thrown([&] { name = GeneralName::DerDecode(der); }), row.outcome);
-    if (row.outcome != std::string("0")) continue;
-    EXPECT_EQ(name.GetTag(), static_cast<GeneralNameTag>(row.tag));
-    EXPECT_EQ(Hex(name.GetContent()), row.der);
   }
 }
 

@@ -90,6 +90,10 @@ std::vector<std::string> Split(const std::string& line) {
 
 }  // namespace
 
+bool VectorRow::knows(std::string_view column) const {
+  return std::find(columns_->begin(), columns_->end(), column) != columns_->end();
+}
+
 const std::string& VectorRow::text(std::string_view column) const {
   static const std::string kNothing;
   const auto found = std::find(columns_->begin(), columns_->end(), column);

@@ -39,6 +39,8 @@ class VectorRow {
   // File, line and first cell, for the message of a failure.
   const std::string& where() const { return where_; }
 
+  // Whether the file has such a column.
+  bool knows(std::string_view column) const;
   // Whether the cell holds anything.
   bool has(std::string_view column) const { return !text(column).empty(); }
   // UTF-8; an unpaired surrogate of a JSON string takes three octets, as any other character there.

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "tests/names/model/rdn_bytes.h"
+#include "tests/names/name_answers.h"
 #include "tests/support/failure.h"
 
 namespace Ortholan::testing {
@@ -27,83 +27,6 @@ std::string Dotted(const X509Name& name) { return Rendered(name, kDotted); }
 // A common name of one character, written as these types.
 constexpr char kPrintableA[] = "30 0C 31 0A 30 08 06 03 55 04 03 13 01 61";
 constexpr char kUtf8A[] = "30 0C 31 0A 30 08 06 03 55 04 03 0C 01 61";
-constexpr char kBmpUnderscore[] = "30 0D 31 0B 30 09 06 03 55 04 03 1E 02 00 5F";
-
-struct OptionRow {
-  const char* label;
-  const char* text;
-  unsigned long options;
-  bool sort;
-  const char* expected;  // DER where it starts with "30 ", else the dotted text
-};
-
-const OptionRow kOptionRows[] = {
-    {"printable", "CN=a", 0, true, kPrintableA},
-    {"not printable", "CN=_", 0, true, kBmpUnderscore},
-    {"UTF-8 is dropped with all the rest", "CN=_", 0x40003, true, kBmpUnderscore},
-    {"what stays of it has no effect alone", "CN=_", 0x140003, true, kBmpUnderscore},
-    {"without UTF-8 nothing is dropped", "CN=_", 0x100003, true, kBmpUnderscore},
-    {"semicolon only", "CN=a,O=b;C=RU", 0x40000000, false, R"(2.5.4.3="a,O=b",2.5.4.6=RU)"},
-    {"the delimiter is dropped too", "CN=a,O=b;C=RU", 0x40040000, false,
-     "2.5.4.3=a,2.5.4.10=b,2.5.4.6=RU"},
-    {"sorted", "CN=a,O=b;C=RU", 0, true, "2.5.4.6=RU,2.5.4.10=b,2.5.4.3=a"},
-};
-
-TEST(X509NameText, IsEncodedUnderItsOptions) {
-  for (const OptionRow& row : kOptionRows) {
-    SCOPED_TRACE(row.label);
-    const std::string expected = row.expected;
-    const auto shown = [&expected](const X509Name& name) {
-      return expected.substr(0, 3) == "30 " ? Hex(name) : Dotted(name);
-    };
-    EXPECT_EQ(shown(X509Name(row.text, row.options, row.sort)), expected);
-    X509Name name = Blob(kOld);
-    name.SetBy(row.text, row.options, row.sort);
-    EXPECT_EQ(shown(name), expected);
-    X509Name tried;
-    EXPECT_TRUE(tried.TrySetBy(row.text, row.options, row.sort));
-    EXPECT_EQ(shown(tried), expected);
-  }
-}
-
-struct RefusedTextRow {
-  const char* label;
-  const char* text;
-  std::string refusal;
-};
-
-const RefusedTextRow kRefusedTexts[] = {
-    {"null", nullptr, "refused, 160"},
-    {"empty", "", "refused, 160"},
-    {"a blank remains after trimming", " \t", kRefused},
-    {"no value", "CN", kRefused},
-    {"empty value", "CN=", kRefused},
-    {"quoted empty value", "CN=\"\"", kRefused},
-    {"unknown keyword", "XYZ=a", kRefused},
-    {"a type that stays unresolved", "2.5.4.42=a", "refused, 1326"},
-    {"value outside its alphabet", "C=Ru_s", kRefused},
-    {"good start", "CN=a,O", kRefused},
-};
-
-TEST(X509NameText, IsRefused) {
-  for (const RefusedTextRow& row : kRefusedTexts) {
-    SCOPED_TRACE(row.label);
-    X509Name name = Blob(kOld);
-    SetLastError(kUntouched);
-    EXPECT_FALSE(name.TrySetBy(row.text, 0, true));
-    EXPECT_EQ(Refusal(), row.refusal);
-    EXPECT_EQ(Hex(name), kOld);
-    EXPECT_EQ(Failure([&] { name.SetBy(row.text, 0, true); }), kUntyped);
-    EXPECT_EQ(Hex(name), "");
-    EXPECT_EQ(Failure([&] { X509Name(row.text, 0, true); }), kUntyped);
-  }
-}
-
-TEST(X509NameText, MayBeTheNamesOwnBytes) {
-  X509Name name = Blob("43 4E 3D 61 00");
-  name.SetBy(reinterpret_cast<const char*>(name.pbData), 0, true);
-  EXPECT_EQ(Hex(name), kPrintableA);
-}
 
 // The tree of a caller; the arrays stay the caller's.
 struct Tree {
@@ -261,94 +184,6 @@ TEST(X509NameValue, MovesWithoutACopy) {
                                 static_cast<IdentObj*>(&third), &blob}) {
     EXPECT_EQ(empty->cbData, 0u);
     EXPECT_EQ(empty->pbData, nullptr);
-  }
-}
-
-const std::string kOrgRdn = RdnOf("55 04 0A", Tlv(0x0C, "Org"));
-const std::string kTwoValues = TwoValuedRdn();
-
-struct ReadRow {
-  const char* label;
-  std::string name;
-  DWORD options;
-  const char* text;    // of the wide reader, what a failing one leaves included
-  const char* narrow;  // of the 8-bit readers; null where reading fails
-  std::string refusal;
-  const char* attributes;  // GetNameInfo; null where that fails
-};
-
-const ReadRow kReadRows[] = {
-    {"empty object", "", 3, "", "", "", ""},
-    {"name without RDNs", Octets("30 00"), 3, "", "", "", ""},
-    {"one RDN", Tlv(0x30, kOrgRdn), 2, "2.5.4.10=Org", "2.5.4.10=Org", "",
-     "2.5.4.10 12 4F 00 72 00 67 00 00 00 00 00;"},
-    {"values alone, always by commas", Tlv(0x30, kOrgRdn + kOrgRdn), 0x40000001, "Org,Org",
-     "Org,Org", "",
-     "2.5.4.10 12 4F 00 72 00 67 00 00 00 00 00;2.5.4.10 12 4F 00 72 00 67 00 00 00 00 00;"},
-    {"separators", Tlv(0x30, kOrgRdn + kOrgRdn), 0x48000002, "2.5.4.10=Org<000D><000A>2.5.4.10=Org",
-     "2.5.4.10=Org\r\n2.5.4.10=Org", "",
-     "2.5.4.10 12 4F 00 72 00 67 00 00 00 00 00;2.5.4.10 12 4F 00 72 00 67 00 00 00 00 00;"},
-    {"8-bit text ends at NUL", Tlv(0x30, RdnOf("55 04 03", Tlv(0x0C, std::string("a\0b", 3)))), 2,
-     "2.5.4.3=a<0000>b", "2.5.4.3=a", "", "2.5.4.3 12 61 00 00 00 62 00 00 00 00 00;"},
-    {"several attributes in the second RDN", Tlv(0x30, kOrgRdn + kTwoValues), 2, "2.5.4.10=Org",
-     nullptr, kRefused, nullptr},
-    {"no attribute", Octets("30 02 31 00"), 2, "", nullptr, kRefused, nullptr},
-    {"cut short", Octets("30 03 31 02"), 2, "", nullptr, kCorrupt, nullptr},
-    {"a value that is kept as it is", Tlv(0x30, kOrgRdn + RdnOf("55 04 06", Octets("93 01 61"))), 2,
-     "2.5.4.10=Org", nullptr, kBadTag,
-     "2.5.4.10 12 4F 00 72 00 67 00 00 00 00 00;2.5.4.6 1 93 01 61;"},
-};
-
-TEST(X509NameReaders, GiveTextOrRefuse) {
-  for (const ReadRow& row : kReadRows) {
-    SCOPED_TRACE(row.label);
-    const X509Name name = ExactCopy(row.name);
-    const bool readable = row.narrow != nullptr;
-    const char* const outcome = readable ? "returned" : kUntyped;
-    std::wstring wide = L"old";
-    std::string text = "old";
-    CZEPString shared = "old";
-    EXPECT_EQ(Failure([&] { name.GetX500String(wide, row.options); }), outcome);
-    EXPECT_EQ(Failure([&] { name.GetX500String(text, row.options); }), outcome);
-    EXPECT_EQ(Failure([&] { name.GetX500String(shared, row.options); }), outcome);
-    EXPECT_EQ(Shown(wide), row.text);
-    EXPECT_EQ(text, readable ? row.narrow : "");
-    EXPECT_STREQ(shared.c_str(), readable ? row.narrow : "");
-
-    const auto tried = [&](auto old) {
-      auto out = old;
-      SetLastError(kUntouched);
-      EXPECT_EQ(name.TryGetX500String(out, row.options), readable);
-      if (!readable) {
-        EXPECT_EQ(Refusal(), row.refusal);
-        EXPECT_TRUE(out == old);
-      }
-      return out;
-    };
-    const std::wstring old_wide = L"old";
-    EXPECT_EQ(tried(old_wide), readable ? wide : old_wide);
-    EXPECT_EQ(tried(std::string("old")), readable ? row.narrow : "old");
-    EXPECT_STREQ(tried(CZEPString("old")).c_str(), readable ? row.narrow : "old");
-  }
-}
-
-TEST(X509NameReaders, GiveTheAttributesOrRefuse) {
-  for (const ReadRow& row : kReadRows) {
-    SCOPED_TRACE(row.label);
-    const X509Name name = ExactCopy(row.name);
-    const bool readable = row.attributes != nullptr;
-    Rdns out = {{RDNAttr(), RDNAttr()}, {}};
-    EXPECT_EQ(name.TryGetNameInfo(out), readable);
-    EXPECT_TRUE(readable || out.size() == 2);
-    EXPECT_EQ(Failure([&] { name.GetNameInfo(out); }), readable ? "returned" : kUntyped);
-    std::string shown;
-    for (const std::list<RDNAttr>& rdn : out) {
-      EXPECT_EQ(rdn.size(), 1u);
-      const RDNAttr& attr = rdn.front();
-      shown +=
-          attr.oid.c_str() + (' ' + std::to_string(attr.valueType)) + ' ' + Hex(attr.value) + ';';
-    }
-    EXPECT_EQ(shown, readable ? row.attributes : "");
   }
 }
 
