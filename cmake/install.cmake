@@ -96,11 +96,27 @@ install(FILES
 # The way from the .pc file up to the prefix.
 file(RELATIVE_PATH ORTHOLAN_PC_PREFIX "/${ORTHOLAN_PC_DIR}" "/")
 string(REGEX REPLACE "/$" "" ORTHOLAN_PC_PREFIX "${ORTHOLAN_PC_PREFIX}")
+# ortholan_pc(<file> <library> <cflags> <cflags of --static> <libraries of --static>)
+function(ortholan_pc file ORTHOLAN_PC_LIBRARY ORTHOLAN_PC_CFLAGS ORTHOLAN_PC_CFLAGS_PRIVATE
+    ORTHOLAN_PC_LIBS_PRIVATE)
+  configure_file(cmake/ortholan.pc.in "${PROJECT_BINARY_DIR}/${file}" @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/${file}"
+    DESTINATION "${ORTHOLAN_PC_DIR}" COMPONENT development)
+endfunction()
+set(system "")
 if(WIN32)
-  set(ORTHOLAN_PC_LIBS_PRIVATE -lcrypt32)
-else()
-  set(ORTHOLAN_PC_LIBS_PRIVATE "")
+  set(system "-lcrypt32 -luser32")
 endif()
-configure_file(cmake/ortholan.pc.in "${PROJECT_BINARY_DIR}/ortholan.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/ortholan.pc"
-  DESTINATION "${ORTHOLAN_PC_DIR}" COMPONENT development)
+if(MSVC)
+  # The two libraries have two names there, and pkg-config cannot tell them apart by --static.
+  ortholan_pc(ortholan.pc ortholan "" "" "")
+  ortholan_pc(ortholan-static.pc "ortholan_static ${system}" " -DORTHOLAN_STATIC" "" "")
+else()
+  ortholan_pc(ortholan.pc ortholan "" " -DORTHOLAN_STATIC" " ${system}")
+endif()
+
+# What Visual C++'s debuggers read, where it was asked for.
+if(MSVC)
+  install(FILES $<TARGET_PDB_FILE:ortholan>
+    DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT development OPTIONAL)
+endif()

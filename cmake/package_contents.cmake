@@ -1,5 +1,6 @@
 # Run by CPack in its staging directory, before it packs. For Debian: what its policy wants beside
-# the installed files, and manual pages compressed. For Windows: debug information in files of its own.
+# the installed files, and manual pages compressed. For Windows: debug information in files of its
+# own, where the compiler did not put it there.
 
 # debian_documents(<package> <root>): copyright and changelogs; the licence is in the former.
 function(debian_documents package root)
@@ -77,7 +78,7 @@ if(CPACK_GENERATOR STREQUAL "DEB")
         --remove-section=.comment "${archive}"
       COMMAND_ERROR_IS_FATAL ANY)
   endforeach()
-elseif(CPACK_GENERATOR STREQUAL "ZIP")
+elseif(CPACK_GENERATOR STREQUAL "ZIP" AND CPACK_ORTHOLAN_OBJCOPY)
   file(GLOB_RECURSE binaries "${stage}/*/ortholan.dll" "${stage}/*/x509name.exe")
   foreach(binary IN LISTS binaries)
     separate_symbols("${binary}")

@@ -1,8 +1,8 @@
 # The DLL: entry point, version resource, string table and the system libraries it calls.
 target_sources(ortholan PRIVATE platform/windows/dll_main.cpp platform/windows/ortholan.rc)
 set_target_properties(ortholan PROPERTIES PREFIX "")
-target_link_libraries(ortholan PRIVATE crypt32)
-target_link_libraries(ortholan_static PUBLIC crypt32)
+target_link_libraries(ortholan PRIVATE crypt32 user32)
+target_link_libraries(ortholan_static PUBLIC crypt32 user32)
 
 # The resource compiler reports no dependencies of its own.
 file(GLOB ORTHOLAN_RESOURCE_INPUTS CONFIGURE_DEPENDS

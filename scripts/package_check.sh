@@ -116,7 +116,7 @@ check_import_library() {
   local library said
   library=$(locate "$1" ortholan.lib)
   sed -n '/^```c$/,/^```$/p' docs/getting-started.md | sed '1d;$d' >"$scratch/app.c"
-  x86_64-w64-mingw32-gcc-posix -I"$1"/*/include "$scratch/app.c" "$library" -o "$scratch/app.exe"
+  x86_64-w64-mingw32-gcc-posix -I"$(locate "$1" include)" "$scratch/app.c" "$library" -o "$scratch/app.exe"
   said=$(WINEPATH="Z:$2" "$wine" run "$windows/wine" "$scratch/app.exe" | tr -d '\r')
   [[ $said == C=RU,O=Org,CN=Alpha ]] || fail "with ortholan.lib the program says '$said'"
 }

@@ -16,7 +16,7 @@ case ${1-} in
   demo) packages=("${demo[@]}") ;;
   native) packages=("${native[@]}") ;;
   test)
-    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format gdb libssl-dev
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools gdb libssl-dev lld
       mandoc pkg-config python3 valgrind)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;

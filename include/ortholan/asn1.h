@@ -16,6 +16,8 @@
 
 #include <list>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // One scanned header. `content` points into the scanned bytes, just past the header, so the
@@ -93,5 +95,7 @@ ORTHOLAN_EXPORT DWORD ASNTGetElement(const ASNT_ASN_STRUCT_INFO& info, const BYT
                                      IdentObj& value);
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_ASN1_H_

@@ -14,6 +14,8 @@
 
 #include <list>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // One extension, which owns its data; copies are deep.
@@ -97,5 +99,7 @@ class ORTHOLAN_EXPORT CertExtensionList : public std::list<CertExtension> {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_CERT_EXTENSION_H_

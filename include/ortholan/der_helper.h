@@ -16,8 +16,9 @@
 namespace Ortholan {
 
 // All operations report by throwing XZEPStatus with the operation's name: 205 and 206 for bytes
-// that are no element, 131 for an element of another type (text ": Неверный тип" appended, in code
-// page 1251), 1 for a value that cannot be encoded, WinErrorToStatus for a failed conversion.
+// that are no element, 131 for an element of another type (a colon and "wrong type" appended, in
+// Russian and code page 1251), 1 for a value that cannot be encoded, WinErrorToStatus for a failed
+// conversion.
 namespace DerHelper {
 
 // Tag number of an element.

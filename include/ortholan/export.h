@@ -17,6 +17,29 @@
 #define ORTHOLAN_EXPORT __declspec(dllimport)
 #endif
 
+#if defined(_MSC_VER)
+#define ORTHOLAN_CLASSES_BEGIN __pragma(warning(push)) __pragma(warning(disable : 4251 4275))
+#define ORTHOLAN_CLASSES_END __pragma(warning(pop))
+#else
+// Stands before the exported classes of a header. Visual C++ warns that members and bases of
+// standard types are not exported with them (C4251, C4275); they need not be, because program and
+// DLL share one runtime.
+#define ORTHOLAN_CLASSES_BEGIN
+// Stands behind them.
+#define ORTHOLAN_CLASSES_END
+#endif
+
+// A function of Visual C++'s DLL, by the runtime that it was compiled for: see runtime.h.
+#if defined(_MSC_VER)
+#if !defined(_DLL)
+#define ORTHOLAN_RUNTIME ortholan_compiled_with_MT
+#elif defined(_DEBUG)
+#define ORTHOLAN_RUNTIME ortholan_compiled_with_MDd
+#else
+#define ORTHOLAN_RUNTIME ortholan_compiled_with_MD
+#endif
+#endif
+
 // Defined where programs leave the library's instantiations of templates to the library. Those of a
 // DLL do not: g++ exports no member that is defined in its class, and without optimisation a
 // program would ask for it; Visual C++ exports the bases of an exported class by itself.

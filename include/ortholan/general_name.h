@@ -13,6 +13,8 @@
 #include <cstdint>
 #include <string>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // The context tag numbers of the choice.
@@ -88,5 +90,7 @@ class ORTHOLAN_EXPORT GeneralName {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_GENERAL_NAME_H_

@@ -12,6 +12,8 @@
 #include <ortholan/export.h>
 #include <ortholan/platform.h>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // A byte string that owns its buffer alone: copies are deep, moves hand the buffer over. Sizes are
@@ -60,5 +62,7 @@ class ORTHOLAN_EXPORT IdentObj : public CRYPT_DATA_BLOB {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_IDENT_OBJ_H_

@@ -17,6 +17,8 @@
 #include <string>
 #include <utility>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // Owns a CERT_NAME_INFO tree: every array and string in it was allocated with array new and is
@@ -85,5 +87,7 @@ class ORTHOLAN_EXPORT X500NameDecoder {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_NAME_DECODER_H_

@@ -26,6 +26,8 @@
 #include <list>
 #include <string>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 struct AttributeRow;
@@ -95,5 +97,7 @@ ORTHOLAN_EXPORT int GetAttrPriority(const std::wstring& oid);
 ORTHOLAN_EXPORT void TrimLeftRight(std::wstring& s);
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_NAME_ENCODER_H_

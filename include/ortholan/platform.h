@@ -20,6 +20,7 @@
 #define ORTHOLAN_PLATFORM_H_
 
 #include <ortholan/export.h>
+#include <ortholan/runtime.h>
 
 #if defined(_WIN32)
 

@@ -7,6 +7,8 @@
 #include <ortholan/platform.h>
 #include <ortholan/zep_string.h>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // One attribute as in the platform's CERT_RDN_ATTR. Bytes of a type-12 value are UTF-16LE, two a
@@ -68,5 +70,7 @@ struct ORTHOLAN_EXPORT SimpleRDN {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_RDN_H_

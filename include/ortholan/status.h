@@ -11,6 +11,8 @@
 #include <ortholan/platform.h>
 #include <ortholan/zep_string.h>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // Root of what the library throws by type.
@@ -75,5 +77,7 @@ ORTHOLAN_EXPORT DWORD ASNTStatusToWinError(DWORD status) noexcept;
 ORTHOLAN_EXPORT DWORD WinErrorToStatus(DWORD winError) noexcept;
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_STATUS_H_

@@ -27,6 +27,8 @@
 #include <string>
 #include <vector>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 class CertNameInfoWrapper;
@@ -140,5 +142,7 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_X509_NAME_H_

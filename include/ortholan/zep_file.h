@@ -10,6 +10,8 @@
 
 #include <cstdint>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // A file that closes itself. Every operation returns false with the platform's code in the last
@@ -53,5 +55,7 @@ class ORTHOLAN_EXPORT CZEPFile {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_ZEP_FILE_H_

@@ -14,6 +14,8 @@
 #include <cstddef>
 #include <cstdint>
 
+ORTHOLAN_CLASSES_BEGIN
+
 namespace Ortholan {
 
 // Base of objects that several holders share. The count starts at 1 and changes atomically.
@@ -104,5 +106,7 @@ class ORTHOLAN_EXPORT CZEPString {
 };
 
 }  // namespace Ortholan
+
+ORTHOLAN_CLASSES_END
 
 #endif  // ORTHOLAN_ZEP_STRING_H_

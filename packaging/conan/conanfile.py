@@ -76,4 +76,4 @@ class OrtholanConan(ConanFile):
             if self.settings.compiler == "msvc":
                 self.cpp_info.libs = ["ortholan_static"]
             if self.settings.os == "Windows":
-                self.cpp_info.system_libs = ["crypt32"]
+                self.cpp_info.system_libs = ["crypt32", "user32"]

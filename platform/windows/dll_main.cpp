@@ -11,3 +11,8 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID /*reserved
   }
   return TRUE;
 }
+
+#ifdef ORTHOLAN_RUNTIME
+extern "C" ORTHOLAN_EXPORT void ORTHOLAN_RUNTIME();
+void ORTHOLAN_RUNTIME() {}
+#endif

@@ -28,7 +28,7 @@ Call* Real(const wchar_t* module, const char* name) {
   }()
 
 // Defines the stand-in of a call, which fails with `failure` under the name `call`, and the pointer
-// to it.
+// to it, by the name that compilers give import pointers.
 #define STAND_IN(module, type, name, call, failure, parameters, arguments) \
   type WINAPI StandInFor##name parameters {                                \
     REAL(module, name);                                                    \
@@ -36,8 +36,9 @@ Call* Real(const wchar_t* module, const char* name) {
     return real arguments;                                                 \
   }                                                                        \
   }                                                                        \
-  extern decltype(&::name) import_##name asm("__imp_" #name);              \
-  decltype(&::name) import_##name = StandInFor##name;                      \
+  extern "C" {                                                             \
+  decltype(&::name) __imp_##name = StandInFor##name;                       \
+  }                                                                        \
   namespace {
 
 constexpr wchar_t kKernel[] = L"kernel32.dll";
