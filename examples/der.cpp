@@ -123,4 +123,16 @@ std::string StringText(unsigned tag, std::string_view content) {
   return ToUtf8(text);
 }
 
+std::string TimeText(unsigned tag, std::string_view content) {
+  std::string text = StringText(kIa5String, content);
+  const bool isDigits =
+      text.find_first_not_of("0123456789") == text.size() - 1 && text.back() == 'Z';
+  if (tag == kUtcTime && text.size() == 13 && isDigits) text.insert(0, text[0] < '5' ? "20" : "19");
+  if (text.size() != 15 || !isDigits) return text;
+  for (const auto& [place, mark] : {std::pair(4, '-'), {7, '-'}, {10, 'T'}, {13, ':'}, {16, ':'}}) {
+    text.insert(text.begin() + place, mark);
+  }
+  return text;
+}
+
 }  // namespace Example

@@ -64,6 +64,10 @@ std::string OidText(std::string_view content);
 // tag is UTF8String. What stands for no character becomes U+FFFD.
 std::string StringText(unsigned tag, std::string_view content);
 
+// "2026-11-21T21:50:39Z" of a UTCTime or GeneralizedTime as RFC 5280 4.1.2.5 has them; any other
+// content as it stands.
+std::string TimeText(unsigned tag, std::string_view content);
+
 }  // namespace Example
 
 #endif  // ORTHOLAN_EXAMPLES_DER_H_

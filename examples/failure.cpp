@@ -1,7 +1,5 @@
 #include "examples/failure.h"
 
-#include <ortholan/der_helper.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
@@ -106,7 +104,7 @@ std::string Describe(const Failure& failure) {
 void ReportLine(const std::string& text) {
   // Not FromUtf8: a file's name may be any octets.
   const std::string line = Paint(Colour::kFault, "x509name:", Stream::kError) + " " +
-                           Visible(DerHelper::ToWString(text, CP_UTF8)) + "\n";
+                           VisibleInMessage(Repaired(text)) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

@@ -1,136 +1,150 @@
 #include "examples/general_names.h"
 
-#include <ortholan/asn1.h>
-#include <ortholan/der_helper.h>
 #include <ortholan/general_name.h>
 #include <ortholan/status.h>
 
-#include <cstddef>
-#include <iterator>
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
 
+#include "examples/ip_text.h"
 #include "examples/name_text.h"
+#include "examples/oid_names.h"
 #include "examples/text.h"
 
 namespace Example {
-
-using namespace Ortholan;
-
 namespace {
 
-constexpr const char* kKinds[] = {
-    "otherName",
-    "rfc822Name",
-    "dNSName",
-    "x400Address",
-    "directoryName",
-    "ediPartyName",
-    "uniformResourceIdentifier",
-    "iPAddress",
-    "registeredID",
-};
+bool isLibraryTextWanted = false;
 
-std::string Kind(GeneralNameTag tag) {
-  return tag < std::size(kKinds) ? kKinds[tag] : "[" + std::to_string(tag) + "]";
-}
+// Each reader takes the content of an alternative and gives its text; nothing for what is no such.
+using Reading = std::optional<std::string>;
 
-IdentObj Content(const IdentObj& element) {
-  ASNT_ASN_STRUCT_INFO info;
-  if (ASNTGetStructInfo(info, element.pbData, element.cbData) != 0) return {};
-  const auto header = static_cast<DWORD>(info.content - element.pbData);
-  if (info.length > element.cbData - header) return {};
-  return {info.content, info.length};
-}
+Reading Characters(std::string_view content) { return StringText(kIa5String, content); }
 
-// The children of an element without a fault; none otherwise.
-std::list<IdentObj> Parts(const IdentObj& element) {
-  std::list<IdentObj> parts;
-  DWORD status = 0;
-  ASNTGetSequence(parts, element.pbData, element.cbData, &status);
-  if (status != 0) parts.clear();
-  return parts;
-}
-
-// RFC 4291 2.2, groups in full.
-std::string Ip6Text(const IdentObj& address) {
-  std::string text;
-  for (DWORD i = 0; i < address.cbData; i += 2) {
-    text += (i == 0 ? "" : ":") + Hex(IdentObj(address.pbData + i, 2));
-  }
+Reading Address(std::string_view content) {
+  std::string text = IpText(content);
+  if (text.empty()) return std::nullopt;
   return text;
 }
 
-std::wstring AddressReading(const IdentObj& address) {
-  if (address.cbData == 16) return FromUtf8(Ip6Text(address));
-  if (address.cbData != 4) return FromUtf8(SpacedHex(address));
-  return GeneralName(iPAddress, address).ToString(0, 0);
+Reading Identifier(std::string_view content) {
+  std::string text = OidText(content);
+  if (text.empty()) return std::nullopt;
+  return text;
 }
 
 // [4] EXPLICIT Name
-std::wstring DirectoryReading(const GeneralName& name) {
-  const std::list<IdentObj> parts = Parts(name.GetContent());
-  if (parts.size() != 1) return {};
-  const NameText text = ReadNameText(parts.front());
-  return text.accepted ? text.text : FromUtf8("(refused: " + text.reason + ")");
+Reading Directory(std::string_view content) {
+  const Der name = OnlyElement(content);
+  if (name.tag != kSequence) return std::nullopt;
+  return NameLine(Copy(name.whole));
 }
 
-// [0] SEQUENCE { OBJECT IDENTIFIER, [0] EXPLICIT value }
-std::wstring OtherReading(const GeneralName& name) {
-  const std::list<IdentObj> parts = Parts(name.GetContent());
-  if (parts.size() != 2) return {};
-  return FromUtf8(DerHelper::DecodeOid(parts.front(), false) + " " +
-                  SpacedHex(Content(parts.back())));
-}
-
-// What the octets of a name hold whose text is raw octets; empty for the other kinds.
-std::wstring Reading(const GeneralName& name) {
-  switch (name.GetTag()) {
-    case otherName:
-      return OtherReading(name);
-    case directoryName:
-      return DirectoryReading(name);
-    case iPAddress:
-      return AddressReading(Content(name.GetContent()));
-    default:
-      return {};
+// [0] nameAssigner and [1] partyName, each around a DirectoryString.
+Reading EdiParty(std::string_view content) {
+  std::string text;
+  for (const Der& part : Elements(content)) {
+    const Der string = OnlyElement(part.content);
+    if (string.whole.empty()) return std::nullopt;
+    text += (text.empty() ? "" : ", ") + StringText(string.tag, string.content);
   }
-}
-
-std::wstring Text(GeneralName name) {
-  std::wstring text = name.ToString(0, 0);
-  // An other name's text has as many NULs behind it as it has octets, an EDI party's a line end.
-  while (!text.empty() && (text.back() == L'\0' || text.back() == L'\n')) text.pop_back();
   return text;
 }
 
-GeneralNameReading ReadOne(const IdentObj& der) {
-  GeneralNameReading reading;
-  reading.octets = der;
-  try {
-    const GeneralName name = GeneralName::DerDecode(der);
-    reading.kind = Kind(name.GetTag());
-    reading.text = Text(name);
-    reading.meaning = Reading(name);
-    reading.isRead = true;
-  } catch (const XZEPStatus&) {
-    reading.isRead = false;
+Reading Digits(std::string_view content) { return Hex(content); }
+
+struct Alternative {
+  unsigned tag;
+  const char* kind;
+  Reading (*read)(std::string_view content);
+};
+constexpr Alternative kAlternatives[] = {
+    {kContext + 1, "rfc822Name", Characters},
+    {kContext + 2, "dNSName", Characters},
+    {kContextConstructed + 3, "x400Address", Digits},
+    {kContextConstructed + 4, "directoryName", Directory},
+    {kContextConstructed + 5, "ediPartyName", EdiParty},
+    {kContext + 6, "uniformResourceIdentifier", Characters},
+    {kContext + 7, "iPAddress", Address},
+    {kContext + 8, "registeredID", Identifier},
+};
+
+bool IsString(unsigned tag) {
+  constexpr unsigned kStrings[] = {kUtf8String, kPrintableString, kTeletexString,
+                                   kIa5String,  kVisibleString,   kBmpString};
+  return std::find(std::begin(kStrings), std::end(kStrings), tag) != std::end(kStrings);
+}
+
+constexpr unsigned kGeneralString = 0x1B;
+
+// RFC 4556 3.2.2: [0] realm, [1] SEQUENCE { [0] kind, [1] SEQUENCE OF component }; strings are
+// GeneralString.
+Reading KerberosName(std::string_view content) {
+  const std::vector<Der> parts = Elements(content);
+  if (parts.size() != 2) return std::nullopt;
+  const std::vector<Der> principal = Elements(OnlyElement(parts[1].content).content);
+  const Der realm = OnlyElement(parts[0].content);
+  if (principal.size() != 2 || realm.tag != kGeneralString) return std::nullopt;
+  std::string text;
+  for (const Der& component : Elements(OnlyElement(principal[1].content).content)) {
+    text += (text.empty() ? "" : "/") + StringText(kIa5String, component.content);
   }
-  return reading;
+  return text + "@" + StringText(kIa5String, realm.content);
+}
+
+// [0] { OBJECT IDENTIFIER, [0] EXPLICIT value }
+std::optional<Value> OtherName(std::string_view content) {
+  const std::vector<Der> parts = Elements(content);
+  if (parts.size() != 2 || parts[0].tag != kOid) return std::nullopt;
+  const Der value = OnlyElement(parts[1].content);
+  const std::string oid = OidText(parts[0].content);
+  const std::string type = OidName(oid);
+  std::string text = Hex(value.whole);
+  if (IsString(value.tag)) text = StringText(value.tag, value.content);
+  if (type == "krb5PrincipalName") text = KerberosName(value.content).value_or(text);
+  Value line = Value::Line("kind", "otherName", text);
+  return line.Add("type", Value::Text(oid)).Add("typeName", Value::Text(type));
+}
+
+std::optional<Value> Read(const Der& name) {
+  if (name.tag == kContextConstructed) return OtherName(name.content);
+  const auto* const row =
+      std::find_if(std::begin(kAlternatives), std::end(kAlternatives),
+                   [&name](const Alternative& each) { return each.tag == name.tag; });
+  if (row == std::end(kAlternatives)) return std::nullopt;
+  const Reading text = row->read(name.content);
+  if (!text) return std::nullopt;
+  return Value::Line("kind", row->kind, *text);
+}
+
+std::string LibraryText(const Der& name) {
+  try {
+    return ToUtf8(Ortholan::GeneralName::DerDecode(Copy(name.whole)).ToString(0, 0));
+  } catch (const Ortholan::XZEPStatus&) {
+    return {};
+  }
 }
 
 }  // namespace
 
-GeneralNamesReading ReadGeneralNames(const IdentObj& value) {
-  GeneralNamesReading reading;
-  std::list<IdentObj> names;
-  DWORD status = 0;
-  ASNTGetSequence(names, value.pbData, value.cbData, &status);
-  reading.isWhole = status == 0;
-  if (status != 0) reading.faulty = value;
-  for (const IdentObj& der : names) {
-    reading.names.push_back(ReadOne(der));
-    reading.isWhole = reading.isWhole && reading.names.back().isRead;
+void SetLibraryText(bool isWanted) { isLibraryTextWanted = isWanted; }
+
+Value GeneralNameValue(const Der& name) {
+  Value value = Read(name).value_or(Value::Unread(name.whole));
+  if (isLibraryTextWanted && value.form == Value::Form::kLine) {
+    value.Add("libraryText", Value::Text(LibraryText(name)));
   }
-  return reading;
+  return value;
+}
+
+Value GeneralNamesValue(std::string_view content) {
+  Value names = Value::List();
+  bool isWhole = false;
+  for (const Der& each : Elements(content, &isWhole)) names.Add(GeneralNameValue(each));
+  if (!isWhole) names.Add(Value::Unread(content));
+  return names;
 }
 
 }  // namespace Example

@@ -1,31 +1,24 @@
-// The names of an alternative name extension.
+// General names (RFC 5280 4.2.1.6) by what they mean.
 #ifndef ORTHOLAN_EXAMPLES_GENERAL_NAMES_H_
 #define ORTHOLAN_EXAMPLES_GENERAL_NAMES_H_
 
-#include <ortholan/ident_obj.h>
+#include <string_view>
 
-#include <list>
-#include <string>
+#include "examples/der.h"
+#include "examples/value.h"
 
 namespace Example {
 
-struct GeneralNameReading {
-  Ortholan::IdentObj octets;
-  bool isRead = false;  // whether what follows is there
-  std::string kind;     // RFC 5280's word for the alternative
-  std::wstring text;    // the library's
-  // What the octets hold where the library's text is raw octets; empty for the other kinds.
-  std::wstring meaning;
-};
+// A line of kind and text, or the octets of what is no general name.
+//   kind  the alternative's name in the standard
+//   type  of an other name: its identifier's name
+Value GeneralNameValue(const Der& name);
 
-struct GeneralNamesReading {
-  std::list<GeneralNameReading> names;
-  Ortholan::IdentObj faulty;  // the whole value where the sequence has a fault
-  bool isWhole = false;       // every name can be read
-};
+// The names that `content`, without its header, is made of.
+Value GeneralNamesValue(std::string_view content);
 
-// From the value of the extension, a GeneralNames sequence.
-GeneralNamesReading ReadGeneralNames(const Ortholan::IdentObj& value);
+// Whether general names have the library's own text beside their meaning.
+void SetLibraryText(bool isWanted);
 
 }  // namespace Example
 

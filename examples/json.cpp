@@ -1,46 +1,46 @@
 #include "examples/json.h"
 
-#include <ortholan/der_helper.h>
-#include <ortholan/platform.h>
-
-#include <cstddef>
+#include <cstdio>
+#include <string_view>
 
 #include "examples/text.h"
 
 namespace Example {
-
-using namespace Ortholan;
-
 namespace {
 
-bool IsHigh(wchar_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool IsLow(wchar_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+std::string UnitEscape(unsigned unit) {
+  char escape[8];
+  std::snprintf(escape, sizeof escape, "\\u%04X", unit & 0xFFFFU);
+  return escape;
+}
+
+// RFC 8259 7: a pair of surrogates outside the basic plane.
+std::string Escape(char32_t character) {
+  const auto value = static_cast<unsigned>(character);
+  if (value <= 0xFFFF) return UnitEscape(value);
+  return UnitEscape(0xD800 + ((value - 0x10000) >> 10)) + UnitEscape(0xDC00 + (value & 0x3FF));
+}
 
 }  // namespace
 
-std::string JsonString(const std::wstring& text) {
-  std::wstring quoted = L"\"";
-  quoted.reserve(text.size() + 2);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const wchar_t unit = text[i];
-    if (IsHigh(unit) && i + 1 < text.size() && IsLow(text[i + 1])) {
-      quoted += unit;
-      quoted += text[++i];
-    } else if (unit == L'"' || unit == L'\\') {
-      quoted += L'\\';
-      quoted += unit;
-    } else if (IsHidden(unit) || IsHigh(unit) || IsLow(unit)) {
-      quoted += UnitEscape(unit);
+std::string JsonString(const std::string& text) {
+  const std::string repaired = Repaired(text);
+  std::string quoted = "\"";
+  quoted.reserve(repaired.size() + 2);
+  for (std::string_view rest = repaired; !rest.empty();) {
+    const char* const start = rest.data();
+    const char32_t character = TakeCharacter(rest);
+    if (character == U'"' || character == U'\\') quoted += '\\';
+    if (IsHidden(character)) {
+      quoted += Escape(character);
     } else {
-      quoted += unit;
+      quoted.append(start, rest.data());
     }
   }
-  return ToUtf8(quoted + L"\"");
+  return quoted + "\"";
 }
 
-std::string JsonString(const std::string& text) {
-  return JsonString(DerHelper::ToWString(text, CP_UTF8));
-}
+std::string JsonString(const std::wstring& text) { return JsonString(ToUtf8(text)); }
 
 std::string JsonArray(const std::list<std::string>& values) {
   std::string array = "[";

@@ -8,11 +8,10 @@
 
 namespace Example {
 
-// A string. What Visible shows as \uXXXX is escaped, and so is a surrogate without its partner,
-// which comes back as it was.
-std::string JsonString(const std::wstring& text);
-// UTF-8; octets that are none become U+FFFD.
+// A string. What Visible escapes is escaped; octets that are no UTF-8 and surrogates without a
+// partner become U+FFFD, as many parsers refuse a text with such.
 std::string JsonString(const std::string& text);
+std::string JsonString(const std::wstring& text);
 
 std::string JsonArray(const std::list<std::string>& values);
 

@@ -1,13 +1,16 @@
 #include "examples/name_text.h"
 
+#include <ortholan/asn1.h>
 #include <ortholan/x509_name.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <list>
 
+#include "examples/der.h"
 #include "examples/failure.h"
 #include "examples/name_tree.h"
+#include "examples/text.h"
 
 namespace Example {
 
@@ -67,6 +70,40 @@ NameText ReadNameText(const IdentObj& name) {
     result.isMultiValued = IsMultiValued(name);
   }
   return result;
+}
+
+namespace {
+
+std::string AttributeLine(const NameAttribute& attribute) {
+  std::string text = attribute.key.empty() ? attribute.oid : ToUtf8(attribute.key);
+  text += "=";
+  if (!attribute.isRead) return text + "#" + Hex(attribute.value);
+  for (const std::wstring& line : attribute.lines) {
+    text += (&line == &attribute.lines.front() ? "" : " | ") + ToUtf8(line);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string NameLine(const IdentObj& name) {
+  const NameText text = ReadNameText(name);
+  if (text.accepted) return ToUtf8(text.text);
+  std::string line;
+  for (const NameRdn& rdn : ReadNameTree(name).rdns) {
+    const char* mark = line.empty() ? "" : ",";
+    for (const NameAttribute& attribute : rdn.attributes) {
+      line += mark + AttributeLine(attribute);
+      mark = "+";
+    }
+  }
+  return line;
+}
+
+std::string RdnLine(std::string_view attributes) {
+  std::list<IdentObj> parts;
+  for (const Der& each : Elements(attributes)) parts.push_back(Copy(each.whole));
+  return NameLine(ASNTPutSequence({ASNTPutSequence(parts, 17)}, 16));
 }
 
 void FailToDecode(DWORD code, const IdentObj& name, const char* role) {

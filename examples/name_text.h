@@ -6,6 +6,7 @@
 #include <ortholan/platform.h>
 
 #include <string>
+#include <string_view>
 
 namespace Example {
 
@@ -21,6 +22,12 @@ struct NameText {
 
 // The name's text with short keys (style 3).
 NameText ReadNameText(const Ortholan::IdentObj& name);
+
+// The name in one line whatever it is: that text, or where there is none a list of all attributes,
+// "+" between those of one RDN.
+std::string NameLine(const Ortholan::IdentObj& name);
+// The same of a single RDN, from the content of its SET.
+std::string RdnLine(std::string_view attributes);
 
 // Throws the Failure for a name that a decoder refused with `code`.
 [[noreturn]] void FailToDecode(Ortholan::DWORD code, const Ortholan::IdentObj& name,

@@ -1,12 +1,16 @@
-// show: certificates with their names as trees, and their extensions.
+// show: certificates, requests and revocation lists with their names and extensions.
+
+#include <ortholan/status.h>
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
-#include "examples/certificate.h"
-#include "examples/certificate_reading.h"
 #include "examples/commands.h"
+#include "examples/document.h"
+#include "examples/document_file.h"
 #include "examples/failure.h"
+#include "examples/general_names.h"
 #include "examples/input.h"
 #include "examples/progress.h"
 #include "examples/show_json.h"
@@ -18,6 +22,20 @@ namespace Example {
 using namespace Ortholan;
 
 namespace {
+
+// Prints what it is given and remembers whether all of it was in order.
+// What stopped `work`; empty where nothing did. One document never hides the others.
+template <typename Work>
+std::string FaultOf(Work work) {
+  try {
+    work();
+    return {};
+  } catch (const Failure& failure) {
+    return Describe(failure);
+  } catch (const XZEPStatus& failure) {
+    return Describe({ASNTStatusToWinError(failure.GetStatus()), "the data cannot be read"});
+  }
+}
 
 // Prints what it is given and remembers whether all of it was in order.
 class Printer {
@@ -36,11 +54,11 @@ class Printer {
   bool IsSound() const { return isSound_; }
 
  private:
-  void ShowCertificate(std::size_t number, const std::string& der, Progress& progress);
+  void ShowDocument(std::size_t number, std::string_view der);
   void Item(const std::string& text);
   // `number` is 0 where the file itself is at fault.
-  void Fault(std::size_t number, const Failure& failure);
-  void Refuse(std::size_t number, const Failure& failure);
+  void Fault(std::size_t number, const std::string& what);
+  void Refuse(std::size_t number, const std::string& what);
 
   bool isJson_;
   bool isSound_ = true;
@@ -58,32 +76,24 @@ void Printer::Item(const std::string& text) {
   isFirst_ = false;
 }
 
-void Printer::Fault(std::size_t number, const Failure& failure) {
-  // The lines of both streams in the order of the certificates, where they go to one place.
+void Printer::Fault(std::size_t number, const std::string& what) {
+  // The lines of both streams in the order of the documents, where they go to one place.
   FinishOutput();
   std::string place = "show: ";
   if (number != 0) place += path_ + ": certificate " + std::to_string(number) + ": ";
-  ReportLine(place + Describe(failure));
+  ReportLine(place + what);
   isSound_ = false;
 }
 
-void Printer::Refuse(std::size_t number, const Failure& failure) {
-  if (isJson_) Item(FaultJson(path_, number, failure));
-  Fault(number, failure);
+void Printer::Refuse(std::size_t number, const std::string& what) {
+  if (isJson_) Item(RefusedJson(path_, number, what));
+  Fault(number, what);
 }
 
-void Printer::ShowCertificate(std::size_t number, const std::string& der, Progress& progress) {
-  progress.HideForOutput();
-  try {
-    const CertificateReading certificate = ReadWholeCertificate(der);
-    Item(isJson_ ? CertificateJson(path_, number, certificate)
-                 : CertificateText(number, certificate));
-    if (!certificate.faults.empty()) progress.Hide();
-    for (const Failure& fault : certificate.faults) Fault(number, fault);
-  } catch (const Failure& failure) {
-    progress.Hide();
-    Refuse(number, failure);
-  }
+void Printer::ShowDocument(std::size_t number, std::string_view der) {
+  const Document document = ReadDocument(der);
+  Item(isJson_ ? DocumentJson(path_, number, document) : DocumentText(number, document));
+  for (const std::string& fault : document.faults) Fault(number, fault);
 }
 
 void Printer::ShowFile(const std::string& path) {
@@ -91,27 +101,30 @@ void Printer::ShowFile(const std::string& path) {
   try {
     const std::string file = ReadOctets(path);
     Progress progress(file.size());
-    const std::size_t count = ForEachCertificate(
+    const std::size_t count = ForEachDocument(
         file,
-        [this, &progress](std::size_t number, const std::string& der, std::size_t position) {
-          ShowCertificate(number, der, progress);
+        [this, &progress](std::size_t number, std::string_view der, std::size_t position) {
+          progress.HideForOutput();
+          const std::string fault = FaultOf([&] { ShowDocument(number, der); });
+          if (!fault.empty()) Refuse(number, fault);
           progress.Show(number, position);
         },
         [this, &progress](std::size_t number, const std::string& what) {
           progress.Hide();
-          Refuse(number, {ERROR_SUCCESS, what});
+          Refuse(number, what);
         });
-    if (count == 0) Example::Refuse(path + " holds no certificate");
+    if (count == 0) Example::Refuse(path + " holds no certificate, request or revocation list");
   } catch (const Failure& failure) {
-    Refuse(0, failure);
+    Refuse(0, Describe(failure));
   }
 }
 
 int RunShow(const Arguments& arguments) {
   const bool isJson = arguments.Has("--json");
+  SetLibraryText(arguments.Has("--library-text"));
   Printer printer(isJson);
   for (const std::string& path : arguments.operands) {
-    if (!isJson && arguments.operands.size() > 1) Print(Visible(FromUtf8(path)) + ":\n");
+    if (!isJson && arguments.operands.size() > 1) Print(Visible(Repaired(path)) + ":\n");
     printer.ShowFile(path);
   }
   return printer.IsSound() ? 0 : 1;
@@ -126,11 +139,12 @@ const Command kShowCommand = {
     kAnyNumber,
     "FILE...",
     "certificates: names and extensions",
-    "A FILE holds certificates, in PEM with anything between them, or in DER. Subject and issuer\n"
-    "are shown as text and as a tree; what cannot be read is told on standard error, and the\n"
-    "others follow.\n",
+    "A FILE holds certificates, certificate requests, revocation lists or PKCS #7 bundles, in PEM "
+    "with\n"
+    "anything between them, or in DER. Names are shown as text and as a tree; what cannot be read\n"
+    "is told on standard error, and the others follow.\n",
     "x509name show server.pem\n"
     "x509name show --json bundle.pem | jq -r '.[].subject.text'\n",
-    {kJsonOption}};
+    {kJsonOption, {"--library-text", nullptr, "the library's own text of each general name, too"}}};
 
 }  // namespace Example

@@ -1,5 +1,8 @@
 #include "examples/show_json.h"
 
+#include <algorithm>
+#include <string>
+
 #include "examples/json.h"
 #include "examples/text.h"
 
@@ -16,6 +19,13 @@ std::string ArrayOf(const Items& items, Convert convert) {
 
 std::string LineJson(const std::wstring& line) { return JsonString(line); }
 
+// Whether U+FFFD stands for something that has no UTF-8.
+bool IsLossy(const NameAttribute& attribute) {
+  return std::any_of(attribute.lines.begin(), attribute.lines.end(), [](const std::wstring& line) {
+    return ToUtf8(line).find("\uFFFD") != std::string::npos;
+  });
+}
+
 std::string AttributeJson(const NameAttribute& attribute) {
   JsonObject object;
   if (!attribute.isAttribute) return object.AddText("octets", Hex(attribute.octets)).End();
@@ -24,9 +34,8 @@ std::string AttributeJson(const NameAttribute& attribute) {
   object.AddText("stringType", attribute.stringType);
   if (attribute.isRead) {
     object.Add("values", ArrayOf(attribute.lines, LineJson));
-  } else {
-    object.AddText("octets", Hex(attribute.value));
   }
+  if (!attribute.isRead || IsLossy(attribute)) object.AddText("octets", Hex(attribute.value));
   return object.End();
 }
 
@@ -42,33 +51,19 @@ std::string NameJson(const NameReading& name) {
   return object.Add("rdns", ArrayOf(name.tree.rdns, RdnJson)).End();
 }
 
-std::string GeneralNameJson(const GeneralNameReading& name) {
-  JsonObject object;
-  if (!name.isRead) return object.AddText("octets", Hex(name.octets)).End();
-  object.AddText("kind", name.kind).AddText("text", name.text);
-  if (!name.meaning.empty()) object.AddText("meaning", name.meaning);
-  return object.End();
-}
-
 std::string ExtensionJson(const ExtensionReading& extension) {
   JsonObject object;
   if (!extension.isRead) return object.AddText("octets", Hex(extension.record)).End();
   object.AddText("oid", extension.oid);
   if (extension.name != nullptr) object.AddText("name", std::string(extension.name));
   object.AddBool("critical", extension.isCritical).AddText("value", Hex(extension.value));
-  if (extension.generalNames) {
-    object.Add("generalNames", ArrayOf(extension.generalNames->names, GeneralNameJson));
+  if (extension.content) {
+    object.Add(extension.hasNames ? "generalNames" : "content", ValueJson(*extension.content));
   }
   return object.End();
 }
 
-std::string OneFaultJson(const Failure& fault) {
-  return JsonObject()
-      .AddText("what", fault.what)
-      .AddNumber("code", fault.code)
-      .AddText("meaning", std::string(Meaning(fault.code)))
-      .End();
-}
+std::string FaultJson(const std::string& what) { return JsonObject().AddText("what", what).End(); }
 
 JsonObject Place(const std::string& path, std::size_t number) {
   JsonObject object;
@@ -77,20 +72,49 @@ JsonObject Place(const std::string& path, std::size_t number) {
   return object;
 }
 
+const char* KindWord(Kind kind) {
+  switch (kind) {
+    case Kind::kRequest:
+      return "certificateRequest";
+    case Kind::kRevocationList:
+      return "revocationList";
+    default:
+      return "certificate";
+  }
+}
+
 }  // namespace
 
-std::string CertificateJson(const std::string& path, std::size_t number,
-                            const CertificateReading& certificate) {
-  return Place(path, number)
-      .Add("subject", NameJson(certificate.subject))
-      .Add("issuer", NameJson(certificate.issuer))
-      .Add("extensions", ArrayOf(certificate.extensions, ExtensionJson))
-      .Add("faults", ArrayOf(certificate.faults, OneFaultJson))
+std::string ValueJson(const Value& value) {
+  switch (value.form) {
+    case Value::Form::kText:
+    case Value::Form::kOctets:
+      return JsonString(value.text);
+    case Value::Form::kLiteral:
+      return value.text;
+    case Value::Form::kList:
+      return ArrayOf(value.members, [](const Member& each) { return ValueJson(each.value); });
+    case Value::Form::kObject:
+    case Value::Form::kLine:
+      break;
+  }
+  JsonObject object;
+  for (const Member& each : value.members) object.Add(each.name.c_str(), ValueJson(each.value));
+  return object.End();
+}
+
+std::string DocumentJson(const std::string& path, std::size_t number, const Document& document) {
+  JsonObject object = Place(path, number);
+  object.AddText("kind", std::string(KindWord(document.kind)));
+  for (const Fact& fact : document.facts) object.Add(fact.member, ValueJson(fact.value));
+  for (const NameReading& name : document.names) object.Add(name.role, NameJson(name));
+  return object.Add("extensions", ArrayOf(document.extensions, ExtensionJson))
+      .Add("faults", ArrayOf(document.faults, FaultJson))
       .End();
 }
 
-std::string FaultJson(const std::string& path, std::size_t number, const Failure& fault) {
-  return Place(path, number).Add("faults", JsonArray({OneFaultJson(fault)})).End();
+std::string RefusedJson(const std::string& path, std::size_t number, const std::string& what) {
+  return Place(path, number).Add("faults", JsonArray({FaultJson(what)})).End();
 }
 
 }  // namespace Example

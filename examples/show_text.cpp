@@ -1,5 +1,8 @@
 #include "examples/show_text.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "examples/colour.h"
 #include "examples/text.h"
 
@@ -17,7 +20,7 @@ std::string FaultyLine(const std::string& indent, const char* what, const IdentO
 // "C (2.5.4.6)", or the identifier alone where it has no key.
 std::string TypeText(const NameAttribute& attribute) {
   if (attribute.oid.empty()) return Faulty("unreadable type " + SpacedHex(attribute.type));
-  const std::string key = Visible(attribute.key);
+  const std::string key = Visible(ToUtf8(attribute.key));
   return key.empty() ? Paint(Colour::kKey, attribute.oid)
                      : Paint(Colour::kKey, key) + " (" + attribute.oid + ")";
 }
@@ -26,7 +29,7 @@ std::string AttributeText(const NameAttribute& attribute, const std::string& ind
   if (!attribute.isAttribute) return FaultyLine(indent, "no attribute", attribute.octets);
   std::string text;
   for (const std::wstring& line : attribute.lines) {
-    text += (text.empty() ? "" : " | ") + Visible(line);
+    text += (text.empty() ? "" : " | ") + Visible(ToUtf8(line));
   }
   if (!attribute.isRead) text = SpacedHex(attribute.value);
   return indent + TypeText(attribute) + " " + attribute.stringType + ": " + text + "\n";
@@ -48,51 +51,123 @@ std::string TreeText(const NameTree& tree, const std::string& indent) {
   return text;
 }
 
-std::string NameLines(const char* role, const NameReading& name) {
+std::string NameLines(const NameReading& name) {
   const std::string text =
-      name.text.accepted ? Visible(name.text.text) : Faulty("refused: " + name.text.reason);
-  return "  " + Paint(Colour::kHeading, role) + ": " + text + "\n" + TreeText(name.tree, "    ");
+      name.text.accepted ? Visible(ToUtf8(name.text.text)) : Faulty("refused: " + name.text.reason);
+  return "  " + Paint(Colour::kHeading, name.role) + ": " + text + "\n" +
+         TreeText(name.tree, "    ");
 }
 
-std::string GeneralNameText(const GeneralNameReading& name, const std::string& indent) {
-  if (!name.isRead) return FaultyLine(indent, "unreadable", name.octets);
-  std::string lines = indent + Paint(Colour::kKey, name.kind) + ": " + Visible(name.text) + "\n";
-  if (!name.meaning.empty()) lines += indent + "  = " + Visible(name.meaning) + "\n";
-  return lines;
-}
-
-std::string GeneralNamesText(const GeneralNamesReading& reading, const std::string& indent) {
+// Two digits an octet, with blanks.
+std::string Spaced(const std::string& digits) {
   std::string text;
-  for (const GeneralNameReading& name : reading.names) text += GeneralNameText(name, indent);
-  if (reading.faulty.cbData != 0) {
-    text += FaultyLine(indent, "cannot be read further", reading.faulty);
+  for (std::size_t i = 0; i < digits.size(); i += 2) {
+    text += (i == 0 ? "" : " ") + digits.substr(i, 2);
   }
   return text;
 }
 
-std::string ExtensionText(const ExtensionReading& extension) {
-  const std::string indent = "    ";
-  if (!extension.isRead) return FaultyLine(indent, "unreadable", extension.record);
+bool IsScalar(const Value& value) {
+  return value.form == Value::Form::kText || value.form == Value::Form::kOctets ||
+         value.form == Value::Form::kLiteral;
+}
+
+std::string ScalarText(const Value& value) {
+  return value.form == Value::Form::kOctets ? Spaced(value.text) : Visible(value.text);
+}
+
+// What fits behind its name: a scalar, or a list of such.
+bool IsInline(const Value& value) {
+  const std::vector<Member>& members = value.members;
+  return IsScalar(value) || (value.form == Value::Form::kList &&
+                             std::all_of(members.begin(), members.end(),
+                                         [](const Member& each) { return IsScalar(each.value); }));
+}
+
+std::string InlineText(const Value& value) {
+  if (IsScalar(value)) return ScalarText(value);
+  std::string text;
+  for (const Member& each : value.members)
+    text += (text.empty() ? "" : ", ") + ScalarText(each.value);
+  return text;
+}
+
+std::string Block(const Value& value, const std::string& indent);
+
+std::string MemberText(const Member& member, const std::string& indent) {
+  const std::string name = indent + Paint(Colour::kKey, member.name) + ":";
+  if (IsInline(member.value)) return name + " " + InlineText(member.value) + "\n";
+  return name + "\n" + Block(member.value, indent + "  ");
+}
+
+// "dNSName: example.org", or with the name of a type "otherName xmppAddr: a@b"; the library's text,
+// which is rare, stands below.
+std::string LineText(const Value& line, const std::string& indent) {
+  std::string kind = line.members[0].value.text;
+  std::string below;
+  for (const Member& each : line.members) {
+    if (each.name == "typeName") kind += " " + each.value.text;
+    if (each.name == "libraryText") below = MemberText(each, indent + "  ");
+  }
+  return indent + Paint(Colour::kKey, Visible(kind)) + ": " + ScalarText(line.members[1].value) +
+         "\n" + below;
+}
+
+// A list's items are told apart by hyphens where they have several lines.
+std::string ItemText(const Value& item, const std::string& indent) {
+  if (IsScalar(item)) return indent + ScalarText(item) + "\n";
+  if (item.form == Value::Form::kLine || item.IsUnread()) return Block(item, indent);
+  std::string text = Block(item, indent + "  ");
+  text[indent.size()] = '-';
+  return text;
+}
+
+std::string Block(const Value& value, const std::string& indent) {
+  if (value.form == Value::Form::kLine) return LineText(value, indent);
+  if (value.IsUnread()) {
+    return indent + Faulty("unreadable") + " " + ScalarText(value.members[0].value) + "\n";
+  }
+  std::string text;
+  for (const Member& each : value.members) {
+    const bool isItem = value.form == Value::Form::kList;
+    text += isItem ? ItemText(each.value, indent) : MemberText(each, indent);
+  }
+  return text;
+}
+
+std::string ExtensionText(const ExtensionReading& extension, const std::string& indent) {
+  if (!extension.isRead) return FaultyLine(indent, "unreadable", Copy(extension.record));
   std::string line = indent + Paint(Colour::kKey, extension.oid);
   if (extension.name != nullptr) line += " " + std::string(extension.name);
-  line += extension.isCritical ? ", " + Paint(Colour::kNotable, "critical") + ":"
-                               : std::string(", not critical:");
-  if (!extension.generalNames) return line + " " + SpacedHex(extension.value) + "\n";
-  return line + "\n" + GeneralNamesText(*extension.generalNames, indent + "  ");
+  if (extension.isCritical) line += ", " + Paint(Colour::kNotable, "critical");
+  line += extension.isCritical ? ":" : ", not critical:";
+  if (!extension.content) return line + " " + SpacedHex(Copy(extension.value)) + "\n";
+  const std::string text = IsInline(*extension.content) ? InlineText(*extension.content) : "";
+  if (IsInline(*extension.content)) return line + (text.empty() ? "" : " ") + text + "\n";
+  return line + "\n" + Block(*extension.content, indent + "  ");
+}
+
+const char* Title(Kind kind) {
+  switch (kind) {
+    case Kind::kRequest:
+      return "certificate request ";
+    case Kind::kRevocationList:
+      return "certificate revocation list ";
+    default:
+      return "certificate ";
+  }
 }
 
 }  // namespace
 
-std::string CertificateText(std::size_t number, const CertificateReading& certificate) {
-  std::string text = Paint(Colour::kHeading, "certificate " + std::to_string(number)) + "\n" +
-                     NameLines("subject", certificate.subject) +
-                     NameLines("issuer", certificate.issuer);
-  if (!certificate.extensions.empty()) {
-    text += "  " + Paint(Colour::kHeading, "extensions") + ":\n";
+std::string DocumentText(std::size_t number, const Document& document) {
+  std::string text = Paint(Colour::kHeading, Title(document.kind) + std::to_string(number)) + "\n";
+  for (const Fact& fact : document.facts) {
+    text += "  " + Paint(Colour::kHeading, fact.label) + ": " + InlineText(fact.value) + "\n";
   }
-  for (const ExtensionReading& extension : certificate.extensions) {
-    text += ExtensionText(extension);
-  }
+  for (const NameReading& name : document.names) text += NameLines(name);
+  if (!document.extensions.empty()) text += "  " + Paint(Colour::kHeading, "extensions") + ":\n";
+  for (const ExtensionReading& each : document.extensions) text += ExtensionText(each, "    ");
   return text;
 }
 

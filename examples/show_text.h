@@ -1,16 +1,16 @@
-// A certificate as lines for a person's eyes.
+// A document as lines for a person's eyes.
 #ifndef ORTHOLAN_EXAMPLES_SHOW_TEXT_H_
 #define ORTHOLAN_EXAMPLES_SHOW_TEXT_H_
 
 #include <cstddef>
 #include <string>
 
-#include "examples/certificate_reading.h"
+#include "examples/document.h"
 
 namespace Example {
 
-// `number` is the certificate's in its file, from 1.
-std::string CertificateText(std::size_t number, const CertificateReading& certificate);
+// `number` is the document's in its file, from 1.
+std::string DocumentText(std::size_t number, const Document& document);
 
 }  // namespace Example
 

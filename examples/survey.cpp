@@ -8,10 +8,14 @@
 #include <list>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
-#include "examples/certificate.h"
 #include "examples/commands.h"
+#include "examples/der.h"
+#include "examples/document.h"
+#include "examples/document_file.h"
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/name_text.h"
@@ -73,7 +77,7 @@ std::string WhyNotEncoded(const IdentObj& name) {
 class Survey {
  public:
   void CountName(const IdentObj& name);
-  void CountCertificate(const std::string& der);
+  void CountCertificate(std::string_view der);
   void CountBad() { ++bad_; }
   void PrintResult() const;
 
@@ -112,17 +116,16 @@ void Survey::CountName(const IdentObj& name) {
   }
 }
 
-void Survey::CountCertificate(const std::string& der) {
-  Certificate certificate;
+void Survey::CountCertificate(std::string_view der) {
+  std::vector<std::string_view> names;
   try {
-    certificate = ReadCertificate(der);
+    names = ReadCertificateNames(der);
   } catch (const Failure&) {
     CountBad();
     return;
   }
   ++certificates_;
-  CountName(certificate.subject);
-  CountName(certificate.issuer);
+  for (const std::string_view name : names) CountName(Copy(name));
 }
 
 void Survey::PrintCount(const char* indent, const std::string& what, std::size_t count) {
@@ -155,9 +158,9 @@ int RunSurvey(const Arguments& arguments) {
   for (const std::string& path : arguments.operands) {
     const std::string file = ReadOctets(path);
     Progress progress(file.size());
-    ForEachCertificate(
+    ForEachDocument(
         file,
-        [&](std::size_t number, const std::string& der, std::size_t position) {
+        [&](std::size_t number, std::string_view der, std::size_t position) {
           survey.CountCertificate(der);
           progress.Show(number, position);
         },

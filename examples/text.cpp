@@ -28,65 +28,106 @@ std::wstring FromUtf8(const std::string& text) {
 
 std::string ToUtf8(const std::wstring& text) { return DerHelper::ToString(text, CP_UTF8); }
 
+std::string Repaired(const std::string& text) {
+  return ToUtf8(DerHelper::ToWString(text, CP_UTF8));
+}
+
+char32_t TakeCharacter(std::string_view& rest) {
+  const auto octet = [&rest](std::size_t i) -> char32_t {
+    return static_cast<unsigned char>(rest[i]);
+  };
+  const std::size_t size = octet(0) < 0x80 ? 1 : octet(0) < 0xE0 ? 2 : octet(0) < 0xF0 ? 3 : 4;
+  char32_t character = size == 1 ? octet(0) : octet(0) & (0x7FU >> size);
+  for (std::size_t i = 1; i < size && i < rest.size(); ++i)
+    character = character << 6 | (octet(i) & 0x3F);
+  rest.remove_prefix(std::min(size, rest.size()));
+  return character;
+}
+
 namespace {
 
 struct Range {
-  wchar_t first, last;
+  char32_t first, last;
 };
-// Controls, line and paragraph separators, embeddings, overrides and isolates.
+// Unicode's controls, line and paragraph separators, and Default_Ignorable_Code_Point, which has
+// marks of direction, joiners, fillers, variation selectors and tags; surrogates and noncharacters.
 constexpr Range kHidden[] = {
-    {0x0000, 0x001F}, {0x007F, 0x009F}, {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
+    {0x0000, 0x001F},   {0x007F, 0x009F},   {0x00AD, 0x00AD},   {0x034F, 0x034F}, {0x061C, 0x061C},
+    {0x115F, 0x1160},   {0x17B4, 0x17B5},   {0x180B, 0x180F},   {0x200B, 0x200F}, {0x2028, 0x202E},
+    {0x2060, 0x206F},   {0x2800, 0x2800},   {0x3164, 0x3164},   {0xD800, 0xDFFF}, {0xFDD0, 0xFDEF},
+    {0xFE00, 0xFE0F},   {0xFEFF, 0xFEFF},   {0xFFA0, 0xFFA0},   {0xFFF0, 0xFFFB}, {0xFFFE, 0xFFFF},
+    {0x1BCA0, 0x1BCA3}, {0x1D173, 0x1D17A}, {0xE0000, 0xE0FFF},
+};
 
-}  // namespace
-
-bool IsHidden(wchar_t unit) {
-  return std::any_of(std::begin(kHidden), std::end(kHidden), [unit](const Range& range) {
-    return unit >= range.first && unit <= range.last;
-  });
+std::string CharacterEscape(char32_t character) {
+  char escape[16];
+  const auto value = static_cast<unsigned long>(character);
+  std::snprintf(escape, sizeof escape, character > 0xFFFF ? "\\U%08lX" : "\\u%04lX", value);
+  return escape;
 }
 
-std::wstring UnitEscape(wchar_t unit) {
-  const auto value = static_cast<unsigned>(unit);
-  return L"\\u" + X500NameDecoder::ToHex(static_cast<unsigned char>(value >> 8)) +
-         X500NameDecoder::ToHex(static_cast<unsigned char>(value & 0xFF));
-}
-
-namespace {
-
-template <typename IsEscaped>
-std::string Escaped(const std::wstring& text, IsEscaped isEscaped) {
-  std::wstring shown;
+// `escape` tells what stands for a character, empty for the character itself.
+template <typename Escape>
+std::string Escaped(std::string_view text, Escape escape) {
+  std::string shown;
   shown.reserve(text.size());
-  for (const wchar_t unit : text) {
-    if (isEscaped(unit)) {
-      shown += UnitEscape(unit);
+  while (!text.empty()) {
+    const char* const start = text.data();
+    const std::string escaped = escape(TakeCharacter(text));
+    if (escaped.empty()) {
+      shown.append(start, text.data());
     } else {
-      shown += unit;
+      shown += escaped;
     }
   }
-  return ToUtf8(shown);
+  return shown;
+}
+
+std::string Escape(char32_t character) {
+  if (character == U'\\') return "\\\\";
+  return IsHidden(character) ? CharacterEscape(character) : std::string();
 }
 
 }  // namespace
 
-std::string Visible(const std::wstring& text) { return Escaped(text, IsHidden); }
-
-std::string Output(const std::wstring& text) {
-  if (!IsTerminal(Stream::kOutput)) return ToUtf8(text);
-  return Escaped(text, [](wchar_t unit) {
-    return unit != L'\r' && unit != L'\n' && unit != L'\t' && IsHidden(unit);
+bool IsHidden(char32_t character) {
+  if (character >= 0x20 && character < 0x7F) return false;
+  return std::any_of(std::begin(kHidden), std::end(kHidden), [character](const Range& range) {
+    return character >= range.first && character <= range.last;
   });
 }
 
-std::string Hex(const IdentObj& bytes) {
+std::string Visible(std::string_view text) { return Escaped(text, Escape); }
+
+std::string VisibleInMessage(std::string_view text) {
+  return Escaped(text, [](char32_t character) {
+    return IsHidden(character) ? CharacterEscape(character) : std::string();
+  });
+}
+
+std::string Output(const std::string& text) {
+  if (!IsTerminal(Stream::kOutput)) return text;
+  return Escaped(text, [](char32_t character) {
+    const bool isLeft = character == U'\r' || character == U'\n' || character == U'\t';
+    return isLeft ? std::string() : Escape(character);
+  });
+}
+
+std::string Output(const std::wstring& text) { return Output(ToUtf8(text)); }
+
+std::string Hex(std::string_view octets) {
   static constexpr char kDigits[] = "0123456789ABCDEF";
   std::string text;
-  text.reserve(std::size_t{2} * bytes.cbData);
-  for (DWORD i = 0; i < bytes.cbData; ++i) {
-    text += kDigits[bytes.pbData[i] >> 4];
-    text += kDigits[bytes.pbData[i] & 0x0F];
+  text.reserve(2 * octets.size());
+  for (const char octet : octets) {
+    text += kDigits[static_cast<unsigned char>(octet) >> 4];
+    text += kDigits[octet & 0x0F];
   }
   return text;
+}
+
+std::string Hex(const IdentObj& octets) {
+  return Hex(std::string_view(reinterpret_cast<const char*>(octets.pbData), octets.cbData));
 }
 
 std::string SpacedHex(const IdentObj& bytes) {

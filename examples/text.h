@@ -17,22 +17,31 @@ std::wstring FromUtf8(const std::string& text);
 // A surrogate without its partner becomes U+FFFD.
 std::string ToUtf8(const std::wstring& text);
 
-// Control characters, line ends among them, and those that turn the direction of writing.
-bool IsHidden(wchar_t unit);
-// \uXXXX
-std::wstring UnitEscape(wchar_t unit);
+// UTF-8 with U+FFFD for octets that are none.
+std::string Repaired(const std::string& text);
 
-// For a person's eyes, in UTF-8: what is hidden is shown as \uXXXX, so that no certificate can
-// forge a line of the output.
-std::string Visible(const std::wstring& text);
+// Cuts the first character from UTF-8 without faults.
+char32_t TakeCharacter(std::string_view& rest);
 
-// For standard output, in UTF-8: as it stands, but on a terminal, which would obey them, with
-// hidden characters other than line ends and tabs shown as \uXXXX.
+// What nobody sees, or what changes how the text around it looks: controls, line ends among them,
+// marks that turn the direction of writing, and all that has no width of its own.
+bool IsHidden(char32_t character);
+
+// For a person's eyes: what is hidden as \uXXXX or \UXXXXXXXX, a backslash doubled, so that neither
+// a line of the output nor an escape can be forged.
+std::string Visible(std::string_view text);
+// The same with the backslash as it is, for what the person has written.
+std::string VisibleInMessage(std::string_view text);
+
+// For standard output: as it stands, but on a terminal, which would obey it, as Visible has it,
+// line ends and tabs left.
+std::string Output(const std::string& text);
 std::string Output(const std::wstring& text);
 
 // Upper-case hexadecimal digits, without and with blanks between the octets.
-std::string Hex(const Ortholan::IdentObj& bytes);
-std::string SpacedHex(const Ortholan::IdentObj& bytes);
+std::string Hex(std::string_view octets);
+std::string Hex(const Ortholan::IdentObj& octets);
+std::string SpacedHex(const Ortholan::IdentObj& octets);
 
 bool IsBlank(char character);
 // The value of a hexadecimal digit, -1 for any other character.

@@ -37,11 +37,13 @@ void FailAtText(const std::wstring& text, const NameTextError& error) {
   if (error.fault == NameTextFault::kNone) return;
   const size_t first = AtCharacter(text, error.position > kBefore ? error.position - kBefore : 0);
   const size_t end = AtCharacter(text, std::min(text.size(), error.position + kBehind));
-  const std::string before = Visible(text.substr(first, error.position - first));
-  const std::string behind = Visible(text.substr(error.position, end - error.position));
-  const std::string met = Visible(text.substr(error.position, std::min(error.length, kBehind)));
+  const std::string before = VisibleInMessage(ToUtf8(text.substr(first, error.position - first)));
+  const std::string behind =
+      VisibleInMessage(ToUtf8(text.substr(error.position, end - error.position)));
+  const std::string met =
+      VisibleInMessage(ToUtf8(text.substr(error.position, std::min(error.length, kBehind))));
   const size_t marks = std::max<size_t>(1, std::min(Columns(met), Columns(behind)));
-  Failure failure{ERROR_SUCCESS, Visible(error.message)};
+  Failure failure{ERROR_SUCCESS, VisibleInMessage(ToUtf8(error.message))};
   failure.excerpt = kMargin + before + behind + "\n" + kMargin + std::string(Columns(before), ' ') +
                     std::string(marks, '^');
   throw failure;

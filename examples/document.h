@@ -1,0 +1,47 @@
+// Everything that `show` tells about a certificate, a request or a revocation list, whichever way
+// it is printed.
+#ifndef ORTHOLAN_EXAMPLES_DOCUMENT_H_
+#define ORTHOLAN_EXAMPLES_DOCUMENT_H_
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "examples/extensions.h"
+#include "examples/kinds.h"
+#include "examples/name_text.h"
+#include "examples/name_tree.h"
+#include "examples/value.h"
+
+namespace Example {
+
+// Something to recognise a document by.
+struct Fact {
+  const char* label;   // for a person
+  const char* member;  // of JSON
+  Value value;
+};
+
+struct NameReading {
+  const char* role;  // "subject", "issuer"
+  NameText text;
+  NameTree tree;
+};
+
+struct Document {
+  Kind kind = Kind::kCertificate;
+  std::vector<Fact> facts;
+  std::vector<NameReading> names;
+  std::vector<ExtensionReading> extensions;
+  std::vector<std::string> faults;  // what in these could not be read
+};
+
+// Views into `der`; throws Failure for octets that are none of the three.
+Document ReadDocument(std::string_view der);
+
+// The names of a certificate alone, whole encodings: subject and issuer. Throws Failure.
+std::vector<std::string_view> ReadCertificateNames(std::string_view der);
+
+}  // namespace Example
+
+#endif  // ORTHOLAN_EXAMPLES_DOCUMENT_H_

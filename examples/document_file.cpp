@@ -1,0 +1,119 @@
+#include "examples/document_file.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "examples/der.h"
+#include "examples/failure.h"
+#include "examples/fields.h"
+#include "examples/kinds.h"
+#include "examples/pasted.h"
+#include "examples/pem.h"
+
+namespace Example {
+namespace {
+
+constexpr std::string_view kLabels[] = {
+    "CERTIFICATE",
+    "X509 CERTIFICATE",
+    "TRUSTED CERTIFICATE",
+    "CERTIFICATE REQUEST",
+    "NEW CERTIFICATE REQUEST",
+    "X509 CRL",
+    "PKCS7",
+    "PKCS #7 SIGNED DATA",
+    "CMS",
+};
+
+bool IsWanted(std::string_view label) {
+  return std::find(std::begin(kLabels), std::end(kLabels), label) != std::end(kLabels);
+}
+
+class Walk {
+ public:
+  Walk(const DocumentFound& found, const DocumentBad& bad) : found_(found), bad_(bad) {}
+
+  void Bad(const std::string& what) { bad_(++count_, what); }
+  void Found(std::string_view der, std::size_t position);
+  std::size_t Count() const { return count_; }
+
+ private:
+  void Open(std::string_view bundle, std::size_t position);
+
+  const DocumentFound& found_;
+  const DocumentBad& bad_;
+  std::size_t count_ = 0;
+};
+
+void Walk::Found(std::string_view der, std::size_t position) {
+  if (KindOf(der) != Kind::kPkcs7) {
+    found_(++count_, der, position);
+    return;
+  }
+  try {
+    Open(der, position);
+  } catch (const Malformed&) {
+    Bad("a PKCS #7 bundle that is not SignedData");
+  }
+}
+
+// RFC 5652 3 and 5.1: [0] has certificates, among others with tags of their own, [1] revocation
+// lists.
+void Walk::Open(std::string_view bundle, std::size_t position) {
+  Fields info(ContentOf(bundle, kSequence));
+  info.Need(kOid);
+  Fields data(ContentOf(info.Need(kContextConstructed).content, kSequence));
+  data.Need(kInteger);
+  data.Need(kSet);
+  data.Need(kSequence);
+  for (const unsigned tag : {kContextConstructed + 0U, kContextConstructed + 1U}) {
+    const Der* const list = data.Take(tag);
+    if (list == nullptr) continue;
+    for (const Der& each : Elements(list->content)) {
+      if (each.tag == kSequence) found_(++count_, each.whole, position);
+    }
+  }
+}
+
+void WalkDer(std::string_view file, Walk& walk) {
+  const std::size_t whole = file.size();
+  while (!file.empty()) {
+    Der document;
+    if (static_cast<unsigned char>(file[0]) != kSequence || !TakeElement(file, document)) {
+      // Nothing says where a next one would begin.
+      walk.Bad("neither PEM nor the start of a whole DER sequence");
+      return;
+    }
+    walk.Found(document.whole, whole - file.size());
+  }
+}
+
+void WalkPem(std::string_view file, Walk& walk) {
+  ForEachPemBlock(file, [&walk](const PemBlock& block) {
+    if (!IsWanted(block.label)) return;
+    if (block.fault != nullptr) {
+      walk.Bad(block.fault);
+    } else {
+      walk.Found(block.octets, block.end);
+    }
+  });
+}
+
+}  // namespace
+
+std::size_t ForEachDocument(const std::string& file, const DocumentFound& found,
+                            const DocumentBad& bad) {
+  Walk walk(found, bad);
+  // The second octet of a document's encoding is a length above 127, and no text.
+  const bool isDer = file.size() > 1 && file[0] == '0' && (file[1] & 0x80) != 0;
+  if (isDer) {
+    WalkDer(file, walk);
+  } else if (HasPemBlock(file)) {
+    WalkPem(file, walk);
+  } else {
+    WalkDer(FromPasted(file), walk);
+  }
+  return walk.Count();
+}
+
+}  // namespace Example

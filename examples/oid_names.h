@@ -1,0 +1,14 @@
+// What identifiers inside of extensions and other names are called.
+#ifndef ORTHOLAN_EXAMPLES_OID_NAMES_H_
+#define ORTHOLAN_EXAMPLES_OID_NAMES_H_
+
+#include <string>
+
+namespace Example {
+
+// The name that its standard gives it, or the identifier itself.
+std::string OidName(const std::string& oid);
+
+}  // namespace Example
+
+#endif  // ORTHOLAN_EXAMPLES_OID_NAMES_H_
