@@ -24,6 +24,9 @@ extern const Command kSurveyCommand;
 extern const Command kExtensionCommand;
 extern const Command kGeneralNameCommand;
 
+// strict_constraints.cpp
+extern const Command kPermittedCommand;
+
 // Of several commands.
 extern const Option kJsonOption;  // --json
 

@@ -1,5 +1,6 @@
 #include "strict/der/refusal.h"
 
+#include <ortholan/strict/constraints.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
 
@@ -82,6 +83,22 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_URI_HOST, "the URI has no host that could be compared"},
     {ORTHOLAN_REASON_ASCII_LOCAL_PART,
      "a mailbox whose local part is ASCII stands in the wrong kind of name"},
+    {ORTHOLAN_REASON_EXCLUDED, "the name is in an excluded subtree"},
+    {ORTHOLAN_REASON_NOT_PERMITTED, "the name is in no permitted subtree"},
+    {ORTHOLAN_REASON_UNDEFINED_FORM, "nothing says how names of this form are constrained"},
+    {ORTHOLAN_REASON_SUBTREE_DISTANCE, "a subtree has a minimum other than 0, or a maximum"},
+    {ORTHOLAN_REASON_SUBTREE_MASK, "the mask of an address range is not ones and then zeros"},
+    {ORTHOLAN_REASON_SUBTREE_EMPTY, "a subtree of mailboxes or URIs names nothing"},
+    {ORTHOLAN_REASON_URI_WITHOUT_HOST, "the URI has no host name"},
+    {ORTHOLAN_REASON_MAILBOX_QUOTED, "a quoted local part may mean the same mailbox"},
+    {ORTHOLAN_REASON_MAILBOX_CASE,
+     "local parts that differ in letter case alone may mean the same mailbox"},
+    {ORTHOLAN_REASON_MAILBOX_AT_ADDRESS, "the mailbox is at an address and not at a host"},
+    {ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII,
+     "a mailbox beyond ASCII cannot be held against a single mailbox"},
+    {ORTHOLAN_REASON_DIRECTORY_UNTOLD, "the directory names cannot be compared with certainty"},
+    {ORTHOLAN_REASON_BUDGET, "the budget of comparisons is used up"},
+    {ORTHOLAN_REASON_UNREADABLE_CERTIFICATE, "this is no certificate that can be read"},
 };
 
 }  // namespace

@@ -24,7 +24,7 @@ constexpr uint8_t kIdentifiers[] = {
     Context(8),
 };
 
-bool ReadOtherName(ByteView content, Leniency leniency, Refusal* refusal) {
+bool CheckOtherName(ByteView content, Leniency leniency, Refusal* refusal) {
   Reader fields(content, leniency, refusal);
   ByteView type, tagged;
   if (!fields.Read(kOid, &type)) return false;
@@ -63,20 +63,7 @@ bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
   Element element;
   const Reader before = *list;
   if (!list->Read(&element)) return false;
-  if (!FromElement(element, name)) return Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
-  switch (name->kind) {
-    case GeneralNameKind::kOther:
-      return ReadOtherName(element.content, list->leniency(), list->refusal());
-    case GeneralNameKind::kDirectory: {
-      ByteView rdns;
-      return ReadWhole(element.content, kSequence, list->leniency(), &rdns, list->refusal());
-    }
-    case GeneralNameKind::kX400:
-    case GeneralNameKind::kEdiParty:
-      return CheckNested(element, list->leniency(), list->refusal());
-    default:
-      return true;
-  }
+  return FromElement(element, name) || Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
 }
 
 bool GeneralNameView::Check(Leniency leniency, bool hasMask, Refusal* refusal) const {
@@ -94,8 +81,10 @@ bool GeneralNameView::Check(Leniency leniency, bool hasMask, Refusal* refusal) c
       NameView name;
       return NameView::Read(content, leniency, &name, refusal);
     }
+    case GeneralNameKind::kOther:
+      return CheckOtherName(content, leniency, refusal);
     default:
-      return true;
+      return CheckNested({kSequence, content, bytes}, leniency, refusal);
   }
 }
 

@@ -38,14 +38,14 @@ struct GeneralNameView {
   // An element as the general name that its tag makes it, nothing inside looked at; false for a tag
   // that is none of the nine in its right form.
   static bool FromElement(const Element& element, GeneralNameView* name);
-  // Reads the next element as a general name: one of the nine tags in its right form, a directory
-  // name holding one SEQUENCE, an other name an identifier and one value. Strings are not looked
-  // at.
+  // Reads the next element as a general name: one of the nine tags in its right form. What is
+  // inside is not looked at.
   static bool Read(Reader* list, GeneralNameView* name);
 
   // Checks what Read leaves: names of characters are IA5String without NUL and other controls, an
   // address has 4 or 16 octets, or with a mask 8 or 32; a registered identifier is one; a directory
-  // name is in order. Which structure an other name's value has is its type's affair.
+  // name is in order; an other name holds an identifier and one value, whose structure is its
+  // type's affair.
   bool Check(Leniency leniency, bool hasMask, Refusal* refusal) const;
 };
 

@@ -32,10 +32,6 @@ bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal);
 // The same for a presented name, which may be "*." and a host name of two labels or more.
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
 
-constexpr char ToAsciiLower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-
 // Compares without the case of ASCII letters; also schemes and keywords.
 inline bool SameWithoutCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;

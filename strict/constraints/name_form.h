@@ -1,0 +1,53 @@
+// The forms of names that constraints speak of (RFC 5280 4.2.1.10; RFC 4985 4; RFC 9598 6).
+#ifndef ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
+#define ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
+
+#include "strict/general_names/general_name_view.h"
+#include "strict/general_names/other_name.h"
+
+namespace Ortholan::strict {
+
+enum class NameForm : uint8_t {
+  kDirectory,
+  kDns,
+  kMail,  // rfc822Name, and other names that are mailboxes beyond ASCII
+  kUri,
+  kAddress,
+  kService,  // other names of RFC 4985
+  // Nothing says how these are constrained.
+  kOther,
+  kX400,
+  kEdiParty,
+  kRegisteredId,
+};
+constexpr size_t kNameForms = 10;
+
+// A set of forms.
+class FormSet {
+ public:
+  void Add(NameForm form) { bits_ |= 1u << static_cast<unsigned>(form); }
+  bool Has(NameForm form) const { return (bits_ >> static_cast<unsigned>(form) & 1) != 0; }
+  FormSet With(FormSet other) const {
+    other.bits_ |= bits_;
+    return other;
+  }
+
+ private:
+  uint32_t bits_ = 0;
+};
+
+inline NameForm FormOf(const GeneralNameView& name) {
+  constexpr NameForm kForms[] = {
+      NameForm::kOther, NameForm::kMail,      NameForm::kDns,
+      NameForm::kX400,  NameForm::kDirectory, NameForm::kEdiParty,
+      NameForm::kUri,   NameForm::kAddress,   NameForm::kRegisteredId,
+  };
+  if (name.kind != GeneralNameKind::kOther) return kForms[static_cast<size_t>(name.kind)];
+  const OtherNameKind kind = KindOfOtherName(OtherNameView(name.content).type);
+  if (kind == OtherNameKind::kService) return NameForm::kService;
+  return kind == OtherNameKind::kUtf8Mailbox ? NameForm::kMail : NameForm::kOther;
+}
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
