@@ -9,20 +9,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/sources.sh
 source scripts/sources.sh
 
-<<<<<<< HEAD
-any="bytes strict/der strict/names strict/matching strict/certificates strict/general_names strict/identity strict/constraints strict/extensions strict/face platform foundation names names/encoder names/decoder names/model generalname extensions capi tests"
-=======
 strict="strict/der strict/names strict/matching strict/certificates strict/general_names strict/identity"
 strict+=" strict/constraints strict/extensions"
 any="bytes platform foundation names names/encoder names/decoder names/model generalname extensions capi"
 any+=" $strict strict/face tests"
->>>>>>> 953aed2 (Bytes below everything: views, DER headers and lengths, base 128, UTF-8, UTF-16, ASCII and hexadecimal once)
 
 declare -A allowed=(
   [include]=""
   [bytes]=""
-<<<<<<< HEAD
-=======
   [platform]="bytes"
   [foundation]="platform bytes"
   [names]="foundation platform bytes"
@@ -32,32 +26,16 @@ declare -A allowed=(
   [generalname]="names/decoder names foundation platform bytes"
   [extensions]="foundation platform bytes"
   [capi]="names names/encoder names/decoder foundation platform bytes"
->>>>>>> 953aed2 (Bytes below everything: views, DER headers and lengths, base 128, UTF-8, UTF-16, ASCII and hexadecimal once)
   [strict/der]="bytes"
   [strict/names]="strict/der bytes"
   [strict/matching]="strict/names strict/der bytes"
   [strict/certificates]="strict/names strict/der bytes"
   [strict/general_names]="strict/names strict/der bytes"
   [strict/identity]="strict/general_names strict/certificates strict/names strict/der bytes"
-<<<<<<< HEAD
-  [strict/constraints]="strict/identity strict/general_names strict/matching strict/certificates strict/names strict/der bytes"
-  [strict/extensions]="strict/general_names strict/certificates strict/names strict/der bytes"
-  [strict/face]="strict/extensions strict/constraints strict/identity strict/general_names strict/certificates strict/matching strict/names strict/der bytes"
-  [platform]=""
-  [foundation]="platform"
-  [names]="foundation platform"
-  [names/encoder]="names foundation platform"
-  [names/decoder]="names foundation platform"
-  [names/model]="names/encoder names/decoder names foundation platform"
-  [generalname]="names/decoder names foundation platform"
-  [extensions]="foundation platform"
-  [capi]="names names/encoder names/decoder foundation platform"
-=======
   [strict/constraints]="strict/identity strict/general_names strict/matching strict/certificates
     strict/names strict/der bytes"
   [strict/extensions]="strict/general_names strict/certificates strict/names strict/der bytes"
   [strict/face]="$strict bytes"
->>>>>>> 953aed2 (Bytes below everything: views, DER headers and lengths, base 128, UTF-8, UTF-16, ASCII and hexadecimal once)
   [examples]=""
   [tests/boundary]="tests"
   [tests/capi]="tests"
