@@ -12,6 +12,9 @@
 
 namespace Ortholan::fuzzing {
 
+// What is told with a broken law: where the input comes from, and its octets.
+void SetInput(const std::string& source, const std::string& octets);
+
 [[noreturn]] void Break(const char* law, const char* file, int line);
 
 #define LAW(condition)                                                            \

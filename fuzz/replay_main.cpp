@@ -1,16 +1,21 @@
-// Runs one fuzz target over kept inputs, without a fuzzer.
+// Runs the fuzz targets over kept inputs, without a fuzzer.
 //
-//   fuzz_replay <target> <file or directory>...
+//   fuzz_replay <fuzz directory> <directory of samples> [<target>...]
 //
-// A .txt file holds an input a line, in hex behind whatever else the line has; "#" begins a
-// comment. Any other file is one input. A path that is missing holds nothing.
+// A target's inputs lie in corpus/<target> and findings/<target> of the fuzz directory, a file
+// each; a directory that is missing holds none. A .txt file of samples has an input for every
+// target on each line, in hex behind whatever else the line has; "#" begins a comment. What
+// is of a target's own kind is also cut short after each octet and, if it is short, spoiled in
+// each.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <string_view>
 
+#include "fuzz/law.h"
 #include "fuzz/targets.h"
 
 namespace {
@@ -21,22 +26,23 @@ namespace fs = std::filesystem;
 struct TargetRow {
   std::string_view name;
   void (*run)(const uint8_t* data, size_t size);
+  std::string_view own = "";  // the samples of its own kind
 };
 
 constexpr TargetRow kTargets[] = {
-    {"scanner", FuzzScanner},          {"name_decode", FuzzNameDecode},
-    {"name_encode", FuzzNameEncode},   {"structured_encode", FuzzStructuredEncode},
-    {"general_name", FuzzGeneralName}, {"extension", FuzzExtension},
-    {"conversion", FuzzConversion},    {"format", FuzzFormat},
-    {"c_interface", FuzzCInterface},
+    {"scanner", FuzzScanner, "names.txt"},
+    {"name_decode", FuzzNameDecode, "names.txt"},
+    {"name_encode", FuzzNameEncode},
+    {"structured_encode", FuzzStructuredEncode},
+    {"general_name", FuzzGeneralName, "general-names.txt"},
+    {"extension", FuzzExtension, "extensions.txt"},
+    {"conversion", FuzzConversion},
+    {"format", FuzzFormat},
+    {"c_interface", FuzzCInterface, "general-names.txt"},
 };
 
-const TargetRow* FindTarget(std::string_view name) {
-  for (const TargetRow& row : kTargets) {
-    if (row.name == name) return &row;
-  }
-  return nullptr;
-}
+// Longer samples are cut, and not spoiled as well.
+constexpr size_t kLongestToSpoil = 100;
 
 class Replay {
  public:
@@ -44,25 +50,24 @@ class Replay {
 
   size_t count() const { return count_; }
 
-  void RunPath(const fs::path& path) {
-    if (fs::is_directory(path)) {
-      for (const fs::directory_entry& entry : fs::directory_iterator(path)) RunPath(entry.path());
-    } else if (fs::is_regular_file(path)) {
-      RunFile(path);
+  void RunKept(const fs::path& directory) {
+    if (!fs::is_directory(directory)) return;
+    for (const fs::directory_entry& entry : fs::directory_iterator(directory)) {
+      std::ifstream file(entry.path(), std::ios::binary);
+      Run(entry.path(), std::string(std::istreambuf_iterator<char>(file), {}));
+    }
+  }
+
+  void RunSamples(const fs::path& directory) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(directory)) {
+      if (entry.path().extension() != ".txt") continue;
+      std::ifstream file(entry.path(), std::ios::binary);
+      for (std::string line; std::getline(file, line);) RunSample(entry.path(), line);
     }
   }
 
  private:
-  void RunFile(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (path.extension() == ".txt") {
-      for (std::string line; std::getline(file, line);) RunLine(path, line);
-    } else {
-      Run(path, std::string(std::istreambuf_iterator<char>(file), {}));
-    }
-  }
-
-  void RunLine(const fs::path& path, std::string_view line) {
+  void RunSample(const fs::path& path, std::string_view line) {
     while (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     if (line.empty() || line.front() == '#') return;
     line.remove_prefix(line.find_last_of(" \t") + 1);
@@ -72,12 +77,20 @@ class Replay {
       bytes.push_back(static_cast<char>(digit(line[i]) << 4 | digit(line[i + 1])));
     }
     Run(path, bytes);
+    if (path.filename() != target_.own) return;
+    for (size_t size = 0; size < bytes.size(); ++size) Run(path, bytes.substr(0, size));
+    if (bytes.size() > kLongestToSpoil) return;
+    for (char& octet : bytes) {
+      for (const unsigned flipped : {0x01u, 0x05u, 0x20u, 0x80u, 0xFFu}) {
+        octet = static_cast<char>(static_cast<unsigned char>(octet) ^ flipped);
+        Run(path, bytes);
+        octet = static_cast<char>(static_cast<unsigned char>(octet) ^ flipped);
+      }
+    }
   }
 
-  // A broken law ends the process: the line printed last tells the input.
   void Run(const fs::path& path, const std::string& bytes) {
-    std::printf("%s: %zu bytes\n", path.filename().string().c_str(), bytes.size());
-    std::fflush(stdout);
+    SetInput(std::string(target_.name) + ", " + path.filename().string(), bytes);
     target_.run(reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size());
     ++count_;
   }
@@ -89,13 +102,21 @@ class Replay {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const TargetRow* target = argc > 1 ? FindTarget(argv[1]) : nullptr;
-  if (target == nullptr) {
-    std::fprintf(stderr, "usage: fuzz_replay <target> <file or directory>...\n");
+  if (argc < 3) {
+    std::fprintf(stderr, "usage: fuzz_replay <fuzz directory> <samples> [<target>...]\n");
     return 2;
   }
-  Replay replay(*target);
-  for (int i = 2; i < argc; ++i) replay.RunPath(argv[i]);
-  std::printf("%zu inputs\n", replay.count());
-  return replay.count() != 0 ? 0 : 1;
+  const fs::path fuzz = argv[1];
+  const std::set<std::string_view> chosen(argv + 3, argv + argc);
+  size_t targets = 0;
+  for (const TargetRow& target : kTargets) {
+    if (!chosen.empty() && chosen.count(target.name) == 0) continue;
+    Replay replay(target);
+    replay.RunKept(fuzz / "corpus" / target.name);
+    replay.RunKept(fuzz / "findings" / target.name);
+    replay.RunSamples(argv[2]);
+    std::printf("%s: %zu inputs\n", target.name.data(), replay.count());
+    ++targets;
+  }
+  return targets != 0 ? 0 : 1;
 }

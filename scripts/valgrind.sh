@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs the test programs of a native build under valgrind, but for the one whose inputs are too large
-# for it and those that measure time. Any error or leak fails.
+# for it. Any error or leak fails.
 #
 #   valgrind.sh BUILD
 set -euo pipefail
@@ -11,5 +11,5 @@ for program in ./*_tests; do
   [[ $program == ./memory_tests ]] && continue
   echo "== $program"
   valgrind --quiet --error-exitcode=9 --leak-check=full --errors-for-leak-kinds=definite,possible \
-    --suppressions="$suppressions" "$program" --gtest_brief=1 --gtest_filter=-*IsQuick*
+    --suppressions="$suppressions" "$program" --gtest_brief=1
 done

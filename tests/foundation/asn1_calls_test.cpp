@@ -8,6 +8,7 @@
 #include <iomanip>
 #include <sstream>
 
+#include "foundation/blob_view.h"
 #include "foundation/element_header.h"
 #include "tests/support/calls.h"
 #include "tests/support/hex.h"
@@ -109,7 +110,7 @@ std::string Header(const VectorRow& row) {
   EXPECT_EQ(info.content, outcome == "0" ? in.pbData + size : nullptr);
   ElementHeader header;
   if (outcome == "0") {
-    EXPECT_EQ(ReadHeader(ByteView(in), &header), Status::kOk);
+    EXPECT_EQ(ReadHeader(ViewOf(in), &header), Status::kOk);
     EXPECT_EQ(header.indefinite, size == 2 && in.pbData[1] == 0x80);
   }
   std::ostringstream text;
