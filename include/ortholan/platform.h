@@ -69,19 +69,49 @@ using ::CRYPT_OBJID_BLOB;
 using ::CRYPT_UINT_BLOB;
 using ::DATA_BLOB;
 
+using ::CERT_ACCESS_DESCRIPTION;
 using ::CERT_ALT_NAME_ENTRY;
 using ::CERT_ALT_NAME_INFO;
+using ::CERT_AUTHORITY_INFO_ACCESS;
 using ::CERT_AUTHORITY_KEY_ID2_INFO;
+using ::CERT_AUTHORITY_KEY_ID_INFO;
 using ::CERT_BASIC_CONSTRAINTS2_INFO;
+using ::CERT_BASIC_CONSTRAINTS_INFO;
+using ::CERT_BIOMETRIC_DATA;
+using ::CERT_BIOMETRIC_EXT_INFO;
 using ::CERT_ENHKEY_USAGE;
 using ::CERT_EXTENSION;
+using ::CERT_EXTENSIONS;
+using ::CERT_GENERAL_SUBTREE;
+using ::CERT_HASHED_URL;
+using ::CERT_NAME_CONSTRAINTS_INFO;
 using ::CERT_NAME_INFO;
 using ::CERT_NAME_VALUE;
 using ::CERT_OTHER_NAME;
+using ::CERT_POLICIES_INFO;
+using ::CERT_POLICY_CONSTRAINTS_INFO;
+using ::CERT_POLICY_INFO;
+using ::CERT_POLICY_MAPPING;
+using ::CERT_POLICY_MAPPINGS_INFO;
+using ::CERT_POLICY_QUALIFIER_INFO;
+using ::CERT_POLICY_QUALIFIER_NOTICE_REFERENCE;
+using ::CERT_POLICY_QUALIFIER_USER_NOTICE;
+using ::CERT_QC_STATEMENT;
+using ::CERT_QC_STATEMENTS_EXT_INFO;
 using ::CERT_RDN;
 using ::CERT_RDN_ATTR;
+using ::CERT_TEMPLATE_EXT;
+using ::CRL_DIST_POINT;
+using ::CRL_DIST_POINT_NAME;
+using ::CRL_DIST_POINTS_INFO;
+using ::CRL_ISSUING_DIST_POINT;
+using ::CROSS_CERT_DIST_POINTS_INFO;
+using ::CRYPT_ALGORITHM_IDENTIFIER;
+using ::CRYPT_ATTRIBUTE;
+using ::CRYPT_ATTRIBUTES;
 using ::CRYPT_BIT_BLOB;
 using ::CRYPT_OID_INFO;
+using ::CRYPT_SEQUENCE_OF_ANY;
 using ::CTL_USAGE;
 using ::PCCRYPT_OID_INFO;
 using ::PCERT_ALT_NAME_ENTRY;
@@ -227,6 +257,12 @@ struct CERT_EXTENSION {
 // Pointer to it.
 using PCERT_EXTENSION = CERT_EXTENSION*;
 
+// Extensions (RFC 5280 4.1).
+struct CERT_EXTENSIONS {
+  DWORD cExtension;             // number of extensions
+  PCERT_EXTENSION rgExtension;  // array of them
+};
+
 // What the registry knows of an identifier.
 struct CRYPT_OID_INFO {
   DWORD cbSize;      // bytes of this structure
@@ -242,6 +278,40 @@ struct CRYPT_OID_INFO {
 };
 // Pointer to it; the record lives as long as the process.
 using PCCRYPT_OID_INFO = const CRYPT_OID_INFO*;
+
+// Whole elements one after another.
+struct CRYPT_SEQUENCE_OF_ANY {
+  DWORD cValue;             // number of elements
+  CRYPT_DER_BLOB* rgValue;  // array of them
+};
+
+// AlgorithmIdentifier (RFC 5280 4.1.1.2).
+struct CRYPT_ALGORITHM_IDENTIFIER {
+  LPSTR pszObjId;               // dotted text
+  CRYPT_OBJID_BLOB Parameters;  // one whole element; no bytes: absent
+};
+
+// Attribute (X.501 13.3).
+struct CRYPT_ATTRIBUTE {
+  LPSTR pszObjId;            // dotted text
+  DWORD cValue;              // number of values
+  CRYPT_ATTR_BLOB* rgValue;  // array of them, each one whole element
+};
+
+// SubjectDirectoryAttributes (RFC 5280 4.2.1.8).
+struct CRYPT_ATTRIBUTES {
+  DWORD cAttr;              // number of attributes
+  CRYPT_ATTRIBUTE* rgAttr;  // array of them
+};
+
+// BasicConstraints as extension 2.5.29.10 had it before X.509 (1997).
+struct CERT_BASIC_CONSTRAINTS_INFO {
+  CRYPT_BIT_BLOB SubjectType;            // CERT_CA_SUBJECT_FLAG, CERT_END_ENTITY_SUBJECT_FLAG
+  BOOL fPathLenConstraint;               // the length below counts
+  DWORD dwPathLenConstraint;             // authorities that may follow
+  DWORD cSubtreesConstraint;             // number of names
+  CERT_NAME_BLOB* rgSubtreesConstraint;  // array of them, the encoding of a Name each
+};
 
 // BasicConstraints (RFC 5280 4.2.1.9).
 struct CERT_BASIC_CONSTRAINTS2_INFO {
@@ -288,11 +358,178 @@ struct CERT_ALT_NAME_INFO {
   PCERT_ALT_NAME_ENTRY rgAltEntry;  // array of them
 };
 
+// AuthorityKeyIdentifier as extension 2.5.29.1 had it before X.509 (1997).
+struct CERT_AUTHORITY_KEY_ID_INFO {
+  CRYPT_DATA_BLOB KeyId;                // no bytes: absent
+  CERT_NAME_BLOB CertIssuer;            // the encoding of a Name; no bytes: absent
+  CRYPT_INTEGER_BLOB CertSerialNumber;  // least significant byte first; no bytes: absent
+};
+
 // AuthorityKeyIdentifier (RFC 5280 4.2.1.1).
 struct CERT_AUTHORITY_KEY_ID2_INFO {
   CRYPT_DATA_BLOB KeyId;                         // no bytes: absent
   CERT_ALT_NAME_INFO AuthorityCertIssuer;        // no names: absent
   CRYPT_INTEGER_BLOB AuthorityCertSerialNumber;  // least significant byte first
+};
+
+// PolicyQualifierInfo (RFC 5280 4.2.1.4).
+struct CERT_POLICY_QUALIFIER_INFO {
+  LPSTR pszPolicyQualifierId;  // dotted text
+  CRYPT_OBJID_BLOB Qualifier;  // one whole element; no bytes: absent
+};
+
+// PolicyInformation (RFC 5280 4.2.1.4).
+struct CERT_POLICY_INFO {
+  LPSTR pszPolicyIdentifier;                      // dotted text
+  DWORD cPolicyQualifier;                         // number of qualifiers
+  CERT_POLICY_QUALIFIER_INFO* rgPolicyQualifier;  // array of them
+};
+
+// CertificatePolicies (RFC 5280 4.2.1.4).
+struct CERT_POLICIES_INFO {
+  DWORD cPolicyInfo;               // number of policies
+  CERT_POLICY_INFO* rgPolicyInfo;  // array of them
+};
+
+// NoticeReference (RFC 5280 4.2.1.4).
+struct CERT_POLICY_QUALIFIER_NOTICE_REFERENCE {
+  LPSTR pszOrganization;  // terminated, octets as the encoding has them
+  DWORD cNoticeNumbers;   // number of numbers
+  int* rgNoticeNumbers;   // array of them
+};
+
+// UserNotice (RFC 5280 4.2.1.4).
+struct CERT_POLICY_QUALIFIER_USER_NOTICE {
+  CERT_POLICY_QUALIFIER_NOTICE_REFERENCE* pNoticeReference;  // null: absent
+  LPWSTR pszDisplayText;                                     // terminated; null: absent
+};
+
+// One pair of PolicyMappings (RFC 5280 4.2.1.5).
+struct CERT_POLICY_MAPPING {
+  LPSTR pszIssuerDomainPolicy;   // dotted text
+  LPSTR pszSubjectDomainPolicy;  // dotted text
+};
+
+// PolicyMappings (RFC 5280 4.2.1.5).
+struct CERT_POLICY_MAPPINGS_INFO {
+  DWORD cPolicyMapping;                  // number of pairs
+  CERT_POLICY_MAPPING* rgPolicyMapping;  // array of them
+};
+
+// PolicyConstraints (RFC 5280 4.2.1.11).
+struct CERT_POLICY_CONSTRAINTS_INFO {
+  BOOL fRequireExplicitPolicy;             // the number below counts
+  DWORD dwRequireExplicitPolicySkipCerts;  // certificates that come before
+  BOOL fInhibitPolicyMapping;              // the number below counts
+  DWORD dwInhibitPolicyMappingSkipCerts;   // certificates that come before
+};
+
+// GeneralSubtree (RFC 5280 4.2.1.10).
+struct CERT_GENERAL_SUBTREE {
+  CERT_ALT_NAME_ENTRY Base;
+  DWORD dwMinimum;  // 0 where absent
+  BOOL fMaximum;    // the number below counts
+  DWORD dwMaximum;
+};
+
+// NameConstraints (RFC 5280 4.2.1.10).
+struct CERT_NAME_CONSTRAINTS_INFO {
+  DWORD cPermittedSubtree;                   // 0: absent
+  CERT_GENERAL_SUBTREE* rgPermittedSubtree;  // array of them
+  DWORD cExcludedSubtree;                    // 0: absent
+  CERT_GENERAL_SUBTREE* rgExcludedSubtree;   // array of them
+};
+
+// DistributionPointName (RFC 5280 4.2.1.13).
+struct CRL_DIST_POINT_NAME {
+  DWORD dwDistPointNameChoice;  // CRL_DIST_POINT_*
+  union {
+    CERT_ALT_NAME_INFO FullName;  // choice 1; a name relative to the issuer has no place
+  };
+};
+
+// DistributionPoint (RFC 5280 4.2.1.13).
+struct CRL_DIST_POINT {
+  CRL_DIST_POINT_NAME DistPointName;
+  CRYPT_BIT_BLOB ReasonFlags;    // no bytes: absent
+  CERT_ALT_NAME_INFO CRLIssuer;  // no names: absent
+};
+
+// CRLDistributionPoints (RFC 5280 4.2.1.13), FreshestCRL too.
+struct CRL_DIST_POINTS_INFO {
+  DWORD cDistPoint;             // number of points
+  CRL_DIST_POINT* rgDistPoint;  // array of them
+};
+
+// IssuingDistributionPoint (RFC 5280 5.2.5), without onlyContainsAttributeCerts.
+struct CRL_ISSUING_DIST_POINT {
+  CRL_DIST_POINT_NAME DistPointName;
+  BOOL fOnlyContainsUserCerts;
+  BOOL fOnlyContainsCACerts;
+  CRYPT_BIT_BLOB OnlySomeReasonFlags;  // no bytes: absent
+  BOOL fIndirectCRL;
+};
+
+// Where certificates are that two authorities issued to each other (1.3.6.1.4.1.311.10.9.1).
+struct CROSS_CERT_DIST_POINTS_INFO {
+  DWORD dwSyncDeltaTime;            // seconds between updates; 0: absent
+  DWORD cDistPoint;                 // number of points
+  CERT_ALT_NAME_INFO* rgDistPoint;  // array of them
+};
+
+// AccessDescription (RFC 5280 4.2.2.1).
+struct CERT_ACCESS_DESCRIPTION {
+  LPSTR pszAccessMethod;  // dotted text
+  CERT_ALT_NAME_ENTRY AccessLocation;
+};
+
+// AuthorityInfoAccessSyntax and SubjectInfoAccessSyntax (RFC 5280 4.2.2).
+struct CERT_AUTHORITY_INFO_ACCESS {
+  DWORD cAccDescr;                      // number of descriptions
+  CERT_ACCESS_DESCRIPTION* rgAccDescr;  // array of them
+};
+
+// The template that a certificate was made by (1.3.6.1.4.1.311.21.7).
+struct CERT_TEMPLATE_EXT {
+  LPSTR pszObjId;  // dotted text
+  DWORD dwMajorVersion;
+  BOOL fMinorVersion;  // the number below counts
+  DWORD dwMinorVersion;
+};
+
+// QCStatement (RFC 3739 3.2.6).
+struct CERT_QC_STATEMENT {
+  LPSTR pszStatementId;            // dotted text
+  CRYPT_OBJID_BLOB StatementInfo;  // one whole element; no bytes: absent
+};
+
+// QCStatements (RFC 3739 3.2.6).
+struct CERT_QC_STATEMENTS_EXT_INFO {
+  DWORD cStatement;                // number of statements
+  CERT_QC_STATEMENT* rgStatement;  // array of them
+};
+
+// Hash and place of what a certificate refers to.
+struct CERT_HASHED_URL {
+  CRYPT_ALGORITHM_IDENTIFIER HashAlgorithm;
+  CRYPT_HASH_BLOB Hash;
+  LPWSTR pwszUrl;  // terminated; null: absent
+};
+
+// BiometricData (RFC 3739 3.2.5).
+struct CERT_BIOMETRIC_DATA {
+  DWORD dwTypeOfBiometricDataChoice;  // CERT_BIOMETRIC_*_DATA_CHOICE
+  union {
+    DWORD dwPredefined;  // choice 1
+    LPSTR pszObjId;      // choice 2: dotted text
+  };
+  CERT_HASHED_URL HashedUrl;
+};
+
+// BiometricSyntax (RFC 3739 3.2.5).
+struct CERT_BIOMETRIC_EXT_INFO {
+  DWORD cBiometricData;                  // number of data
+  CERT_BIOMETRIC_DATA* rgBiometricData;  // array of them
 };
 
 // The encoding type of the two calls; certificates take the first, both are accepted.
@@ -301,26 +538,95 @@ inline constexpr DWORD PKCS_7_ASN_ENCODING = 0x00010000;
 
 // Structure types of CryptEncodeObject and CryptDecodeObject: small numbers in place of a pointer
 // to the text of an object identifier.
+inline const LPCSTR X509_EXTENSIONS = reinterpret_cast<LPCSTR>(5);
 inline const LPCSTR X509_NAME_VALUE = reinterpret_cast<LPCSTR>(6);
+inline const LPCSTR X509_NAME = reinterpret_cast<LPCSTR>(7);
+inline const LPCSTR X509_AUTHORITY_KEY_ID = reinterpret_cast<LPCSTR>(9);
 inline const LPCSTR X509_ALTERNATE_NAME = reinterpret_cast<LPCSTR>(12);
+inline const LPCSTR X509_BASIC_CONSTRAINTS = reinterpret_cast<LPCSTR>(13);
 inline const LPCSTR X509_KEY_USAGE = reinterpret_cast<LPCSTR>(14);
 inline const LPCSTR X509_BASIC_CONSTRAINTS2 = reinterpret_cast<LPCSTR>(15);
+inline const LPCSTR X509_CERT_POLICIES = reinterpret_cast<LPCSTR>(16);
+inline const LPCSTR PKCS_UTC_TIME = reinterpret_cast<LPCSTR>(17);
+inline const LPCSTR X509_UNICODE_NAME = reinterpret_cast<LPCSTR>(20);
+inline const LPCSTR PKCS_ATTRIBUTE = reinterpret_cast<LPCSTR>(22);
 inline const LPCSTR X509_UNICODE_NAME_VALUE = reinterpret_cast<LPCSTR>(24);
 inline const LPCSTR X509_OCTET_STRING = reinterpret_cast<LPCSTR>(25);
 inline const LPCSTR X509_BITS = reinterpret_cast<LPCSTR>(26);
+inline const LPCSTR X509_INTEGER = reinterpret_cast<LPCSTR>(27);
+inline const LPCSTR X509_MULTI_BYTE_INTEGER = reinterpret_cast<LPCSTR>(28);
+inline const LPCSTR X509_ENUMERATED = reinterpret_cast<LPCSTR>(29);
+inline const LPCSTR X509_CHOICE_OF_TIME = reinterpret_cast<LPCSTR>(30);
 inline const LPCSTR X509_AUTHORITY_KEY_ID2 = reinterpret_cast<LPCSTR>(31);
+inline const LPCSTR X509_AUTHORITY_INFO_ACCESS = reinterpret_cast<LPCSTR>(32);
+inline const LPCSTR X509_SEQUENCE_OF_ANY = reinterpret_cast<LPCSTR>(34);
+inline const LPCSTR X509_CRL_DIST_POINTS = reinterpret_cast<LPCSTR>(35);
 inline const LPCSTR X509_ENHANCED_KEY_USAGE = reinterpret_cast<LPCSTR>(36);
+inline const LPCSTR X509_MULTI_BYTE_UINT = reinterpret_cast<LPCSTR>(38);
+inline const LPCSTR X509_QC_STATEMENTS_EXT = reinterpret_cast<LPCSTR>(42);
+inline const LPCSTR X509_PKIX_POLICY_QUALIFIER_USERNOTICE = reinterpret_cast<LPCSTR>(46);
+inline const LPCSTR X509_ISSUING_DIST_POINT = reinterpret_cast<LPCSTR>(54);
+inline const LPCSTR X509_NAME_CONSTRAINTS = reinterpret_cast<LPCSTR>(55);
+inline const LPCSTR X509_POLICY_MAPPINGS = reinterpret_cast<LPCSTR>(56);
+inline const LPCSTR X509_POLICY_CONSTRAINTS = reinterpret_cast<LPCSTR>(57);
+inline const LPCSTR X509_CROSS_CERT_DIST_POINTS = reinterpret_cast<LPCSTR>(58);
+inline const LPCSTR X509_CERTIFICATE_TEMPLATE = reinterpret_cast<LPCSTR>(64);
+inline const LPCSTR X509_BIOMETRIC_EXT = reinterpret_cast<LPCSTR>(71);
+inline const LPCSTR X509_OBJECT_IDENTIFIER = reinterpret_cast<LPCSTR>(73);
+inline const LPCSTR X509_ALGORITHM_IDENTIFIER = reinterpret_cast<LPCSTR>(74);
+inline const LPCSTR X509_SUBJECT_DIR_ATTRS = reinterpret_cast<LPCSTR>(84);
+// The same structures by another name.
+inline const LPCSTR X509_SUBJECT_INFO_ACCESS = X509_AUTHORITY_INFO_ACCESS;
+inline const LPCSTR X509_CRL_REASON_CODE = X509_ENUMERATED;
+inline const LPCSTR PKCS_SMIME_CAPABILITIES = X509_QC_STATEMENTS_EXT;
 
-// Identifiers of extensions (RFC 5280 4.2.1).
-inline constexpr char szOID_KEY_USAGE[] = "2.5.29.15";
+// Identifiers of extensions whose structures the two calls know by them (RFC 5280 4.2, 5.2; RFC
+// 3739 3.2; RFC 7633; Windows' own).
+inline constexpr char szOID_AUTHORITY_KEY_IDENTIFIER[] = "2.5.29.1";
+inline constexpr char szOID_LEGACY_POLICY_MAPPINGS[] = "2.5.29.5";
 inline constexpr char szOID_SUBJECT_ALT_NAME[] = "2.5.29.7";
 inline constexpr char szOID_ISSUER_ALT_NAME[] = "2.5.29.8";
+inline constexpr char szOID_SUBJECT_DIR_ATTRS[] = "2.5.29.9";
+inline constexpr char szOID_BASIC_CONSTRAINTS[] = "2.5.29.10";
 inline constexpr char szOID_SUBJECT_KEY_IDENTIFIER[] = "2.5.29.14";
+inline constexpr char szOID_KEY_USAGE[] = "2.5.29.15";
 inline constexpr char szOID_SUBJECT_ALT_NAME2[] = "2.5.29.17";
 inline constexpr char szOID_ISSUER_ALT_NAME2[] = "2.5.29.18";
 inline constexpr char szOID_BASIC_CONSTRAINTS2[] = "2.5.29.19";
+inline constexpr char szOID_CRL_NUMBER[] = "2.5.29.20";
+inline constexpr char szOID_CRL_REASON_CODE[] = "2.5.29.21";
+inline constexpr char szOID_DELTA_CRL_INDICATOR[] = "2.5.29.27";
+inline constexpr char szOID_ISSUING_DIST_POINT[] = "2.5.29.28";
+inline constexpr char szOID_NAME_CONSTRAINTS[] = "2.5.29.30";
+inline constexpr char szOID_CRL_DIST_POINTS[] = "2.5.29.31";
+inline constexpr char szOID_CERT_POLICIES[] = "2.5.29.32";
+inline constexpr char szOID_POLICY_MAPPINGS[] = "2.5.29.33";
 inline constexpr char szOID_AUTHORITY_KEY_IDENTIFIER2[] = "2.5.29.35";
+inline constexpr char szOID_POLICY_CONSTRAINTS[] = "2.5.29.36";
 inline constexpr char szOID_ENHANCED_KEY_USAGE[] = "2.5.29.37";
+inline constexpr char szOID_FRESHEST_CRL[] = "2.5.29.46";
+inline constexpr char szOID_INHIBIT_ANY_POLICY[] = "2.5.29.54";
+inline constexpr char szOID_AUTHORITY_INFO_ACCESS[] = "1.3.6.1.5.5.7.1.1";
+inline constexpr char szOID_BIOMETRIC_EXT[] = "1.3.6.1.5.5.7.1.2";
+inline constexpr char szOID_QC_STATEMENTS_EXT[] = "1.3.6.1.5.5.7.1.3";
+inline constexpr char szOID_SUBJECT_INFO_ACCESS[] = "1.3.6.1.5.5.7.1.11";
+inline constexpr char szOID_TLS_FEATURES_EXT[] = "1.3.6.1.5.5.7.1.24";
+inline constexpr char szOID_PKIX_POLICY_QUALIFIER_USERNOTICE[] = "1.3.6.1.5.5.7.2.2";
+inline constexpr char szOID_CERT_EXTENSIONS[] = "1.3.6.1.4.1.311.2.1.14";
+inline constexpr char szOID_RSA_certExtensions[] = "1.2.840.113549.1.9.14";
+inline constexpr char szOID_NEXT_UPDATE_LOCATION[] = "1.3.6.1.4.1.311.10.2";
+inline constexpr char szOID_CROSS_CERT_DIST_POINTS[] = "1.3.6.1.4.1.311.10.9.1";
+inline constexpr char szOID_ENROLL_CERTTYPE_EXTENSION[] = "1.3.6.1.4.1.311.20.2";
+inline constexpr char szOID_CERTSRV_CA_VERSION[] = "1.3.6.1.4.1.311.21.1";
+inline constexpr char szOID_CERTSRV_PREVIOUS_CERT_HASH[] = "1.3.6.1.4.1.311.21.2";
+inline constexpr char szOID_CRL_VIRTUAL_BASE[] = "1.3.6.1.4.1.311.21.3";
+inline constexpr char szOID_CRL_NEXT_PUBLISH[] = "1.3.6.1.4.1.311.21.4";
+inline constexpr char szOID_CERTIFICATE_TEMPLATE[] = "1.3.6.1.4.1.311.21.7";
+inline constexpr char szOID_APPLICATION_CERT_POLICIES[] = "1.3.6.1.4.1.311.21.10";
+inline constexpr char szOID_APPLICATION_POLICY_MAPPINGS[] = "1.3.6.1.4.1.311.21.11";
+inline constexpr char szOID_APPLICATION_POLICY_CONSTRAINTS[] = "1.3.6.1.4.1.311.21.12";
+inline constexpr char szOID_CRL_SELF_CDP[] = "1.3.6.1.4.1.311.21.14";
+inline constexpr char szOID_CERTSRV_CROSSCA_VERSION[] = "1.3.6.1.4.1.311.21.22";
 
 // Value types of one attribute, and the flags that may stand beside them.
 inline constexpr DWORD CERT_RDN_TYPE_MASK = 0x000000FF;
@@ -377,6 +683,19 @@ inline constexpr DWORD CERT_ALT_NAME_URL = 7;
 inline constexpr DWORD CERT_ALT_NAME_IP_ADDRESS = 8;
 inline constexpr DWORD CERT_ALT_NAME_REGISTERED_ID = 9;
 
+// Choices of CRL_DIST_POINT_NAME.
+inline constexpr DWORD CRL_DIST_POINT_NO_NAME = 0;
+inline constexpr DWORD CRL_DIST_POINT_FULL_NAME = 1;
+inline constexpr DWORD CRL_DIST_POINT_ISSUER_RDN_NAME = 2;
+
+// Choices of CERT_BIOMETRIC_DATA.
+inline constexpr DWORD CERT_BIOMETRIC_PREDEFINED_DATA_CHOICE = 1;
+inline constexpr DWORD CERT_BIOMETRIC_OID_DATA_CHOICE = 2;
+
+// Bits of CERT_BASIC_CONSTRAINTS_INFO.
+inline constexpr BYTE CERT_END_ENTITY_SUBJECT_FLAG = 0x40;
+inline constexpr BYTE CERT_CA_SUBJECT_FLAG = 0x80;
+
 // What CryptFindOIDInfo looks for, and where.
 inline constexpr DWORD CRYPT_OID_INFO_OID_KEY = 1;
 inline constexpr DWORD CRYPT_OID_INFO_NAME_KEY = 2;
@@ -426,6 +745,7 @@ inline constexpr DWORD ERROR_FUNCTION_FAILED = 1627;
 inline constexpr DWORD ERROR_RESOURCE_NAME_NOT_FOUND = 1814;
 
 // Last-error codes of encodings (docs/status-codes.md).
+inline constexpr DWORD CRYPT_E_BAD_ENCODE = 0x80092002;
 inline constexpr DWORD CRYPT_E_NOT_FOUND = 0x80092004;
 inline constexpr DWORD CRYPT_E_INVALID_NUMERIC_STRING = 0x80092020;
 inline constexpr DWORD CRYPT_E_INVALID_PRINTABLE_STRING = 0x80092021;

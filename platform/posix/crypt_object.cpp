@@ -1,109 +1,86 @@
-// CryptEncodeObject and CryptDecodeObject: a table of codecs, each found by its constant or by the
-// identifier of the extension that it serves.
+// CryptEncodeObject and CryptDecodeObject: two walks through what a structure is made of, the first
+// to learn the size, the second to fill the caller's room.
 
 #include <ortholan/platform.h>
 
-#include <cstdint>
 #include <cstring>
 
-#include "platform/posix/codecs.h"
 #include "platform/posix/fail.h"
-#include "platform/posix/name_value.h"
+#include "platform/posix/structures/table.h"
 
 namespace Ortholan {
 namespace {
 
+using posix::DerWriter;
 using posix::Fail;
+using posix::StructRoom;
+using posix::Structure;
 
-using Encode = BOOL (*)(const void* structInfo, BYTE* out, DWORD* outBytes) noexcept;
-using Decode = BOOL (*)(const BYTE* encoded, DWORD encodedBytes, void* out,
-                        DWORD* outBytes) noexcept;
+constexpr std::size_t kLargestSize = 0xFFFFFFFF;
 
-BOOL EncodeValue(const void* structInfo, BYTE* out, DWORD* outBytes) noexcept {
-  return posix::EncodeNameValue(*static_cast<const CERT_NAME_VALUE*>(structInfo), out, outBytes);
-}
-
-BOOL EncodeUnicodeValue(const void* structInfo, BYTE* out, DWORD* outBytes) noexcept {
-  return posix::EncodeUnicodeNameValue(*static_cast<const CERT_NAME_VALUE*>(structInfo), out,
-                                       outBytes);
-}
-
-struct Codec {
-  std::uintptr_t constant;
-  Encode encode;
-  Decode decode;
-};
-
-template <class Info, DWORD (*Write)(const Info&, posix::DerWriter*),
-          DWORD (*Read)(ByteView, posix::StructRoom*, Info*)>
-constexpr Codec MakeCodec(std::uintptr_t constant) {
-  return {constant, posix::EncodeWith<Info, Write>, posix::DecodeWith<Info, Read>};
-}
-
-// By the values of the constants, which are no constant expressions; the most wanted first.
-constexpr Codec kCodecs[] = {
-    {6, EncodeValue, posix::DecodeNameValue},                 // X509_NAME_VALUE
-    {24, EncodeUnicodeValue, posix::DecodeUnicodeNameValue},  // X509_UNICODE_NAME_VALUE
-    MakeCodec<CERT_ALT_NAME_INFO, posix::WriteAlternateName, posix::ReadAlternateName>(12),
-    MakeCodec<CRYPT_BIT_BLOB, posix::WriteBits, posix::ReadBits>(14),
-    MakeCodec<CERT_BASIC_CONSTRAINTS2_INFO, posix::WriteBasicConstraints,
-              posix::ReadBasicConstraints>(15),
-    MakeCodec<CRYPT_DATA_BLOB, posix::WriteOctetString, posix::ReadOctetString>(25),
-    MakeCodec<CRYPT_BIT_BLOB, posix::WriteBits, posix::ReadBits>(26),
-    MakeCodec<CERT_AUTHORITY_KEY_ID2_INFO, posix::WriteAuthorityKeyId, posix::ReadAuthorityKeyId>(
-        31),
-    MakeCodec<CERT_ENHKEY_USAGE, posix::WriteEnhancedKeyUsage, posix::ReadEnhancedKeyUsage>(36),
-};
-
-// Extensions and the constants of their structures.
-struct ExtensionRow {
-  LPCSTR oid;
-  std::uintptr_t constant;
-};
-constexpr ExtensionRow kExtensions[] = {
-    {szOID_SUBJECT_ALT_NAME, 12},       {szOID_ISSUER_ALT_NAME, 12},
-    {szOID_SUBJECT_KEY_IDENTIFIER, 25}, {szOID_KEY_USAGE, 14},
-    {szOID_SUBJECT_ALT_NAME2, 12},      {szOID_ISSUER_ALT_NAME2, 12},
-    {szOID_BASIC_CONSTRAINTS2, 15},     {szOID_AUTHORITY_KEY_IDENTIFIER2, 31},
-    {szOID_ENHANCED_KEY_USAGE, 36},
-};
-
-// Values up to this one are constants, all others point at the text of an identifier.
-constexpr std::uintptr_t kLastConstant = 0xFFFF;
-
-const Codec* FindCodec(DWORD encodingType, LPCSTR structType) {
+const Structure* Find(DWORD encodingType, LPCSTR structType) {
   if ((encodingType & (X509_ASN_ENCODING | PKCS_7_ASN_ENCODING)) == 0) return nullptr;
-  auto constant = reinterpret_cast<std::uintptr_t>(structType);
-  if (constant > kLastConstant) {
-    constant = 0;
-    for (const ExtensionRow& row : kExtensions) {
-      if (std::strcmp(row.oid, structType) == 0) constant = row.constant;
-    }
+  return posix::FindStructure(structType);
+}
+
+// Stores the size; true where the caller's room takes it and is to be filled. `*result` is what
+// the call returns.
+bool WantsContent(std::size_t size, const void* out, DWORD* outBytes, BOOL* result) {
+  if (size > kLargestSize) {
+    *result = Fail(CRYPT_E_ASN1_LARGE);
+    return false;
   }
-  for (const Codec& codec : kCodecs) {
-    if (codec.constant == constant) return &codec;
-  }
-  return nullptr;
+  const DWORD room = *outBytes;
+  *outBytes = static_cast<DWORD>(size);
+  *result = out == nullptr || room >= size ? TRUE : Fail(ERROR_MORE_DATA);
+  return out != nullptr && *result != FALSE;
+}
+
+DWORD Read(const Structure& structure, ByteView der, StructRoom* room) {
+  if (der.empty()) return CRYPT_E_ASN1_CORRUPT;
+  if (!posix::Accepts(*structure.field, der[0])) return CRYPT_E_ASN1_BADTAG;
+  posix::Element element;
+  if (const DWORD error = posix::TakeElement(&der, &element)) return error;
+  const std::size_t place = room->Take(structure.size, alignof(void*));
+  return posix::ReadField(*structure.field, element, place, room);
 }
 
 }  // namespace
 
 BOOL CryptEncodeObject(DWORD encodingType, LPCSTR structType, const void* structInfo, BYTE* out,
                        DWORD* outBytes) noexcept {
-  const Codec* const codec = FindCodec(encodingType, structType);
-  if (codec == nullptr) return Fail(ERROR_FILE_NOT_FOUND);
+  const Structure* const structure = Find(encodingType, structType);
+  if (structure == nullptr) return Fail(ERROR_FILE_NOT_FOUND);
   if (structInfo == nullptr || outBytes == nullptr) return Fail(ERROR_INVALID_PARAMETER);
-  return codec->encode(structInfo, out, outBytes);
+  const auto* const info = static_cast<const BYTE*>(structInfo);
+  DerWriter counter;
+  if (const DWORD error = posix::WriteField(*structure->field, info, &counter)) {
+    *outBytes = counter.fault();
+    return Fail(error);
+  }
+  BOOL result;
+  if (!WantsContent(counter.size(), out, outBytes, &result)) return result;
+  DerWriter writer(out + counter.size());
+  const DWORD error = posix::WriteField(*structure->field, info, &writer);
+  return error == ERROR_SUCCESS ? TRUE : Fail(error);
 }
 
 BOOL CryptDecodeObject(DWORD encodingType, LPCSTR structType, const BYTE* encoded,
                        DWORD encodedBytes, DWORD /*flags*/, void* out, DWORD* outBytes) noexcept {
-  const Codec* const codec = FindCodec(encodingType, structType);
-  if (codec == nullptr) return Fail(ERROR_FILE_NOT_FOUND);
+  const Structure* const structure = Find(encodingType, structType);
+  if (structure == nullptr) return Fail(ERROR_FILE_NOT_FOUND);
   if (outBytes == nullptr || (encoded == nullptr && encodedBytes != 0)) {
     return Fail(ERROR_INVALID_PARAMETER);
   }
-  return codec->decode(encoded, encodedBytes, out, outBytes);
+  const ByteView der{encoded, encodedBytes};
+  StructRoom counter;
+  if (const DWORD error = Read(*structure, der, &counter)) return Fail(error);
+  BOOL result;
+  if (!WantsContent(counter.used(), out, outBytes, &result)) return result;
+  std::memset(out, 0, counter.used());
+  StructRoom room(static_cast<BYTE*>(out));
+  Read(*structure, der, &room);
+  return TRUE;
 }
 
 }  // namespace Ortholan

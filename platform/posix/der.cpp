@@ -26,7 +26,7 @@ bool MeasureIndefinite(ByteView in, std::size_t* size) {
     // A definite length reads alike behind the last octet of any tag.
     Element element;
     if (!ReadElement(in.From(at - 1), &element)) return false;
-    at += element.size - 1;
+    at += element.whole.size - 1;
   }
   return false;
 }

@@ -17,7 +17,7 @@ namespace Ortholan::posix {
 struct Element {
   BYTE tag = 0;
   ByteView content;
-  std::size_t size = 0;  // of the whole element
+  ByteView whole;
 };
 
 // Measures the content of a constructed element of indefinite length, from its first octet to the
@@ -46,7 +46,7 @@ inline bool ReadElement(ByteView in, Element* element) {
   }
   if (size > in.size - position) return false;
   element->content = {in.data + position, static_cast<std::size_t>(size)};
-  element->size = position + element->content.size + terminator;
+  element->whole = in.First(position + element->content.size + terminator);
   return true;
 }
 
@@ -61,10 +61,17 @@ inline DWORD ReadTagged(ByteView in, BYTE tag, ByteView* content) {
   return ERROR_SUCCESS;
 }
 
-// Moves the element at the front of `*in` out of it. The same codes.
+// Moves the element at the front of `*in`, whatever its tag, out of it. The same codes; `tag` is
+// the first octet of the identifier.
 inline DWORD TakeElement(ByteView* in, Element* element) {
-  if (!ReadElement(*in, element)) return CRYPT_E_ASN1_CORRUPT;
-  *in = {in->data + element->size, in->size - element->size};
+  const std::size_t identifier = IdentifierOctets(*in);
+  // Lengths read alike behind the last octet of any identifier.
+  if (identifier == 0 || !ReadElement(in->From(identifier - 1), element)) {
+    return CRYPT_E_ASN1_CORRUPT;
+  }
+  element->tag = (*in)[0];
+  element->whole = in->First(identifier - 1 + element->whole.size);
+  *in = in->From(element->whole.size);
   return ERROR_SUCCESS;
 }
 

@@ -6,7 +6,7 @@
 #include "bytes/utf8.h"
 #include "platform/posix/der.h"
 #include "platform/posix/fail.h"
-#include "platform/posix/name_value.h"
+#include "platform/posix/structures/name_value.h"
 
 namespace Ortholan {
 namespace {

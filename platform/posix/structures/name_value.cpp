@@ -1,4 +1,4 @@
-#include "platform/posix/name_value.h"
+#include "platform/posix/structures/name_value.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -6,12 +6,13 @@
 #include <iterator>
 
 #include "bytes/utf8.h"
-#include "platform/posix/codec.h"
+#include "platform/posix/structures/load.h"
 
 namespace Ortholan::posix {
 namespace {
 
 constexpr DWORD kInvalidArgument = 0x80070057;
+constexpr std::size_t kValueOffset = offsetof(CERT_NAME_VALUE, Value);
 
 enum class Form : BYTE {
   kRefused,
@@ -105,48 +106,65 @@ std::size_t ReadUtf16Le(DWORD type, ByteView content, BYTE* out) noexcept {
   return static_cast<std::size_t>(read.sink.out - out);
 }
 
-BOOL EncodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) noexcept {
-  if (value.dwValueType == CERT_RDN_ANY_TYPE) return Fail(kInvalidArgument);
-  const DWORD type = value.dwValueType;
+DWORD WriteNameValue(const Field& /*field*/, const BYTE* value, DerWriter* out) {
+  const auto type = Load<DWORD>(value);
+  if (type == CERT_RDN_ANY_TYPE) return kInvalidArgument;
   const TypeRow row = type < std::size(kTypes) ? kTypes[type] : kTypes[CERT_RDN_ANY_TYPE];
-  if (row.form == Form::kRefused) return Fail(CRYPT_E_ASN1_CHOICE);
-  const ByteView octets{value.Value.pbData, value.Value.cbData};
-  if (octets.data == nullptr && octets.size != 0) return Fail(ERROR_INVALID_PARAMETER);
+  if (row.form == Form::kRefused) return CRYPT_E_ASN1_CHOICE;
+  ByteView octets;
+  if (!LoadOctets(value + kValueOffset, &octets)) return ERROR_INVALID_PARAMETER;
 
+  const std::size_t mark = out->size();
   const std::size_t contentSize = ContentSize(row.form, octets);
-  const std::size_t size = row.form == Form::kWhole ? contentSize : ElementSize(contentSize);
-  BOOL result;
-  if (!WantsContent(size, out, outBytes, &result)) return result;
-
-  if (row.form != Form::kWhole) out = WriteHeader(out, row.tag, contentSize);
-  WriteContent(row.form, octets, contentSize, out);
-  return TRUE;
+  BYTE* const content = out->Take(contentSize);
+  if (content != nullptr) WriteContent(row.form, octets, contentSize, content);
+  if (row.form != Form::kWhole) out->PutHeader(row.tag, mark);
+  return ERROR_SUCCESS;
 }
 
-BOOL DecodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out, DWORD* outBytes) noexcept {
-  if (encodedBytes == 0) return Fail(CRYPT_E_ASN1_CORRUPT);
-  const DWORD type = kTags.type[encoded[0]];
-  if (type == 0) return Fail(CRYPT_E_ASN1_BADTAG);
-  Element element;
-  if (!ReadElement({encoded, encodedBytes}, &element)) return Fail(CRYPT_E_ASN1_CORRUPT);
-  const ByteView content = element.content;
-  if (type == CERT_RDN_BMP_STRING && content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT);
-
-  const std::size_t valueSize = ValueSize(type, content);
-  const std::size_t size = sizeof(CERT_NAME_VALUE) + valueSize;
-  BOOL result;
-  if (!WantsContent(size, out, outBytes, &result)) return result;
-
-  auto* bytes = static_cast<BYTE*>(out) + sizeof(CERT_NAME_VALUE);
-  WriteValue(type, content, bytes);
-  CERT_NAME_VALUE value;
-  std::memset(&value, 0, sizeof value);
-  value.dwValueType = type;
-  value.Value.cbData = static_cast<DWORD>(valueSize);
-  value.Value.pbData = valueSize != 0 ? bytes : nullptr;
-  // The caller's room need not be aligned.
-  std::memcpy(out, &value, sizeof value);
-  return TRUE;
+DWORD ReadOtherValue(const Element& element, std::size_t place, StructRoom* room) {
+  const bool isOctets = element.tag == kTagOctetString;
+  room->Put(place, isOctets ? CERT_RDN_OCTET_STRING : CERT_RDN_ENCODED_BLOB);
+  room->PutBlob(place + kValueOffset, isOctets ? element.content : element.whole);
+  return ERROR_SUCCESS;
 }
+
+namespace {
+
+DWORD ReadString(DWORD type, ByteView content, std::size_t place, StructRoom* room) {
+  if (type == CERT_RDN_BMP_STRING && content.size % 2 != 0) return CRYPT_E_ASN1_CORRUPT;
+  room->Put(place, type);
+  BYTE* const value = room->PutBlob(place + kValueOffset, ValueSize(type, content));
+  if (value != nullptr) WriteValue(type, content, value);
+  return ERROR_SUCCESS;
+}
+
+bool IsNameValue(const Field& /*field*/, BYTE tag) { return kTags.type[tag] != 0; }
+
+DWORD ReadNameValue(const Field& /*field*/, const Element& element, std::size_t place,
+                    StructRoom* room) {
+  return ReadString(kTags.type[element.tag], element.content, place, room);
+}
+
+// The strings that are no single values of X509_NAME_VALUE here but have a type all the same.
+DWORD TypeOfAttribute(BYTE tag) {
+  for (const DWORD type : {CERT_RDN_NUMERIC_STRING, CERT_RDN_VIDEOTEX_STRING,
+                           CERT_RDN_GRAPHIC_STRING, CERT_RDN_GENERAL_STRING}) {
+    if (kTypes[type].tag == tag) return type;
+  }
+  return kTags.type[tag];
+}
+
+DWORD ReadAttribute(const Field& /*field*/, const Element& element, std::size_t place,
+                    StructRoom* room) {
+  const DWORD type = TypeOfAttribute(element.tag);
+  if (type == 0) return ReadOtherValue(element, place, room);
+  return ReadString(type, element.content, place, room);
+}
+
+}  // namespace
+
+const Kind kNameValueKind = {WriteNameValue, ReadNameValue, IsNameValue};
+const Kind kAttributeKind = {WriteNameValue, ReadAttribute};
 
 }  // namespace Ortholan::posix

@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "bytes/utf8.h"
-#include "platform/posix/codec.h"
-#include "platform/posix/name_value.h"
+#include "platform/posix/structures/load.h"
+#include "platform/posix/structures/name_value.h"
 
 namespace Ortholan::posix {
 namespace {
@@ -37,6 +37,7 @@ constexpr Alphabet kIa5 = {IsAscii, CRYPT_E_INVALID_IA5_STRING};
 constexpr Alphabet kEightBit = {IsOctet, CRYPT_E_INVALID_X500_STRING};
 constexpr Alphabet kUnicode = {IsAny, ERROR_SUCCESS};
 
+constexpr std::size_t kValueOffset = offsetof(CERT_NAME_VALUE, Value);
 constexpr std::size_t kUnitSize = 2;       // octets of a UTF-16 unit
 constexpr std::size_t kUniversalSize = 4;  // octets of a UniversalString's character
 
@@ -152,63 +153,67 @@ std::size_t FirstRefused(const Alphabet& alphabet, LittleEndianSource text, std:
   return i;
 }
 
-}  // namespace
-
-BOOL EncodeUnicodeNameValue(const CERT_NAME_VALUE& value, BYTE* out, DWORD* outBytes) noexcept {
-  if (value.dwValueType <= CERT_RDN_OCTET_STRING) {
-    return Fail(CRYPT_E_NOT_CHAR_STRING);
+void WriteText(const TypeRow& row, LittleEndianSource text, std::size_t units, BYTE* out) {
+  if (row.form == Form::kUniversal) {
+    WriteUniversal(text, units, out);
+    return;
   }
-  const TypeRow* const row = RowOfType(value.dwValueType);
+  for (std::size_t i = 0; i < units; ++i) out[i] = static_cast<BYTE>(text[i]);
+}
+
+// Text is checked against its type.
+DWORD WriteString(const Field& field, const BYTE* value, DerWriter* out) {
+  const TypeRow* const row = RowOfType(Load<DWORD>(value));
   // BMPString and UTF8String are written alike from both structures.
   if (row == nullptr || row->form == Form::kBmp || row->form == Form::kUtf8) {
-    return EncodeNameValue(value, out, outBytes);
+    return WriteNameValue(field, value, out);
   }
-  if (!IsThere(value.Value)) return Fail(ERROR_INVALID_PARAMETER);
-  const LittleEndianSource text{value.Value.pbData};
-  const std::size_t units = value.Value.cbData / kUnitSize;
+  ByteView octets;
+  if (!LoadOctets(value + kValueOffset, &octets)) return ERROR_INVALID_PARAMETER;
+  const LittleEndianSource text{octets.data};
+  const std::size_t units = octets.size / kUnitSize;
   const std::size_t refused = FirstRefused(row->alphabet, text, units);
-  if (refused != units) {
-    *outBytes = static_cast<DWORD>(refused);
-    return Fail(row->alphabet.refusal);
-  }
+  if (refused != units) return out->RefuseText(row->alphabet.refusal, refused);
 
+  const std::size_t mark = out->size();
   const bool universal = row->form == Form::kUniversal;
-  const std::size_t contentSize = universal ? WriteUniversal(text, units, nullptr) : units;
-  BOOL result;
-  if (!WantsContent(ElementSize(contentSize), out, outBytes, &result)) return result;
-  out = WriteHeader(out, row->tag, contentSize);
-  if (universal) {
-    WriteUniversal(text, units, out);
-  } else {
-    for (std::size_t i = 0; i < units; ++i) out[i] = static_cast<BYTE>(text[i]);
-  }
-  return TRUE;
+  BYTE* const content = out->Take(universal ? WriteUniversal(text, units, nullptr) : units);
+  if (content != nullptr) WriteText(*row, text, units, content);
+  out->PutHeader(row->tag, mark);
+  return ERROR_SUCCESS;
 }
 
-BOOL DecodeUnicodeNameValue(const BYTE* encoded, DWORD encodedBytes, void* out,
-                            DWORD* outBytes) noexcept {
-  if (encodedBytes == 0) return Fail(CRYPT_E_ASN1_CORRUPT);
-  const TypeRow* const row = RowOfTag(encoded[0]);
-  if (row == nullptr) return Fail(CRYPT_E_ASN1_BADTAG);
-  Element element;
-  if (!ReadElement({encoded, encodedBytes}, &element)) return Fail(CRYPT_E_ASN1_CORRUPT);
+DWORD WriteUnicodeNameValue(const Field& field, const BYTE* value, DerWriter* out) {
+  if (Load<DWORD>(value) <= CERT_RDN_OCTET_STRING) return CRYPT_E_NOT_CHAR_STRING;
+  return WriteString(field, value, out);
+}
+
+bool IsUnicodeNameValue(const Field& /*field*/, BYTE tag) { return RowOfTag(tag) != nullptr; }
+
+// Text is followed by U+0000, which its size does not count.
+DWORD ReadUnicodeNameValue(const Field& /*field*/, const Element& element, std::size_t place,
+                           StructRoom* room) {
+  const TypeRow& row = *RowOfTag(element.tag);
   const ByteView content = element.content;
-  if (!EndsWithCharacter(row->form, content.size)) return Fail(CRYPT_E_ASN1_CORRUPT);
-
-  const std::size_t textSize = kUnitSize * CountUnits(row->form, content);
-  const std::size_t terminator = textSize != 0 ? kUnitSize : 0;
-  const std::size_t size = sizeof(CERT_NAME_VALUE) + textSize + terminator;
-  BOOL result;
-  if (!WantsContent(size, out, outBytes, &result)) return result;
-  auto* const text = static_cast<BYTE*>(out) + sizeof(CERT_NAME_VALUE);
-  ReadText(row->form, content, text);
-  std::memset(text + textSize, 0, terminator);
-  CERT_NAME_VALUE value;
-  std::memset(&value, 0, sizeof value);
-  value.dwValueType = row->type;
-  value.Value = {static_cast<DWORD>(textSize), textSize != 0 ? text : nullptr};
-  std::memcpy(out, &value, sizeof value);
-  return TRUE;
+  if (!EndsWithCharacter(row.form, content.size)) return CRYPT_E_ASN1_CORRUPT;
+  room->Put(place, row.type);
+  const std::size_t size = kUnitSize * CountUnits(row.form, content);
+  BYTE* const text = room->PutBlob(place + kValueOffset, size);
+  if (size != 0) room->Take(kUnitSize, 1);
+  if (text != nullptr) ReadText(row.form, content, text);
+  return ERROR_SUCCESS;
 }
+
+DWORD ReadUnicodeAttribute(const Field& field, const Element& element, std::size_t place,
+                           StructRoom* room) {
+  if (!IsUnicodeNameValue(field, element.tag)) return ReadOtherValue(element, place, room);
+  return ReadUnicodeNameValue(field, element, place, room);
+}
+
+}  // namespace
+
+const Kind kUnicodeNameValueKind = {WriteUnicodeNameValue, ReadUnicodeNameValue,
+                                    IsUnicodeNameValue};
+const Kind kUnicodeAttributeKind = {WriteString, ReadUnicodeAttribute};
 
 }  // namespace Ortholan::posix

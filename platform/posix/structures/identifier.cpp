@@ -1,8 +1,10 @@
-#include "platform/posix/identifier.h"
+// OBJECT IDENTIFIER and its dotted text, X.690 8.19.
 
 #include <cstdint>
 
 #include "bytes/base128.h"
+#include "platform/posix/structures/field.h"
+#include "platform/posix/structures/load.h"
 
 namespace Ortholan::posix {
 namespace {
@@ -87,16 +89,16 @@ DWORD WriteDotted(ByteView content, TextWriter* out) {
   return ERROR_SUCCESS;
 }
 
-}  // namespace
-
-DWORD WriteIdentifier(BYTE tag, LPCSTR dotted, DerWriter* out) {
+// Refused are null, a text that is not two or more arcs of decimal digits joined by single dots,
+// each at most 4294967295, and first two arcs that do not go together.
+DWORD WriteIdentifier(const Field& /*field*/, const BYTE* value, DerWriter* out) {
+  const auto* const dotted = Load<LPCSTR>(value);
   if (dotted == nullptr) return CRYPT_E_ASN1_ERROR;
   std::size_t dots = 0;
   std::size_t end = 0;
   for (; dotted[end] != '\0'; ++end) dots += dotted[end] == '.' ? 1 : 0;
   if (dots == 0) return CRYPT_E_ASN1_ERROR;
 
-  const std::size_t mark = out->size();
   std::uint64_t arc;
   for (; dots > 1; --dots) {
     if (!TakeLastArc(dotted, &end, &arc)) return CRYPT_E_ASN1_ERROR;
@@ -108,16 +110,22 @@ DWORD WriteIdentifier(BYTE tag, LPCSTR dotted, DerWriter* out) {
   }
   if (first > 2 || (first < 2 && arc >= kArcsOfFirst)) return CRYPT_E_ASN1_ERROR;
   PutSubidentifier(first * kArcsOfFirst + arc, out);
-  out->PutHeader(tag, mark);
   return ERROR_SUCCESS;
 }
 
-DWORD ReadIdentifier(ByteView content, StructRoom* room, LPSTR* dotted) {
+// Refused are content that is empty or ends within an arc, and an arc above 32 bits.
+DWORD ReadIdentifier(const Field& /*field*/, const Element& element, std::size_t place,
+                     StructRoom* room) {
   TextWriter counter(nullptr);
-  if (const DWORD error = WriteDotted(content, &counter)) return error;
-  *dotted = room->Take<char>(counter.size());
-  TextWriter writer(*dotted);
-  return WriteDotted(content, &writer);
+  if (const DWORD error = WriteDotted(element.content, &counter)) return error;
+  BYTE* const text = room->Address(room->Take(counter.size(), 1));
+  room->Put(place, text);
+  TextWriter writer(reinterpret_cast<char*>(text));
+  return WriteDotted(element.content, &writer);
 }
+
+}  // namespace
+
+const Kind kIdentifierKind = {WriteIdentifier, ReadIdentifier, nullptr, true};
 
 }  // namespace Ortholan::posix
