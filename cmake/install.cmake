@@ -43,6 +43,11 @@ if(TARGET x509name)
     install(FILES "${PROJECT_SOURCE_DIR}/examples/x509name.bash"
       DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME x509name
       COMPONENT program)
+    install(FILES "${PROJECT_SOURCE_DIR}/examples/x509name.zsh"
+      DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions" RENAME _x509name
+      COMPONENT program)
+    install(FILES "${PROJECT_SOURCE_DIR}/examples/x509name.fish"
+      DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT program)
   endif()
 endif()
 

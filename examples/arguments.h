@@ -20,6 +20,7 @@ struct Option {
   const char* about;
   // Where the option is given, it does the command's work; null for an option of the command's own.
   int (*run)(const Arguments&) = nullptr;
+  const char* values = nullptr;  // the words that its value may be, for completion
 };
 
 class Arguments {

@@ -141,9 +141,8 @@ Value GeneralNameValue(const Der& name) {
 
 Value GeneralNamesValue(std::string_view content) {
   Value names = Value::List();
-  bool isWhole = false;
-  for (const Der& each : Elements(content, &isWhole)) names.Add(GeneralNameValue(each));
-  if (!isWhole) names.Add(Value::Unread(content));
+  for (Der each; TakeElement(content, each);) names.Add(GeneralNameValue(each));
+  if (!content.empty()) names.Add(Value::Unread(content));
   return names;
 }
 

@@ -15,8 +15,10 @@ using namespace Ortholan;
 const Option kUtf8Option = {"--utf8", nullptr, "UTF8String where it would be BMPString"};
 const Option kUtf8AlwaysOption = {"--utf8-always", nullptr, "UTF8String for all free text"};
 const Option kSeparatorOption = {"--separator", "S",
-                                 "what stands between attributes: \",\", \";\" or crlf"};
-const Option kStyleOption = {"--style", "STYLE", "keys (the default), oids or values"};
+                                 "what stands between attributes: \",\", \";\" or crlf", nullptr,
+                                 ", ; crlf"};
+const Option kStyleOption = {"--style", "STYLE", "keys (the default), oids or values", nullptr,
+                             "keys oids values"};
 const Option kOptionsOption = {"--options", "N",
                                "the same as one number; the manual page has them"};
 

@@ -93,10 +93,14 @@ std::string InlineText(const Value& value) {
 }
 
 std::string Block(const Value& value, const std::string& indent);
+std::string LineText(const Value& line, const std::string& indent);
 
 std::string MemberText(const Member& member, const std::string& indent) {
   const std::string name = indent + Paint(Colour::kKey, member.name) + ":";
   if (IsInline(member.value)) return name + " " + InlineText(member.value) + "\n";
+  if (member.value.form == Value::Form::kLine) {
+    return name + " " + LineText(member.value, indent).substr(indent.size());
+  }
   return name + "\n" + Block(member.value, indent + "  ");
 }
 

@@ -7,11 +7,13 @@
 #include <algorithm>
 #include <cstddef>
 #include <new>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "examples/arguments.h"
 #include "examples/command_table.h"
+#include "examples/completion.h"
 #include "examples/console.h"
 #include "examples/failure.h"
 #include "examples/help.h"
@@ -25,22 +27,24 @@ namespace {
 
 bool IsHelp(const std::string& argument) { return argument == "--help" || argument == "-h"; }
 
-// What the command line asks for in place of a command's work; empty where it does not.
-std::string Information(const std::vector<std::string>& arguments) {
+// What the command line asks for in place of a command's work; nothing where it does not.
+std::optional<std::string> Information(const std::vector<std::string>& arguments) {
   const std::string& first = arguments[0];
   if (first == "--version" || first == "-V") return "x509name " ORTHOLAN_VERSION_STRING "\n";
+  if (first == "--complete") return Completions({arguments.begin() + 1, arguments.end()});
   if (first == "help" && arguments.size() > 1) return CommandHelp(FindCommand(arguments[1]));
   if (IsHelp(first) || first == "help") return ProgramHelp();
   const auto operands = std::find(arguments.begin(), arguments.end(), "--");
   const bool isAsked = std::any_of(arguments.begin(), operands, IsHelp);
-  return isAsked ? CommandHelp(FindCommand(first)) : std::string();
+  if (!isAsked) return std::nullopt;
+  return CommandHelp(FindCommand(first));
 }
 
 int Run(const std::vector<std::string>& arguments) {
   if (arguments.empty()) throw UsageError{"a command is needed; x509name --help lists them"};
-  const std::string information = Information(arguments);
-  if (information.empty()) return RunCommand(FindCommand(arguments[0]), arguments);
-  Print(information);
+  const std::optional<std::string> information = Information(arguments);
+  if (!information) return RunCommand(FindCommand(arguments[0]), arguments);
+  Print(*information);
   FinishOutput();
   return 0;
 }

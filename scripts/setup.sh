@@ -16,8 +16,8 @@ case ${1-} in
   demo) packages=("${demo[@]}") ;;
   native) packages=("${native[@]}") ;;
   test)
-    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools gdb libssl-dev lld
-      mandoc pkg-config python3 valgrind)
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb
+      libssl-dev lld mandoc pkg-config python3 valgrind zsh)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)

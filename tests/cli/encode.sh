@@ -29,6 +29,9 @@ row "outside the basic plane, UTF-8" 0 "300F310D300B06035504030C04F09F9880$line"
 # The two bits of free text: 30 10 31 0E 30 0C 06 03 55 04 03 0C 05 ...
 row "UTF8String for all free text" 0 "3010310E300C06035504030C05416C706861$line" "" \
   encode --options 0x140000 'CN=Alpha'
+row "the same by name" 0 "3010310E300C06035504030C05416C706861$line" "" encode --utf8-always 'CN=Alpha'
+row "UTF8String by name" 0 "300F310D300B06035504030C04F09F9880$line" "" encode --utf8 'CN=😀'
+row "separator by name" 0 "300E310C300A06035504031303612C62$line" "" encode --separator ';' 'CN=a,b'
 row "options in decimal" 0 "3010310E300C06035504030C05416C706861$line" "" \
   encode --options=1310720 'CN=Alpha'
 row "options in octal" 0 "3010310E300C06035504030C05416C706861$line" "" \
@@ -50,9 +53,13 @@ row "unknown keyword" 1 "" \
 row "unknown type of known length, last" 1 "" "3:$prefix \"2.5.4.42\" at character 1: .+" \
   encode '2.5.4.42=a'
 row "OID. prefix" 1 "" "3:$prefix \"OID.2.5.4.3\" at character 1: .+" encode 'OID.2.5.4.3=a'
+warning="$prefix warning: the backslash at character 5 .* --rfc4514 takes text with escapes"
 row "backslash does not escape" 1 "" \
-  "$prefix \"b\" at character 7: .+ a backslash escapes nothing$line  CN=a\\\\,b, O=c$line {8}\\^" \
+  "$warning$line$prefix \"b\" at character 7: .+ a backslash escapes nothing$line  CN=a\\\\,b, O=c$line {8}\\^" \
   encode 'CN=a\,b, O=c'
+# C \ 3: 1E 06 00 43 00 5C 00 33
+row "backslash is a letter, with a warning" 0 "3011310F300D06035504031E060043005C0033$line" \
+  "${warning/character 5/character 6}" encode 'CN= C\3'
 row "country outside PrintableString" 1 "" \
   "$prefix \"_\" at character 5: expected letters, .+ in the value of C$line  C=Ru_s$line      \\^" \
   encode 'C=Ru_s'
@@ -73,7 +80,13 @@ printf 'CN=Alpha' >text
 row "standard input without a line end" 0 "$alpha$line" "" encode -
 # 06 03 55 04 10 again
 printf 'POSTALADDRESS="a\nb"\n' >text
-row "standard input of two lines" 0 "3011310F300D06035504103006130161130162$line" "" encode -
+row "standard input of two lines" 1 "" "$prefix standard input has 2 lines: .*--lines .*" encode -
+row "the same where line ends are asked for" 0 "3011310F300D06035504103006130161130162$line" "" \
+  encode --separator crlf -
+printf 'CN=Alpha\r\n\nCN=a,O\nCN=Alpha' >text
+row "a name a line" 1 "$alpha$line$line$line$alpha$line" "6:x509name: encode: line 3: .+" encode --lines -
+row "a name a line, into a file" 2 "" "x509name: --lines prints, and takes no --out" \
+  encode --lines --out names.der text
 : >text
 row "standard input, empty" 1 "" "3:$prefix end of the text at character 1: .+" encode -
 printf 'CN=\377\n' >text

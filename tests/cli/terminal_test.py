@@ -135,8 +135,8 @@ def check_colour(program):
               run(program, arguments, False, False))
 
 
-# ESC ] 0 ; x BEL sets a terminal's title; U+202E turns the direction.
-HOSTILE = "\x1b]0;x\x07\u202e"
+# ESC ] 0 ; x BEL sets a terminal's title; U+202E turns the direction; the last are letters.
+HOSTILE = "\x1b]0;x\x07\u202e\u200b\\u001B"
 
 
 def check_hidden(program):
@@ -146,7 +146,7 @@ def check_hidden(program):
 
     value = element(0x0C, f"a{HOSTILE}\tb".encode())
     digits = element(0x30, element(0x31, element(0x30, b"\6\3\x55\4\3", value))).hex()
-    shown = b"a\\u001B]0;x\\u0007\\u202E\tb"
+    shown = b"a\\u001B]0;x\\u0007\\u202E\\u200B\\\\u001B\tb"
     # Label, command line, standard output on a terminal without colour.
     rows = [
         ("decode", ["decode", digits], b'CN="' + shown + b'"\n'),
