@@ -6,5 +6,6 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/constraints.hpp>
+#include <ortholan/strict/matching.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_

@@ -3,6 +3,7 @@
 #include <ortholan/strict/constraints.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
+#include <ortholan/strict/matching.h>
 
 #include <algorithm>
 #include <iterator>
@@ -68,6 +69,16 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_GENERAL_NAME, "this is none of the nine kinds of general names"},
     {ORTHOLAN_REASON_NAME_CHARACTER, "a name of characters holds a control character or no ASCII"},
     {ORTHOLAN_REASON_ADDRESS_SIZE, "an address has a size that no address has"},
+    {ORTHOLAN_REASON_RDN_COUNT, "the numbers of RDNs do not fit"},
+    {ORTHOLAN_REASON_RDN_SIZE, "the RDNs have different numbers of attributes"},
+    {ORTHOLAN_REASON_ATTRIBUTE_TYPE, "an attribute has no counterpart of its type"},
+    {ORTHOLAN_REASON_VALUE, "the values are different"},
+    {ORTHOLAN_REASON_RDN, "the RDN is nowhere in the other name"},
+    {ORTHOLAN_REASON_VALUE_TYPE, "a value that is no string can be compared by its octets alone"},
+    {ORTHOLAN_REASON_VALUE_TEXT, "the value is no text of its string type"},
+    {ORTHOLAN_REASON_VALUE_UNDEFINED,
+     "the value holds a code point that is prohibited or unassigned in Unicode 3.2"},
+    {ORTHOLAN_REASON_VALUE_TELETEX, "nobody knows which characters a TeletexString stands for"},
     {ORTHOLAN_REASON_NO_MATCH, "no name of the certificate is the one that was asked for"},
     {ORTHOLAN_REASON_NO_ALTERNATIVE_NAMES, "the certificate has no subject alternative names"},
     {ORTHOLAN_REASON_NO_CERTIFICATE, "this is no certificate but a request or a CRL"},
