@@ -5,5 +5,6 @@
 #define ORTHOLAN_STRICT_HPP_
 
 #include <ortholan/strict/base.hpp>
+#include <ortholan/strict/names.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_
