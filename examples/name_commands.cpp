@@ -18,6 +18,7 @@
 #include "examples/lines.h"
 #include "examples/name_options.h"
 #include "examples/name_text.h"
+#include "examples/strict_names.h"
 #include "examples/text.h"
 #include "examples/text_failure.h"
 
@@ -88,12 +89,14 @@ std::string DecodedLine(const IdentObj& der, const Arguments& arguments) {
 }
 
 int RunDecode(const Arguments& arguments) {
+  RequireRfc4514(arguments);
   DecoderOptions(arguments);
   Print(DecodedLine(ReadElement(arguments.operands[0], Kind::kName), arguments) + "\n");
   return 0;
 }
 
 int RunDecodeLines(const Arguments& arguments) {
+  RequireRfc4514(arguments);
   DecoderOptions(arguments);
   return RunLines("decode", arguments.operands[0], [&](const std::string& line) {
     return DecodedLine(ReadElementText(line, Kind::kName), arguments);
@@ -163,7 +166,8 @@ const Command kEncodeCommand = {
     "x509name encode --sort 'CN=Alpha, O=Org, C=RU'\n"
     "x509name encode --utf8 --out name.der 'CN=Альфа, O=\"Org, Ltd\"'\n"
     "x509name encode --lines names.txt\n",
-    {kUtf8Option,
+    {kEncodeRfc4514Option,
+     kUtf8Option,
      kUtf8AlwaysOption,
      kSeparatorOption,
      kOptionsOption,
@@ -183,7 +187,10 @@ const Command kDecodeCommand = {
     "    CN=Alpha\n"
     "x509name encode 'CN=Alpha, C=RU' | x509name decode --separator ';' -\n"
     "x509name decode --json name.der\n",
-    {kStyleOption,
+    {kDecodeRfc4514Option,
+     kExactOption,
+     kLongNamesOption,
+     kStyleOption,
      kSeparatorOption,
      kOptionsOption,
      kJsonOption,

@@ -4,10 +4,18 @@
 
 #include <ortholan/name_text_error.h>
 
+#include <cstddef>
 #include <string>
 
 namespace Example {
 
+// Octets from the start of UTF-8, and how many were met there.
+struct TextPlace {
+  std::size_t position;
+  std::size_t length;
+};
+[[noreturn]] void FailAtText(const std::string& text, const TextPlace& place,
+                             const std::string& message);
 // Throws the Failure for a fault of the text; returns where there is none.
 void FailAtText(const std::wstring& text, const Ortholan::NameTextError& error);
 

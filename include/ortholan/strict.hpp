@@ -7,5 +7,6 @@
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/constraints.hpp>
 #include <ortholan/strict/matching.hpp>
+#include <ortholan/strict/names.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_

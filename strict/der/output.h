@@ -31,6 +31,9 @@ class Output {
   }
   void Put(std::string_view text) { Put(AsBytes(text.data(), text.size())); }
 
+  // Takes back what was put after the first `size` octets.
+  void Rewind(size_t size) { size_ = size; }
+
   // Octets put so far, whether they fitted or not.
   size_t size() const { return size_; }
   bool fits() const { return size_ <= room_; }

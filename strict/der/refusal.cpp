@@ -4,6 +4,7 @@
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
 #include <ortholan/strict/matching.h>
+#include <ortholan/strict/names.h>
 
 #include <algorithm>
 #include <iterator>
@@ -42,6 +43,23 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_TIME, "a time is malformed"},
     {ORTHOLAN_REASON_NO_STRING, "the value is no string"},
     {ORTHOLAN_REASON_TOO_LONG, "an object identifier is too long to be shown"},
+    {ORTHOLAN_REASON_TEXT_UTF8, "the text is not UTF-8"},
+    {ORTHOLAN_REASON_TEXT_NO_TYPE, "the type of an attribute is missing"},
+    {ORTHOLAN_REASON_TEXT_NO_EQUALS, "an attribute has no \"=\" behind its type"},
+    {ORTHOLAN_REASON_TEXT_TYPE, "this cannot be a type of attribute"},
+    {ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE, "the type of the attribute is not known"},
+    {ORTHOLAN_REASON_TEXT_OID, "the dotted digits are no object identifier"},
+    {ORTHOLAN_REASON_TEXT_PAIR, "a backslash escapes nothing"},
+    {ORTHOLAN_REASON_TEXT_UNESCAPED, "a character has to be escaped by a backslash"},
+    {ORTHOLAN_REASON_TEXT_HEX,
+     "behind \"#\" stand other characters than pairs of hexadecimal digits"},
+    {ORTHOLAN_REASON_TEXT_ELEMENT, "the hexadecimal digits are no element in DER"},
+    {ORTHOLAN_REASON_TEXT_VALUE_UTF8, "the escaped octets are not UTF-8"},
+    {ORTHOLAN_REASON_TEXT_QUOTE, "a quoted value has no closing quote"},
+    {ORTHOLAN_REASON_TEXT_BEHIND_QUOTE, "text stands behind the closing quote of a value"},
+    {ORTHOLAN_REASON_TEXT_ALPHABET, "the attribute's string type does not have this character"},
+    {ORTHOLAN_REASON_TEXT_NO_STRING, "values of this type are no strings"},
+    {ORTHOLAN_REASON_TYPE_NAME, "no text could have this name for a type"},
     {ORTHOLAN_REASON_DUPLICATE_EXTENSION, "the same extension stands there twice"},
     {ORTHOLAN_REASON_HOST_EMPTY, "the host name is empty"},
     {ORTHOLAN_REASON_HOST_EMPTY_LABEL, "a label of the host name is empty"},

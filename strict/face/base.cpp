@@ -23,7 +23,8 @@ void PutMet(uint32_t value, Output* out) {
 
 ortholan_reason ortholan_refusal_sentence(const ortholan_refusal* refusal, char* out, size_t room,
                                           size_t* size) {
-  if (refusal == nullptr || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (refusal == nullptr || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   Output text(out, room);
   if (refusal->offset != ORTHOLAN_NO_PLACE) {
     text.Put("at offset ");
@@ -43,7 +44,8 @@ ortholan_reason ortholan_refusal_sentence(const ortholan_refusal* refusal, char*
 const char* ortholan_reason_sentence(ortholan_reason reason) { return SentenceOf(reason).data(); }
 
 ortholan_reason ortholan_oid_to_text(ortholan_octets oid, char* out, size_t room, size_t* size) {
-  if (!IsGiven(oid) || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (!IsGiven(oid) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   if (!IsIdentifier(View(oid))) return ORTHOLAN_REASON_OID;
   Output text(out, room);
   if (!PutIdentifierText(View(oid), &text)) return ORTHOLAN_REASON_TOO_LONG;
@@ -52,7 +54,8 @@ ortholan_reason ortholan_oid_to_text(ortholan_octets oid, char* out, size_t room
 
 ortholan_reason ortholan_oid_from_text(ortholan_text text, uint8_t* out, size_t room,
                                        size_t* size) {
-  if (!IsGiven(text) || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (!IsGiven(text) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   Output content(out, room);
   if (!PutIdentifier(View(text), &content)) return ORTHOLAN_REASON_OID;
   return Finish(content, size);

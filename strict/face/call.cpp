@@ -12,9 +12,14 @@ ortholan_reason Report(ortholan_reason reason, ortholan_refusal* refusal) {
   return reason;
 }
 
-ortholan_reason Finish(const Output& out, size_t* size) {
+ortholan_reason Finish(const Output& out, size_t* size, ortholan_refusal* refusal) {
   if (size != nullptr) *size = out.size();
-  return out.fits() ? ORTHOLAN_REASON_NONE : ORTHOLAN_REASON_ROOM;
+  return out.fits() ? ORTHOLAN_REASON_NONE : Report(ORTHOLAN_REASON_ROOM, refusal);
+}
+
+ortholan_reason Finish(BackwardOutput* out, size_t* size, ortholan_refusal* refusal) {
+  if (size != nullptr) *size = out->size();
+  return out->MoveToFront() ? ORTHOLAN_REASON_NONE : Report(ORTHOLAN_REASON_ROOM, refusal);
 }
 
 }  // namespace Ortholan::strict

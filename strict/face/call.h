@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "bytes/byte_view.h"
+#include "strict/der/backward_output.h"
 #include "strict/der/output.h"
 #include "strict/der/reader.h"
 
@@ -20,9 +21,16 @@ inline std::string_view View(ortholan_text text) {
   return {text.data, text.data != nullptr ? text.size : 0};
 }
 
+// Every output begins as zero.
+inline void Clear(size_t* size, ortholan_refusal* refusal) {
+  if (size != nullptr) *size = 0;
+  if (refusal != nullptr) *refusal = {};
+}
+
 // Whether a pointer and its size may come from a caller.
 inline bool IsGiven(ortholan_octets octets) { return octets.data != nullptr || octets.size == 0; }
 inline bool IsGiven(ortholan_text text) { return text.data != nullptr || text.size == 0; }
+inline bool IsRoom(const void* out, size_t room) { return out != nullptr || room == 0; }
 inline bool IsMode(int32_t mode) {
   return mode >= ORTHOLAN_READ_DER && mode <= ORTHOLAN_READ_STRUCTURE;
 }
@@ -33,7 +41,8 @@ ortholan_reason Report(const Refusal& found, const void* start, ortholan_refusal
 ortholan_reason Report(ortholan_reason reason, ortholan_refusal* refusal);
 
 // The end of a call that put something into the caller's room.
-ortholan_reason Finish(const Output& out, size_t* size);
+ortholan_reason Finish(const Output& out, size_t* size, ortholan_refusal* refusal = nullptr);
+ortholan_reason Finish(BackwardOutput* out, size_t* size, ortholan_refusal* refusal);
 
 }  // namespace Ortholan::strict
 

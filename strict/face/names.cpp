@@ -78,7 +78,8 @@ ortholan_reason ortholan_name_view_attribute(const ortholan_name_view* name, siz
 
 ortholan_reason ortholan_attribute_view_text(const ortholan_attribute_view* attribute, char* out,
                                              size_t room, size_t* size) {
-  if (attribute == nullptr || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (attribute == nullptr || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   const auto identifier = static_cast<uint8_t>(attribute->identifier);
   if (attribute->identifier > 0xFF || !IsString(identifier)) return ORTHOLAN_REASON_NO_STRING;
   Output text(out, room);

@@ -24,10 +24,10 @@ enum class ValueSyntax : uint8_t {
 };
 
 // Content octets of an identifier, made from its dotted text by the compiler.
-class IdentifierOctets {
+class OidOctets {
  public:
-  constexpr IdentifierOctets() = default;
-  constexpr IdentifierOctets(const char* dotted) {
+  constexpr OidOctets() = default;
+  constexpr OidOctets(const char* dotted) {
     uint32_t first = 0;
     for (size_t arc = 0; *dotted != '\0'; ++arc) {
       uint32_t number = 0;
@@ -59,7 +59,7 @@ class IdentifierOctets {
 };
 
 struct AttributeType {
-  IdentifierOctets oid;
+  OidOctets oid;
   std::string_view name;       // the short one, as text is written
   std::string_view long_name;  // may be the same
   // Further names that are read, each with a blank behind it.

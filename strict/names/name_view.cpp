@@ -1,6 +1,7 @@
 #include "strict/names/name_view.h"
 
 #include "strict/der/identifier.h"
+#include "strict/der/set_order.h"
 #include "strict/der/string_value.h"
 
 namespace Ortholan::strict {
@@ -18,12 +19,6 @@ bool ReadAttribute(Reader* rdn, ByteView* bytes) {
   *bytes = attribute.bytes;
   return CheckNested(value, rdn->leniency(), rdn->refusal()) &&
          CheckString(value, rdn->leniency(), rdn->refusal());
-}
-
-// Ascending as octet strings, a shorter one padded with zeros behind (X.690 11.6).
-bool IsAscending(ByteView before, ByteView after) {
-  const size_t common = before.size < after.size ? before.size : after.size;
-  return std::memcmp(before.data, after.data, common) <= 0;
 }
 
 bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count) {
@@ -59,30 +54,47 @@ bool NameView::Read(ByteView der, Leniency leniency, NameView* name, Refusal* re
   return true;
 }
 
+NameView NameView::OfChecked(ByteView der, size_t rdn_count, size_t attribute_count) {
+  NameView name;
+  if (!ReadWhole(der, kSequence, Leniency::kLenient, &name.rdns_, nullptr)) return name;
+  name.der_ = der;
+  name.rdn_count_ = rdn_count;
+  name.attribute_count_ = attribute_count;
+  return name;
+}
+
 // What was checked is read again without a look at the rules.
+
+bool NextRdn(ByteView* rdns, ByteView* rdn) {
+  Reader reader(*rdns, Leniency::kLenient, nullptr);
+  Element element;
+  if (!reader.Read(&element)) return false;
+  *rdns = reader.rest();
+  *rdn = element.content;
+  return true;
+}
+
+bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
+  Reader reader(*attributes, Leniency::kLenient, nullptr);
+  Element element;
+  if (!reader.Read(&element)) return false;
+  *attributes = reader.rest();
+  attribute->bytes = element.bytes;
+  Reader fields(element.content, Leniency::kLenient, nullptr);
+  return fields.Read(kOid, &attribute->type) && fields.Read(&attribute->value);
+}
+
 void NameView::Iterator::Step() {
   attribute_.begins_rdn = attributes_.empty();
   if (attributes_.empty()) {
-    if (rdns_.empty()) {
+    if (!NextRdn(&rdns_, &attributes_)) {
       attribute_ = {};
       return;
     }
-    Reader rdns(rdns_, Leniency::kLenient, nullptr);
-    Element rdn;
-    rdns.Read(&rdn);
-    rdns_ = rdns.rest();
-    attributes_ = rdn.content;
-    attribute_.rdn = rdn.content;
+    attribute_.rdn = attributes_;
     attribute_.rdn_index = next_rdn_++;
   }
-  Reader attributes(attributes_, Leniency::kLenient, nullptr);
-  Element attribute;
-  attributes.Read(&attribute);
-  attributes_ = attributes.rest();
-  attribute_.bytes = attribute.bytes;
-  Reader fields(attribute.content, Leniency::kLenient, nullptr);
-  fields.Read(kOid, &attribute_.type);
-  fields.Read(&attribute_.value);
+  if (!NextAttribute(&attributes_, &attribute_)) attribute_ = {};
 }
 
 }  // namespace Ortholan::strict

@@ -24,6 +24,11 @@ struct AttributeView {
   bool begins_rdn = false;  // the first attribute of its RDN
 };
 
+// Takes the front of RDNs or of an RDN's attributes that were checked. False at the end; without
+// octets read, too, where what follows is no such element.
+bool NextRdn(ByteView* rdns, ByteView* rdn);
+bool NextAttribute(ByteView* attributes, AttributeView* attribute);
+
 class NameView {
  public:
   class Iterator {
@@ -64,11 +69,16 @@ class NameView {
   // Reads a Name that is the whole of `der`. `*name` changes only on success. With
   // Leniency::kStructure values are any element and SETs stand in any order.
   static bool Read(ByteView der, Leniency leniency, NameView* name, Refusal* refusal);
+  // A Name that was read before and found to have as many RDNs and attributes.
+  static NameView OfChecked(ByteView der, size_t rdn_count, size_t attribute_count);
+
   Iterator begin() const { return Iterator(rdns_); }
   Iterator end() const { return {}; }
 
   // The whole encoding that was read.
   ByteView der() const { return der_; }
+  // Its content: the RDNs, each the whole SET.
+  ByteView rdns() const { return rdns_; }
   bool empty() const { return rdn_count_ == 0; }
   size_t rdn_count() const { return rdn_count_; }
   size_t attribute_count() const { return attribute_count_; }

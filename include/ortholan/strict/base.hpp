@@ -12,6 +12,7 @@
 #include <ortholan/strict/base.h>
 
 #include <exception>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -65,16 +66,17 @@ enum class Verdict : int32_t {
 };
 
 // Calls a function that writes into the caller's room, first with room for most, and again with as
-// much as it needs. `call` takes pointer, room and the place of the size.
+// much as it needs. `call` takes pointer, room and the place of the size. Throws std::bad_alloc.
 template <class String, class Call>
-ortholan_reason WithRoom(String* out, Call call) {
+ortholan_reason WithRoom(String* out, Call call, size_t guess = 128) {
   size_t size = 0;
-  out->resize(128);
+  out->resize(guess);
   ortholan_reason reason = call(out->data(), out->size(), &size);
   if (reason == ORTHOLAN_REASON_ROOM) {
     out->resize(size);
     reason = call(out->data(), out->size(), &size);
   }
+  if (reason == ORTHOLAN_REASON_MEMORY) throw std::bad_alloc();
   out->resize(reason == ORTHOLAN_REASON_NONE ? size : 0);
   return reason;
 }

@@ -1,4 +1,4 @@
-// Distinguished names over borrowed octets (RFC 5280 4.1.2.4).
+// Distinguished names over borrowed octets (RFC 5280 4.1.2.4), and their text (RFC 4514).
 //
 //   ortholan_name_view name;
 //   ortholan_name_cursor at = {0};
@@ -17,6 +17,43 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+// Text of names, 80 to 119 (RFC 4514 section 3).
+enum {
+  // The text is not UTF-8.
+  ORTHOLAN_REASON_TEXT_UTF8 = 80,
+  // A separator, "=" or the end stands where a type has to.
+  ORTHOLAN_REASON_TEXT_NO_TYPE = 81,
+  // No "=" follows: often the rest of a value whose separator was not escaped.
+  ORTHOLAN_REASON_TEXT_NO_EQUALS = 82,
+  // What stands before "=" is neither a name of a type nor dotted digits.
+  ORTHOLAN_REASON_TEXT_TYPE = 83,
+  // A name of a type that is not known.
+  ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE = 84,
+  // Dotted digits that are no object identifier.
+  ORTHOLAN_REASON_TEXT_OID = 85,
+  // A backslash before neither a special character nor two hexadecimal digits.
+  ORTHOLAN_REASON_TEXT_PAIR = 86,
+  // A character that has to be escaped in a value.
+  ORTHOLAN_REASON_TEXT_UNESCAPED = 87,
+  // A "#" before anything but pairs of hexadecimal digits.
+  ORTHOLAN_REASON_TEXT_HEX = 88,
+  // Hexadecimal digits that are no element in DER; `expected` is the reason.
+  ORTHOLAN_REASON_TEXT_ELEMENT = 89,
+  // Escaped octets that are not UTF-8.
+  ORTHOLAN_REASON_TEXT_VALUE_UTF8 = 90,
+  // A quoted value without its closing quote.
+  ORTHOLAN_REASON_TEXT_QUOTE = 91,
+  // Text between the closing quote of a value and the separator.
+  ORTHOLAN_REASON_TEXT_BEHIND_QUOTE = 92,
+  // A character that the string type of the attribute does not have; `expected` is its identifier.
+  ORTHOLAN_REASON_TEXT_ALPHABET = 93,
+  // Text as a value of a type whose values are no strings.
+  ORTHOLAN_REASON_TEXT_NO_STRING = 94,
+  // A name for a type that no text could have: not a letter followed by letters, digits and
+  // hyphens.
+  ORTHOLAN_REASON_TYPE_NAME = 95
+};
 
 // A name that was read and found in order.
 typedef struct ortholan_name_view {
@@ -60,6 +97,73 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_name_view_attribute(const ortholan_name
 // text; alphabets are not looked at.
 ORTHOLAN_EXPORT ortholan_reason ortholan_attribute_view_text(
     const ortholan_attribute_view* attribute, char* out, size_t room, size_t* size);
+
+// The order of RDNs in a text.
+enum {
+  // The last RDN of the encoding first (RFC 4514 2.1).
+  ORTHOLAN_RDNS_REVERSED = 0,
+  ORTHOLAN_RDNS_AS_ENCODED = 1
+};
+
+// The string type of free text. Types that prescribe one, such as C and DC, get theirs.
+enum {
+  // PrintableString where its alphabet allows, else UTF8String.
+  ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8 = 0,
+  ORTHOLAN_STRINGS_UTF8 = 1
+};
+
+// A name of the caller's own for a type.
+typedef struct ortholan_type_name {
+  ortholan_text name;  // a letter, then letters, digits and hyphens
+  ortholan_octets oid;
+} ortholan_type_name;
+
+// What text looks like; zeros are the defaults, and so is NULL in place of the structure. Text that
+// was written is read back with the same options.
+typedef struct ortholan_rfc4514_options {
+  int32_t order;       // an ORTHOLAN_RDNS_ word
+  int32_t strings;     // an ORTHOLAN_STRINGS_ word
+  int32_t long_names;  // 1 writes commonName, not CN
+  // 1 writes # and the digits of the encoding where a plain value would not be read as the same
+  // octets, so that every name that was read with ORTHOLAN_READ_DER comes back.
+  int32_t exact;
+  const ortholan_type_name* names;  // come before the names that the library knows
+  size_t name_count;
+} ortholan_rfc4514_options;
+
+// A name as text that is safe to show and to log: every character that cannot be seen is escaped,
+// and no value can look like another attribute. Types without a name are written as dotted digits
+// with the encoding of the value. Refuses TYPE_NAME; TOO_LONG for an identifier above 4096 octets.
+ORTHOLAN_EXPORT ortholan_reason ortholan_rfc4514_write(const ortholan_name_view* name,
+                                                       const ortholan_rfc4514_options* options,
+                                                       char* out, size_t room, size_t* size,
+                                                       ortholan_refusal* refusal);
+// Text as the DER of a Name. Reads all of RFC 4514 section 3 and, as RFC 2253 section 4 asks, ";"
+// for ",", quoted values, "OID." before dotted digits and blanks round what separates. Refuses the
+// first place that is wrong, by the offset of its octet in the text.
+ORTHOLAN_EXPORT ortholan_reason ortholan_rfc4514_read(ortholan_text text,
+                                                      const ortholan_rfc4514_options* options,
+                                                      uint8_t* out, size_t room, size_t* size,
+                                                      ortholan_refusal* refusal);
+
+// What is wrong with the first place of a text that is.
+typedef struct ortholan_text_error {
+  ortholan_reason reason;
+  size_t offset;         // octets of the text before the place
+  size_t size;           // octets that were met there; 0 at the end
+  size_t character;      // characters before the place
+  const char* expected;  // what is expected instead; static, "" for ORTHOLAN_REASON_NONE
+} ortholan_text_error;
+
+// Tells a refusal by ortholan_rfc4514_read of this text further.
+ORTHOLAN_EXPORT ortholan_reason ortholan_rfc4514_explain(ortholan_text text,
+                                                         const ortholan_refusal* refusal,
+                                                         ortholan_text_error* error);
+// Writes it as one English sentence without a full stop: what was met, safe to show, at which
+// character, counted from 1, and what is expected instead.
+ORTHOLAN_EXPORT ortholan_reason ortholan_rfc4514_sentence(ortholan_text text,
+                                                          const ortholan_refusal* refusal,
+                                                          char* out, size_t room, size_t* size);
 
 #ifdef __cplusplus
 }  // extern "C"

@@ -29,7 +29,7 @@ def edges():
 
 def main():
     line = ""
-    print(f"// By scripts/shown_ranges.py, Unicode {unicodedata.unidata_version}.")
+    print(f"// By scripts/make_shown_edges.py, Unicode {unicodedata.unidata_version}.")
     for edge in edges():
         cell = f"0x{edge:X},"
         if len(line) + 1 + len(cell) > 100:

@@ -1,0 +1,110 @@
+#include "examples/strict_names.h"
+
+#include <initializer_list>
+#include <ortholan/strict.hpp>
+#include <string>
+
+#include "examples/failure.h"
+#include "examples/input.h"
+#include "examples/lines.h"
+#include "examples/text.h"
+#include "examples/text_failure.h"
+
+namespace Example {
+namespace {
+
+// Options of the other text form mean nothing here.
+void RefuseOptions(const Arguments& arguments, std::initializer_list<const char*> options) {
+  for (const char* const option : options) {
+    if (arguments.Has(option)) {
+      throw UsageError{std::string(option) + " does not go with --rfc4514"};
+    }
+  }
+}
+
+ortholan::Rfc4514 TextOptions(const Arguments& arguments) {
+  ortholan::Rfc4514 options;
+  if (arguments.Has("--utf8-always")) options.strings = ortholan::StringPolicy::kUtf8;
+  options.long_names = arguments.Has("--long-names");
+  options.exact = arguments.Has("--exact");
+  return options;
+}
+
+ortholan::Name Encode(const std::string& text, const ortholan::Rfc4514& options) {
+  const ortholan::Result<ortholan::Name> name = ortholan::Name::FromText(text, options);
+  if (name) return *name;
+  const ortholan::NameTextError error = ortholan::ExplainNameText(text, name.refusal());
+  FailAtText(text, {error.position, error.met.size()}, error.message);
+}
+
+// One name; none holds a line end that is not escaped.
+std::string ReadOne(const std::string& operand) {
+  const std::string text = ToUtf8(ReadText(operand, true));
+  if (operand == "-" && text.find('\n') != std::string::npos) {
+    Refuse(
+        "standard input has several lines: --lines takes a name a line, and a line end of a "
+        "value is written \\0A");
+  }
+  return text;
+}
+
+Ortholan::IdentObj Octets(const ortholan::Name& name) {
+  return {name.der().data(), static_cast<Ortholan::DWORD>(name.der().size())};
+}
+
+std::string Decode(const Ortholan::IdentObj& der, const ortholan::Rfc4514& options) {
+  const auto name = ortholan::NameView::Read({der.pbData, der.cbData});
+  if (!name) Refuse("the name is no DER: " + name.refusal().Sentence());
+  const ortholan::Result<std::string> text = name->ToText(options);
+  if (!text) Refuse(text.refusal().Sentence());
+  return *text;
+}
+
+int RunEncodeRfc4514(const Arguments& arguments) {
+  RefuseOptions(arguments, {"--utf8", "--separator", "--options", "--sort"});
+  const ortholan::Rfc4514 options = TextOptions(arguments);
+  const std::string& operand = arguments.operands[0];
+  if (arguments.Has("--lines")) {
+    return RunLines("encode", operand,
+                    [&](const std::string& line) { return Hex(Octets(Encode(line, options))); });
+  }
+  const Ortholan::IdentObj der = Octets(Encode(ReadOne(operand), options));
+  if (const auto path = arguments.Value("--out")) {
+    WriteOctets(*path, der);
+  } else {
+    Print(Hex(der) + "\n");
+  }
+  return 0;
+}
+
+int RunDecodeRfc4514(const Arguments& arguments) {
+  RefuseOptions(arguments, {"--style", "--separator", "--options", "--json"});
+  const ortholan::Rfc4514 options = TextOptions(arguments);
+  const std::string& operand = arguments.operands[0];
+  if (arguments.Has("--lines")) {
+    return RunLines("decode", operand, [&](const std::string& line) {
+      return Decode(ReadElementText(line, Kind::kName), options);
+    });
+  }
+  Print(Decode(ReadElement(operand, Kind::kName), options) + "\n");
+  return 0;
+}
+
+}  // namespace
+
+const Option kEncodeRfc4514Option = {"--rfc4514", nullptr, "TEXT is that of RFC 4514",
+                                     RunEncodeRfc4514};
+const Option kDecodeRfc4514Option = {"--rfc4514", nullptr, "text of RFC 4514, safe to show",
+                                     RunDecodeRfc4514};
+const Option kExactOption = {"--exact", nullptr,
+                             "with --rfc4514: text that encode takes back to the very octets"};
+const Option kLongNamesOption = {"--long-names", nullptr,
+                                 "with --rfc4514: commonName in place of CN"};
+
+void RequireRfc4514(const Arguments& arguments) {
+  for (const Option& option : {kExactOption, kLongNamesOption}) {
+    if (arguments.Has(option.name)) throw UsageError{std::string(option.name) + " needs --rfc4514"};
+  }
+}
+
+}  // namespace Example

@@ -1,0 +1,20 @@
+// Names as RFC 4514 text, by the strict layer.
+#ifndef ORTHOLAN_EXAMPLES_STRICT_NAMES_H_
+#define ORTHOLAN_EXAMPLES_STRICT_NAMES_H_
+
+#include "examples/arguments.h"
+
+namespace Example {
+
+// --rfc4514 of encode and of decode, and what goes with it alone.
+extern const Option kEncodeRfc4514Option;
+extern const Option kDecodeRfc4514Option;
+extern const Option kExactOption;
+extern const Option kLongNamesOption;
+
+// UsageError where one of the last two is given without the first.
+void RequireRfc4514(const Arguments& arguments);
+
+}  // namespace Example
+
+#endif  // ORTHOLAN_EXAMPLES_STRICT_NAMES_H_

@@ -1,0 +1,114 @@
+#include "strict/names/name_to_text.h"
+
+#include <vector>
+
+#include "strict/der/identifier.h"
+#include "strict/der/string_value.h"
+
+namespace Ortholan::strict {
+namespace {
+
+// Whether the plain text of a string would be read as this very element.
+bool ComesBack(const Element& value, ValueSyntax syntax, StringPolicy policy) {
+  // The other types are never chosen for text.
+  if (value.identifier != kUtf8String && !IsAsciiString(value.identifier)) return false;
+  const StringChoice choice = ChooseString(value.content, syntax, policy);
+  return choice.reason == ORTHOLAN_REASON_NONE && choice.identifier == value.identifier;
+}
+
+class Decoder {
+ public:
+  Decoder(const TextOptions& options, Output* out, Refusal* refusal)
+      : options_(options), out_(out), refusal_(refusal) {}
+
+  bool PutRdn(ByteView rdn) {
+    if (separate_) out_->Put(',');
+    separate_ = true;
+    AttributeView attribute;
+    for (bool first = true; NextAttribute(&rdn, &attribute); first = false) {
+      if (!first) out_->Put('+');
+      if (!Put(attribute)) return false;
+    }
+    return true;
+  }
+
+ private:
+  bool Put(const AttributeView& attribute) {
+    const NamedType type = Describe(attribute.type, options_);
+    if (type.name.empty()) return PutUnnamed(attribute);
+    out_->Put(type.name);
+    out_->Put('=');
+    const Element& value = attribute.value;
+    const bool plain = IsString(value.identifier) &&
+                       (!options_.exact || ComesBack(value, type.syntax, options_.strings)) &&
+                       PutEscaped(value.identifier, value.content, out_);
+    if (!plain) PutElement(value);
+    return true;
+  }
+
+  // RFC 4514 2.4: a dotted type has the encoding of its value.
+  bool PutUnnamed(const AttributeView& attribute) {
+    if (!PutIdentifierText(attribute.type, out_)) {
+      return Refuse(refusal_, ORTHOLAN_REASON_TOO_LONG, attribute.type.data, attribute.type.size);
+    }
+    out_->Put('=');
+    PutElement(attribute.value);
+    return true;
+  }
+
+  void PutElement(const Element& value) {
+    out_->Put('#');
+    PutHex(value.bytes, out_);
+  }
+
+  const TextOptions& options_;
+  Output* out_;
+  Refusal* refusal_;
+  bool separate_ = false;
+};
+
+// RDNs from the last to the first. Most names need no memory for it.
+class BackwardRdns {
+ public:
+  explicit BackwardRdns(const NameView& name) : count_(name.rdn_count()) {
+    if (count_ > kFew) many_.resize(count_);
+    rdns_ = count_ > kFew ? many_.data() : few_;
+    ByteView rest = name.rdns();
+    size_t found = 0;
+    while (found < count_ && NextRdn(&rest, &rdns_[found])) ++found;
+    count_ = found;
+  }
+  bool Next(ByteView* rdn) {
+    if (count_ == 0) return false;
+    *rdn = rdns_[--count_];
+    return true;
+  }
+
+ private:
+  static constexpr size_t kFew = 32;
+
+  size_t count_;
+  ByteView few_[kFew];
+  std::vector<ByteView> many_;
+  ByteView* rdns_;
+};
+
+}  // namespace
+
+bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out,
+                   Refusal* refusal) {
+  Decoder decoder(options, out, refusal);
+  ByteView rdn;
+  if (options.order == RdnOrder::kAsEncoded) {
+    for (ByteView rest = name.rdns(); NextRdn(&rest, &rdn);) {
+      if (!decoder.PutRdn(rdn)) return false;
+    }
+    return true;
+  }
+  for (BackwardRdns rdns(name); rdns.Next(&rdn);) {
+    if (!decoder.PutRdn(rdn)) return false;
+  }
+  return true;
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,29 @@
+// DER to RFC 4514 text that is safe to show: every character that cannot be seen is escaped.
+//
+//   Output out(buffer, room);
+//   if (!PutTextOfName(name, options, &out, &refusal)) ...
+#ifndef ORTHOLAN_STRICT_NAMES_NAME_TO_TEXT_H_
+#define ORTHOLAN_STRICT_NAMES_NAME_TO_TEXT_H_
+
+#include "strict/der/output.h"
+#include "strict/der/refusal.h"
+#include "strict/names/name_view.h"
+#include "strict/names/text_options.h"
+
+namespace Ortholan::strict {
+
+// Puts the text of a name. Refuses an identifier above kMaxIdentifierOctets, at its place. Throws
+// std::bad_alloc for more than 32 RDNs.
+bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out, Refusal* refusal);
+
+// Puts a string value with what has to be escaped in a name escaped; false, with nothing put, where
+// the octets are no text.
+bool PutEscaped(uint8_t identifier, ByteView content, Output* out);
+
+// Puts UTF-8 with what cannot be seen escaped and all else as it is; false, with nothing put, for
+// other octets.
+bool PutVisible(ByteView text, Output* out);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_NAMES_NAME_TO_TEXT_H_

@@ -1,0 +1,73 @@
+#include "strict/names/name_writer.h"
+
+#include <algorithm>
+
+#include "strict/der/reader.h"
+#include "strict/der/set_order.h"
+
+namespace Ortholan::strict {
+namespace {
+
+// Reverses the order of elements: all octets, then those of each element back.
+void ReverseElements(uint8_t* elements, size_t size) {
+  uint8_t* const end = elements + size;
+  Reader reader({elements, size}, Leniency::kLenient, nullptr);
+  for (Element each; reader.Read(&each);) {
+    uint8_t* const first = end - reader.rest().size - each.bytes.size;
+    std::reverse(first, first + each.bytes.size);
+  }
+  std::reverse(elements, end);
+}
+
+}  // namespace
+
+void NameWriter::BeginRdn() {
+  EndRdn();
+  in_rdn_ = true;
+  rdn_end_ = out_->size();
+}
+
+void NameWriter::EndRdn() {
+  if (!in_rdn_) return;
+  in_rdn_ = false;
+  const size_t size = out_->size() - rdn_end_;
+  if (attributes_ > 1 && out_->fits()) SortSetOf(out_->front(), size);
+  attributes_ = 0;
+  out_->PutHeader(kSet, size);
+}
+
+uint8_t* NameWriter::TakeValue(size_t octets) {
+  attribute_end_ = out_->size();
+  return out_->Take(octets);
+}
+
+void NameWriter::EndAttribute(uint8_t identifier, ByteView type) {
+  out_->PutHeader(identifier, out_->size() - attribute_end_);
+  EndAttribute(type);
+}
+
+void NameWriter::EndAttribute(ByteView type) {
+  out_->Put(type);
+  out_->PutHeader(kOid, type.size);
+  out_->PutHeader(kSequence, out_->size() - attribute_end_);
+  ++attributes_;
+}
+
+void NameWriter::PutAttribute(ByteView bytes) {
+  out_->Put(bytes);
+  ++attributes_;
+}
+
+void NameWriter::PutRdn(ByteView bytes) {
+  EndRdn();
+  out_->Put(bytes);
+}
+
+void NameWriter::End(RdnOrder order) {
+  EndRdn();
+  const size_t size = out_->size();
+  if (order == RdnOrder::kAsEncoded && out_->fits()) ReverseElements(out_->front(), size);
+  out_->PutHeader(kSequence, size);
+}
+
+}  // namespace Ortholan::strict

@@ -1,0 +1,138 @@
+#include "strict/names/text_to_name.h"
+
+#include <string>
+
+#include "strict/der/identifier.h"
+#include "strict/der/reader.h"
+#include "strict/der/string_value.h"
+#include "strict/names/name_writer.h"
+#include "strict/names/text_parser.h"
+
+namespace Ortholan::strict {
+namespace {
+
+class Encoder {
+ public:
+  Encoder(std::string_view text, const TextOptions& options, BackwardOutput* out, Refusal* refusal)
+      : text_(text), options_(options), name_(out), refusal_(refusal) {}
+
+  bool Run() {
+    TextParser parser(text_, refusal_);
+    for (TextAttribute attribute; parser.Next(&attribute);) {
+      if (attribute.begins_rdn) name_.BeginRdn();
+      NamedType type;
+      if (!FindAttributeType(attribute, &type) || !PutValue(attribute, type)) return false;
+    }
+    if (*refusal_) return false;
+    name_.End(options_.order);
+    return true;
+  }
+
+ private:
+  bool FindAttributeType(const TextAttribute& attribute, NamedType* type) {
+    if (attribute.dotted) return FindDotted(attribute.type, type);
+    return FindNamed(attribute.type, options_, type) ||
+           RefuseAt(ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE, attribute.type);
+  }
+
+  bool FindDotted(std::string_view dotted, NamedType* type) {
+    Output oid(oid_, sizeof oid_);
+    if (!PutIdentifier(dotted, &oid)) return RefuseAt(ORTHOLAN_REASON_TEXT_OID, dotted);
+    ByteView octets(oid_, oid.size());
+    if (!oid.fits()) {
+      long_oid_.resize(oid.size());
+      Output again(&long_oid_[0], oid.size());
+      PutIdentifier(dotted, &again);
+      octets = AsBytes(long_oid_.data(), long_oid_.size());
+    }
+    *type = Describe(octets, options_);
+    return true;
+  }
+
+  bool PutValue(const TextAttribute& attribute, const NamedType& type) {
+    uint8_t* const place = name_.TakeValue(attribute.octets);
+    const bool is_hex = attribute.form == ValueForm::kHex;
+    const bool as_it_stands = !is_hex && attribute.octets == attribute.value.size();
+    ByteView octets = AsBytes(attribute.value.data(), attribute.value.size());
+    if (!as_it_stands || place != nullptr) octets = Write(attribute, place);
+    if (is_hex) {
+      name_.EndAttribute(type.oid);
+      return CheckElement(attribute, octets);
+    }
+    if (!as_it_stands && !CheckUtf8(attribute, octets)) return false;
+    const StringChoice choice = ChooseString(octets, type.syntax, options_.strings);
+    if (choice.reason != ORTHOLAN_REASON_NONE) {
+      return RefuseValue(choice.reason, attribute, choice.offset, choice.identifier);
+    }
+    name_.EndAttribute(choice.identifier, type.oid);
+    return true;
+  }
+
+  // The value's octets at their place, or where it is not there in a room of their own.
+  ByteView Write(const TextAttribute& attribute, uint8_t* place) {
+    if (place == nullptr) {
+      value_.resize(attribute.octets + 1);
+      place = reinterpret_cast<uint8_t*>(&value_[0]);
+    }
+    if (attribute.form == ValueForm::kHex) {
+      ReadHexDigits(attribute.value, place);
+    } else {
+      Unescape(attribute.value, place);
+    }
+    return {place, attribute.octets};
+  }
+
+  // What the digits stand for is one element, all of it.
+  bool CheckElement(const TextAttribute& attribute, ByteView octets) {
+    Refusal inner;
+    Reader reader(octets, Leniency::kStructure, &inner);
+    Element element;
+    if (reader.Read(&element) && reader.End() &&
+        CheckNested(element, Leniency::kStructure, &inner)) {
+      return true;
+    }
+    const auto offset = static_cast<size_t>(static_cast<const uint8_t*>(inner.at) - octets.data);
+    const size_t place = 2 * offset;
+    return RefuseAt(ORTHOLAN_REASON_TEXT_ELEMENT, attribute.value.substr(place),
+                    static_cast<uint32_t>(inner.reason));
+  }
+
+  bool CheckUtf8(const TextAttribute& attribute, ByteView octets) {
+    const StringFault fault = FindStringFault(kUtf8String, octets, false);
+    return fault.reason == ORTHOLAN_REASON_NONE ||
+           RefuseValue(ORTHOLAN_REASON_TEXT_VALUE_UTF8, attribute, fault.offset);
+  }
+
+  // Refuses the octet number `offset` of a value.
+  bool RefuseValue(ortholan_reason reason, const TextAttribute& attribute, size_t offset,
+                   uint32_t expected = 0) {
+    const size_t place = PlaceOf(offset, attribute.value);
+    return RefuseAt(reason, attribute.value.substr(place), expected);
+  }
+  // Refuses what begins a part of the text.
+  bool RefuseAt(ortholan_reason reason, std::string_view part, uint32_t expected = 0) {
+    const auto before = static_cast<size_t>(part.data() - text_.data());
+    const ByteView rest = AsBytes(text_.data(), text_.size()).From(before);
+    return Refuse(refusal_, reason, rest.data, rest.size, expected);
+  }
+
+  std::string_view text_;
+  const TextOptions& options_;
+  NameWriter name_;
+  Refusal* refusal_;
+  uint8_t oid_[32];  // of a dotted type; nearly all fit
+  std::string long_oid_;
+  std::string value_;
+};
+
+}  // namespace
+
+bool PutNameOfText(std::string_view text, const TextOptions& options, BackwardOutput* out,
+                   Refusal* refusal) {
+  Refusal found;
+  const bool done = Encoder(text, options, out, &found).Run();
+  if (!done && refusal != nullptr) *refusal = found;
+  return done;
+}
+
+}  // namespace Ortholan::strict
