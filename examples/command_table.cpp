@@ -12,8 +12,9 @@ namespace Example {
 
 const std::vector<const Command*>& AllCommands() {
   static const std::vector<const Command*> all = {
-      &kEncodeCommand, &kDecodeCommand, &kPairsCommand,  &kGetCommand,       &kSetCommand,
-      &kEqualCommand,  &kShowCommand,   &kSurveyCommand, &kExtensionCommand, &kGeneralNameCommand,
+      &kEncodeCommand,    &kDecodeCommand,      &kPairsCommand,    &kGetCommand,
+      &kSetCommand,       &kEqualCommand,       &kShowCommand,     &kSurveyCommand,
+      &kExtensionCommand, &kGeneralNameCommand, &kIdentifyCommand,
   };
   return all;
 }

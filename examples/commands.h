@@ -24,6 +24,9 @@ extern const Command kSurveyCommand;
 extern const Command kExtensionCommand;
 extern const Command kGeneralNameCommand;
 
+// strict_identity.cpp
+extern const Command kIdentifyCommand;
+
 // Of several commands.
 extern const Option kJsonOption;  // --json
 

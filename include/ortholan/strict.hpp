@@ -5,5 +5,7 @@
 #define ORTHOLAN_STRICT_HPP_
 
 #include <ortholan/strict/base.hpp>
+#include <ortholan/strict/general_names.hpp>
+#include <ortholan/strict/identity.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_
