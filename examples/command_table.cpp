@@ -12,9 +12,9 @@ namespace Example {
 
 const std::vector<const Command*>& AllCommands() {
   static const std::vector<const Command*> all = {
-      &kEncodeCommand,    &kDecodeCommand,      &kPairsCommand,     &kGetCommand,
-      &kSetCommand,       &kEqualCommand,       &kShowCommand,      &kSurveyCommand,
-      &kExtensionCommand, &kGeneralNameCommand, &kPermittedCommand,
+      &kEncodeCommand, &kDecodeCommand, &kPairsCommand,     &kGetCommand,
+      &kSetCommand,    &kEqualCommand,  &kIdentifyCommand,  &kPermittedCommand,
+      &kShowCommand,   &kSurveyCommand, &kExtensionCommand, &kGeneralNameCommand,
   };
   return all;
 }

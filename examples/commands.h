@@ -26,6 +26,8 @@ extern const Command kGeneralNameCommand;
 
 // strict_constraints.cpp
 extern const Command kPermittedCommand;
+// strict_identity.cpp
+extern const Command kIdentifyCommand;
 
 // Of several commands.
 extern const Option kJsonOption;  // --json

@@ -8,5 +8,7 @@
 #include <ortholan/strict/constraints.hpp>
 #include <ortholan/strict/matching.hpp>
 #include <ortholan/strict/names.hpp>
+#include <ortholan/strict/general_names.hpp>
+#include <ortholan/strict/identity.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_

@@ -60,19 +60,22 @@ ortholan_reason ortholan_identify_by_names(ortholan_octets names,
   return Ask(names, reference, IdentifyByNames, identity, refusal);
 }
 
-ortholan_reason ortholan_identity_explain(ortholan_octets name, const ortholan_reference* asked,
-                                          ortholan_reason* why, ortholan_refusal* refusal) {
-  if (refusal != nullptr) *refusal = {};
-  if (why == nullptr) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
-  *why = ORTHOLAN_REASON_NONE;
-  if (!IsGiven(name)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+ortholan_reason ortholan_identity_explain(const ortholan_identity* identity,
+                                          const ortholan_reference* asked, size_t* offset,
+                                          ortholan_presented_name* presented) {
+  if (presented != nullptr) *presented = {};
+  if (identity == nullptr || offset == nullptr || presented == nullptr ||
+      !IsGiven(identity->names) || *offset > identity->names.size) {
+    return ORTHOLAN_REASON_ARGUMENT;
+  }
   Reference reference;
-  const ortholan_reason fault = ReadReference(asked, &reference, refusal);
+  const ortholan_reason fault = ReadReference(asked, &reference, nullptr);
   if (fault != ORTHOLAN_REASON_NONE) return fault;
-  Refusal found;
-  GeneralNameView view;
-  Reader list(View(name), Leniency::kStructure, &found);
-  *why =
-      GeneralNameView::Read(&list, &view) && list.End() ? Explain(view, reference) : found.reason;
+  if (*offset == identity->names.size) return ORTHOLAN_REASON_NOT_FOUND;
+  Reader list(View(identity->names).From(*offset), Leniency::kStructure, nullptr);
+  Element element;
+  if (!list.Read(&element)) return ORTHOLAN_REASON_ARGUMENT;
+  *offset += element.bytes.size;
+  *presented = {Octets(element.bytes), Explain(element, reference)};
   return ORTHOLAN_REASON_NONE;
 }

@@ -2,13 +2,13 @@
 
 #include "strict/der/identifier.h"
 #include "strict/der/string_value.h"
+#include "strict/general_names/guid.h"
 #include "strict/general_names/host.h"
 
 namespace Ortholan::strict {
 namespace {
 
 constexpr uint8_t kGeneralString = 0x1B;
-constexpr size_t kGuidOctets = 16;
 constexpr size_t kMaxServiceOctets = 16;  // 15 behind the underscore (RFC 6335 5.1)
 
 bool RefuseIn(Reader* reader, ByteView whole, size_t at, ortholan_reason reason) {
@@ -54,13 +54,22 @@ bool ReadTagged(Reader* fields, uint8_t number, uint8_t identifier, ByteView* co
   return inside.Read(identifier, content) && inside.End();
 }
 
+// An Int32 of RFC 4120 5.2.4.
+bool CheckInt32(ByteView content, Reader* reader) {
+  const bool is_minimal =
+      content.size == 1 || (content.size > 1 && !(content[0] == 0 && content[1] < 0x80) &&
+                            !(content[0] == 0xFF && content[1] >= 0x80));
+  return (is_minimal && content.size <= 4) || RefuseIn(reader, content, 0, ORTHOLAN_REASON_INTEGER);
+}
+
 bool ReadPrincipal(ByteView content, Reader* outer, OtherName* name) {
   Reader fields(content, outer->leniency(), outer->refusal());
-  if (!ReadTagged(&fields, 0, kInteger, &name->name_type) ||
+  if (!ReadTagged(&fields, 0, kInteger, &name->name_type) || !CheckInt32(name->name_type, outer) ||
       !ReadTagged(&fields, 1, kSequence, &name->components) || !fields.End()) {
     return false;
   }
   Reader strings(name->components, outer->leniency(), outer->refusal());
+  if (strings.AtEnd()) return strings.RefuseHere(ORTHOLAN_REASON_EMPTY);
   std::string_view component;
   while (!strings.AtEnd()) {
     if (!ReadText(&strings, kGeneralString, &component)) return false;

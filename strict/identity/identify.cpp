@@ -167,14 +167,18 @@ Identity IdentifyByNames(ByteView names, const Reference& reference, Refusal* re
   return identity;
 }
 
-ortholan_reason Explain(const GeneralNameView& name, const Reference& reference) {
+ortholan_reason Explain(const Element& element, const Reference& reference) {
+  GeneralNameView name;
+  if (!GeneralNameView::FromElement(element, &name)) return ORTHOLAN_REASON_GENERAL_NAME;
   const ortholan_reason difference = Compare(name, reference);
-  if (difference == ORTHOLAN_REASON_NONE || name.kind != GeneralNameKind::kDns ||
-      difference == ORTHOLAN_REASON_OTHER_KIND) {
-    return difference;
-  }
+  if (difference == ORTHOLAN_REASON_NONE) return difference;
   Refusal refusal;
-  CheckHostPattern(AsText(name.content), reference.host_choices, &refusal);
+  // The characters of a host tell more than that it is no ASCII.
+  if (name.kind == GeneralNameKind::kDns) {
+    CheckHostPattern(AsText(name.content), reference.host_choices, &refusal);
+  } else {
+    name.Check(Leniency::kDer, false, &refusal);
+  }
   return refusal ? refusal.reason : difference;
 }
 

@@ -3,7 +3,7 @@
 //
 //   const Identity identity = Identify(certificate, reference, &refusal);
 //   if (identity.verdict == Verdict::kYes) use(identity.match);
-//   else ... Explain(name, reference) for each of identity.names
+//   else ... Explain(element, reference) for each of identity.names
 #ifndef ORTHOLAN_STRICT_IDENTITY_IDENTIFY_H_
 #define ORTHOLAN_STRICT_IDENTITY_IDENTIFY_H_
 
@@ -29,9 +29,9 @@ Identity Identify(ByteView certificate, const Reference& reference, Refusal* ref
 // The same of the names alone, the value of an alternative-name extension.
 Identity IdentifyByNames(ByteView names, const Reference& reference, Refusal* refusal);
 
-// Why a presented name is not the one that was asked for: that it is malformed, or else what
-// differs; NONE for the one that is.
-ortholan_reason Explain(const GeneralNameView& name, const Reference& reference);
+// Why a presented name, an element of the list, is not the one that was asked for: that it is
+// malformed, or else what differs; NONE for the one that is.
+ortholan_reason Explain(const Element& element, const Reference& reference);
 
 }  // namespace Ortholan::strict
 

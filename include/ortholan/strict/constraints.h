@@ -58,7 +58,7 @@ enum {
 enum {
   ORTHOLAN_NAME_NONE = 0,         // the finding is about the certificate as a whole
   ORTHOLAN_NAME_SUBJECT = 1,      // `name` is the encoding of the subject
-  ORTHOLAN_NAME_EMAIL = 2,       // `name` is the text of an e-mail attribute of the subject
+  ORTHOLAN_NAME_EMAIL = 2,        // `name` is the text of an e-mail attribute of the subject
   ORTHOLAN_NAME_ALTERNATIVE = 3,  // `name` is a GeneralName of the alternative names
   ORTHOLAN_NAME_LIST = 4,         // the alternative names, which cannot be read
   ORTHOLAN_NAME_CONSTRAINTS = 5   // the authority's constraints, which cannot be used

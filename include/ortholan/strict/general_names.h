@@ -75,6 +75,133 @@ enum {
   ORTHOLAN_OTHER_GUID = 8              // of a domain controller, 1.3.6.1.4.1.311.25.1
 };
 
+// The nine kinds, by the number of their tag (RFC 5280 4.2.1.6).
+enum {
+  ORTHOLAN_NAME_OTHER = 0,
+  ORTHOLAN_NAME_MAIL = 1,  // rfc822Name
+  ORTHOLAN_NAME_DNS = 2,
+  ORTHOLAN_NAME_X400 = 3,
+  ORTHOLAN_NAME_DIRECTORY = 4,
+  ORTHOLAN_NAME_EDI_PARTY = 5,
+  ORTHOLAN_NAME_URI = 6,
+  ORTHOLAN_NAME_ADDRESS = 7,
+  ORTHOLAN_NAME_REGISTERED_ID = 8
+};
+
+// One general name.
+typedef struct ortholan_general_name_view {
+  int32_t kind;             // an ORTHOLAN_NAME_ word
+  int32_t other;            // an ORTHOLAN_OTHER_ word; UNKNOWN for every kind but OTHER
+  ortholan_octets bytes;    // the whole element
+  ortholan_octets content;  // characters, octets of an address, content of an identifier, the whole
+                            // Name of a directory name, of other kinds what is inside the tag
+} ortholan_general_name_view;
+
+// A list of general names that was read.
+typedef struct ortholan_general_names_view {
+  ortholan_octets der;    // the whole encoding
+  ortholan_octets names;  // the elements, one behind the other
+  size_t count;
+} ortholan_general_names_view;
+
+// Reads a list that is the whole of `der`, the value of an alternative-name extension. Each name is
+// checked: names of characters are ASCII without controls, an address has 4 or 16 octets, an
+// identifier and a directory name are in order.
+//   mode  an ORTHOLAN_READ_ word; with STRUCTURE what is inside the names is not checked
+ORTHOLAN_EXPORT ortholan_reason ortholan_general_names_view_read(ortholan_octets der, int32_t mode,
+                                                                 ortholan_general_names_view* names,
+                                                                 ortholan_refusal* refusal);
+// The name at `*offset`, which begins as 0 and moves behind it. Refuses NOT_FOUND at the end.
+ORTHOLAN_EXPORT ortholan_reason ortholan_general_names_view_next(
+    const ortholan_general_names_view* names, size_t* offset, ortholan_general_name_view* name);
+// Reads one name that is the whole of `der`, and checks it as a list does.
+ORTHOLAN_EXPORT ortholan_reason ortholan_general_name_view_read(ortholan_octets der, int32_t mode,
+                                                                ortholan_general_name_view* name,
+                                                                ortholan_refusal* refusal);
+
+// A mailbox (RFC 5321 4.1.2).
+typedef struct ortholan_mailbox {
+  ortholan_text local;      // as written, with its quotes
+  ortholan_text host;       // a host name; empty where an address stands
+  uint8_t address[16];      // of an address in brackets
+  size_t address_size;      // 4, 16, or 0 where a host stands
+  int32_t has_ascii_local;  // 1 where the local part is ASCII
+} ortholan_mailbox;
+
+// A URI (RFC 3986 3). Parts are as written; those that are missing are empty.
+typedef struct ortholan_uri {
+  ortholan_text scheme;
+  ortholan_text userinfo;
+  ortholan_text host;  // without brackets; need not be a host name
+  ortholan_text port;
+  ortholan_text rest;  // path, query and fragment
+  uint8_t address[16];
+  size_t address_size;    // 4 or 16 where the host is an address, else 0
+  int32_t has_authority;  // 1 where "//" stands behind the scheme
+} ortholan_uri;
+
+// An other name (RFC 5280 4.2.1.6). Parts that its kind has not are empty.
+typedef struct ortholan_other_name {
+  int32_t kind;            // an ORTHOLAN_OTHER_ word
+  uint32_t identifier;     // identifier octet of the value
+  ortholan_octets type;    // content octets of the identifier
+  ortholan_octets value;   // the whole element inside the explicit tag
+  ortholan_text text;      // UPN, service, mailbox, XMPP address, permanent identifier (NULL where
+                           // it has none), realm of a Kerberos principal
+  ortholan_octets oid;     // assigner of a permanent identifier, type of a hardware module
+  ortholan_octets octets;  // serial number of a hardware module, GUID as Windows stores it
+  ortholan_octets components;  // of a Kerberos principal: GeneralStrings one behind the other
+} ortholan_other_name;
+
+// The EDIPartyName's parts, each a whole element of a string type.
+typedef struct ortholan_edi_party {
+  ortholan_octets assigner;  // empty where there is none
+  ortholan_octets party;
+} ortholan_edi_party;
+
+// Takes a mailbox apart: of an rfc822Name or a SmtpUTF8Mailbox.
+//   has_utf8  1 for a local part that may hold UTF-8
+ORTHOLAN_EXPORT ortholan_reason ortholan_mailbox_read(ortholan_text text, int32_t has_utf8,
+                                                      ortholan_mailbox* mailbox,
+                                                      ortholan_refusal* refusal);
+ORTHOLAN_EXPORT ortholan_reason ortholan_uri_read(ortholan_text text, ortholan_uri* uri,
+                                                  ortholan_refusal* refusal);
+// Reads an other name. A value that is not what its type prescribes is refused.
+ORTHOLAN_EXPORT ortholan_reason ortholan_other_name_read(const ortholan_general_name_view* name,
+                                                         ortholan_other_name* other,
+                                                         ortholan_refusal* refusal);
+ORTHOLAN_EXPORT ortholan_reason ortholan_edi_party_read(const ortholan_general_name_view* name,
+                                                        ortholan_edi_party* party,
+                                                        ortholan_refusal* refusal);
+
+// Whether a text is a host name. Refuses a HOST_ reason at its place.
+ORTHOLAN_EXPORT ortholan_reason ortholan_host_check(ortholan_text host, uint32_t choices,
+                                                    ortholan_refusal* refusal);
+// What a host name may have beyond letters, digits and inner hyphens, added.
+enum {
+  ORTHOLAN_HOST_UNDERSCORES = 1,
+  ORTHOLAN_HOST_TRAILING_DOT = 2,
+  ORTHOLAN_HOST_EDGE_HYPHENS = 4,
+  ORTHOLAN_HOST_WILDCARD = 8  // "*." in front of two labels or more
+};
+
+// Octets of an address, or of a range with its mask, as text: RFC 5952 and CIDR. Refuses
+// ADDRESS_SIZE.
+ORTHOLAN_EXPORT ortholan_reason ortholan_address_to_text(ortholan_octets address, char* out,
+                                                         size_t room, size_t* size);
+// The octets of an address, 4 or 16, or of a range "192.0.2.0/24" with its mask, 8 or 32. Refuses
+// ADDRESS_TEXT.
+ORTHOLAN_EXPORT ortholan_reason ortholan_address_from_text(ortholan_text text, uint8_t* out,
+                                                           size_t room, size_t* size);
+
+// One general name as text: "DNS:example.org", "IP:192.0.2.1", "email:", "URI:", "dirName:",
+// "RID:", "UPN:", "SRV:", "otherName:1.2.3;UTF8:text" and others. What cannot be seen is escaped,
+// so that no name passes for another or for two. Malformed names have a text as well.
+//   name  a whole GeneralName
+ORTHOLAN_EXPORT ortholan_reason ortholan_general_name_to_text(ortholan_octets name, char* out,
+                                                              size_t room, size_t* size,
+                                                              ortholan_refusal* refusal);
+
 #ifdef __cplusplus
 }  // extern "C"
 #endif

@@ -99,12 +99,19 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_identify_by_names(ortholan_octets names
                                                            const ortholan_reference* reference,
                                                            ortholan_identity* identity,
                                                            ortholan_refusal* refusal);
-// Why one GeneralName is not what is asked: that it is malformed, or else what differs; NONE for
-// one that is.
-ORTHOLAN_EXPORT ortholan_reason ortholan_identity_explain(ortholan_octets name,
-                                                          const ortholan_reference* asked,
-                                                          ortholan_reason* why,
-                                                          ortholan_refusal* refusal);
+// One presented name, and why it is not the one that was asked for.
+typedef struct ortholan_presented_name {
+  ortholan_octets bytes;   // the element
+  ortholan_reason reason;  // that it is malformed, or else what differs; NONE for one that matches
+} ortholan_presented_name;
+
+// Explains the name at `*offset` of an answer's names, which begins as 0 and moves behind it.
+// Refuses NOT_FOUND at the end.
+//   reference  the question that was answered
+ORTHOLAN_EXPORT ortholan_reason ortholan_identity_explain(const ortholan_identity* identity,
+                                                          const ortholan_reference* reference,
+                                                          size_t* offset,
+                                                          ortholan_presented_name* presented);
 
 #ifdef __cplusplus
 }  // extern "C"
