@@ -119,7 +119,7 @@ std::string Shown(const std::string& type, int tag, const std::wstring& value) {
   return type + ' ' + std::to_string(tag) + ' ' + Hex(value) + '\n';
 }
 std::string ShownByOpenssl(const IdentObj& der) {
-  const openssl::Read<X509_NAME> name = openssl::ReadName(std::string(AsText(der)));
+  const openssl::Read<::X509_NAME> name = openssl::ReadName(std::string(AsText(der)));
   if (name.value == nullptr) return "refused for " + std::to_string(name.reason);
   if (name.size != der.cbData) return "octets left";
   std::string shown;
@@ -249,7 +249,7 @@ TEST(NamesForOpenssl, MayHaveRdnsOfSeveralAttributes) {
   for (const Pair& pair : pairs) rdn.push_back(AttributeOf(pair));
   IdentObj der;
   ASSERT_TRUE(X500NameEncoder().Encode(std::list<std::list<RDNAttr>>{{rdn}, {rdn.front()}}, der));
-  const openssl::Read<X509_NAME> name = openssl::ReadName(std::string(AsText(der)));
+  const openssl::Read<::X509_NAME> name = openssl::ReadName(std::string(AsText(der)));
   ASSERT_NE(name.value, nullptr);
   const std::vector<openssl::Attribute> read = openssl::Attributes(name.value.get());
   ASSERT_EQ(read.size(), 4u);

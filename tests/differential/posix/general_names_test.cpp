@@ -133,8 +133,8 @@ bool HasSameString(const Case& name, const ASN1_STRING* theirs) {
   return name.content == openssl::Content(theirs) && name.text == text;
 }
 
-bool HasSameName(const Case& name, const X509_NAME* theirs) {
-  const openssl::Read<X509_NAME> ours = openssl::ReadName(name.content);
+bool HasSameName(const Case& name, const ::X509_NAME* theirs) {
+  const openssl::Read<::X509_NAME> ours = openssl::ReadName(name.content);
   return ours.value != nullptr && X509_NAME_cmp(ours.value.get(), theirs) == 0 &&
          name.text == Wide(Hex(name.octets));
 }

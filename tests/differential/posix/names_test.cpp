@@ -46,7 +46,7 @@ struct Case {
 
   std::string octets;
   OurName ours;
-  openssl::Read<X509_NAME> theirs;
+  openssl::Read<::X509_NAME> theirs;
   std::vector<Attribute> attributes;
 };
 

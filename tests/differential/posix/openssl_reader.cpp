@@ -136,7 +136,7 @@ Read<GENERAL_NAME> ReadGeneralName(const std::string& octets) {
 Read<X509_EXTENSION> ReadExtension(const std::string& octets) {
   return ReadBy(d2i_X509_EXTENSION, octets);
 }
-Read<X509_NAME> ReadName(const std::string& octets) { return ReadBy(d2i_X509_NAME, octets); }
+Read<::X509_NAME> ReadName(const std::string& octets) { return ReadBy(d2i_X509_NAME, octets); }
 
 std::string Dotted(const ASN1_OBJECT* oid) {
   const int size = OBJ_obj2txt(nullptr, 0, oid, 1);
@@ -186,7 +186,7 @@ ValueText TextOf(const ASN1_STRING* value) {
   return isString ? TextOfString(value) : ValueText{ValueText::kOther, {}};
 }
 
-std::vector<Attribute> Attributes(const X509_NAME* name) {
+std::vector<Attribute> Attributes(const ::X509_NAME* name) {
   std::vector<Attribute> attributes;
   for (int i = 0; i < X509_NAME_entry_count(name); ++i) {
     const X509_NAME_ENTRY* const entry = X509_NAME_get_entry(name, i);

@@ -17,7 +17,7 @@ struct Free {
   void operator()(ASN1_TYPE* type) const { ASN1_TYPE_free(type); }
   void operator()(GENERAL_NAME* name) const { GENERAL_NAME_free(name); }
   void operator()(X509_EXTENSION* extension) const { X509_EXTENSION_free(extension); }
-  void operator()(X509_NAME* name) const { X509_NAME_free(name); }
+  void operator()(::X509_NAME* name) const { X509_NAME_free(name); }
 };
 
 // Octets read by one of the d2i functions.
@@ -30,7 +30,7 @@ struct Read {
 Read<ASN1_TYPE> ReadElement(const std::string& octets);
 Read<GENERAL_NAME> ReadGeneralName(const std::string& octets);
 Read<X509_EXTENSION> ReadExtension(const std::string& octets);
-Read<X509_NAME> ReadName(const std::string& octets);
+Read<::X509_NAME> ReadName(const std::string& octets);
 
 // The dotted text of an identifier, and its content octets.
 std::string Dotted(const ASN1_OBJECT* oid);
@@ -59,7 +59,7 @@ struct Attribute {
   const ASN1_OBJECT* type;
   const ASN1_STRING* value;
 };
-std::vector<Attribute> Attributes(const X509_NAME* name);
+std::vector<Attribute> Attributes(const ::X509_NAME* name);
 
 // Headers as OpenSSL reads them, without a look at the tags: what the elements are that stand where
 // a Name has its parts, or from `outermost` on. What is in a value is left alone, but where its end
