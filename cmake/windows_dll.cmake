@@ -11,6 +11,20 @@ set_source_files_properties(platform/windows/ortholan.rc PROPERTIES
   OBJECT_DEPENDS
     "${ORTHOLAN_RESOURCE_INPUTS};${PROJECT_BINARY_DIR}/include/ortholan/version.h")
 
+# g++ exports what its attributes mark, but no member that is defined in its class. All members of the
+# list of extensions are exported, the others by their names in the object.
+if(MINGW)
+  set(ORTHOLAN_LIST_OBJECT
+    "$<FILTER:$<TARGET_OBJECTS:ortholan_objects>,INCLUDE,cert_extension_list>")
+  set(ORTHOLAN_LIST_MEMBERS "${PROJECT_BINARY_DIR}/list_members.def")
+  add_custom_command(OUTPUT "${ORTHOLAN_LIST_MEMBERS}"
+    COMMAND "${CMAKE_COMMAND}" "-DNM=${CMAKE_NM}" "-DOBJECT=${ORTHOLAN_LIST_OBJECT}"
+      "-DOUTPUT=${ORTHOLAN_LIST_MEMBERS}" -P "${PROJECT_SOURCE_DIR}/cmake/list_members.cmake"
+    DEPENDS "${ORTHOLAN_LIST_OBJECT}" "${PROJECT_SOURCE_DIR}/cmake/list_members.cmake"
+    VERBATIM)
+  target_sources(ortholan PRIVATE "${ORTHOLAN_LIST_MEMBERS}")
+endif()
+
 # The names of the C interface, from which other compilers' tools make an import library.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
   "${PROJECT_SOURCE_DIR}/abi/windows.txt")

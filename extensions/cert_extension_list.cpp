@@ -12,10 +12,10 @@ namespace {
 
 constexpr DWORD kCountField = 4;
 
-template <typename List>
-auto FindOid(List* list, ByteView oid) {
-  return std::find_if(list->begin(), list->end(), [oid](const CertExtension& extension) {
-    return SameBytes(ViewOf(extension.oid), oid);
+template <typename List, typename Matches>
+auto FindOid(List* list, Matches matches) {
+  return std::find_if(list->begin(), list->end(), [&matches](const CertExtension& extension) {
+    return matches(extension.oid);
   });
 }
 
@@ -27,7 +27,11 @@ CertExtensionList& CertExtensionList::operator=(const CertExtensionList& other) 
 CertExtensionList::~CertExtensionList() = default;
 
 bool CertExtensionList::FindExtension(CZEPString oid, CertExtension& out) const {
-  const auto found = FindOid(this, AsBytes(oid.c_str(), static_cast<size_t>(oid.GetLength())));
+  const ByteView wanted = AsBytes(oid.c_str(), static_cast<size_t>(oid.GetLength()));
+  const auto found = FindOid(this, [wanted](const IdentObj& each) {
+    // A size without a pointer is no empty identifier.
+    return each.cbData == wanted.size && SameBytes(ViewOf(each), wanted);
+  });
   if (found == end()) {
     out.oid.Clear();
     return false;
@@ -37,7 +41,7 @@ bool CertExtensionList::FindExtension(CZEPString oid, CertExtension& out) const 
 }
 
 bool CertExtensionList::Update(const CertExtension& ext) {
-  const auto found = FindOid(this, ViewOf(ext.oid));
+  const auto found = FindOid(this, [&ext](const IdentObj& each) { return each == ext.oid; });
   if (found == end()) {
     push_back(ext);
     return true;

@@ -51,15 +51,15 @@ Status WriteRecord(const CertExtension& extension, IdentObj* record) {
   if (status != Status::kOk) return status;
   const ByteView critical(kCriticalElement,
                           extension.critical != 0 ? std::size(kCriticalElement) : 0);
-  const ByteView value = ViewOf(extension.value);
-  const uint64_t content = ElementSize(oid.size()) + critical.size + ElementSize(value.size);
+  const IdentObj& value = extension.value;
+  const uint64_t content = ElementSize(oid.size()) + critical.size + ElementSize(value.cbData);
   const uint64_t size = ElementSize(content);
   if (size > std::numeric_limits<DWORD>::max()) return Status::kNoMemory;
   record->Allocate(static_cast<DWORD>(size));
   BYTE* out = WriteHeader(record->pbData, kSequenceOctet, content);
   out = WriteBytes(WriteHeader(out, kTagOid, oid.size()), {oid.data(), oid.size()});
   out = WriteBytes(out, critical);
-  WriteBytes(WriteHeader(out, kTagOctetString, value.size), value);
+  WriteBlob(WriteHeader(out, kTagOctetString, value.cbData), value);
   return Status::kOk;
 }
 

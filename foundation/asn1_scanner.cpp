@@ -29,7 +29,8 @@ DWORD ASNTGetStructInfo(ASNT_ASN_STRUCT_INFO& info, const void* data, DWORD size
 
 DWORD ASNTGetIndefiniteLength(const void* data, DWORD size, bool constructed, DWORD* status) {
   size_t length = 0;
-  const Fault fault = MeasureIndefinite(AsBytes(data, size), constructed, &length);
+  Fault fault = MeasureIndefinite(AsBytes(data, size), constructed, &length);
+  if (data == nullptr && size != 0) fault = {Status::kCorrupt, kMeasureFault};
   ReportOrThrow(fault, status);
   return static_cast<DWORD>(length);
 }

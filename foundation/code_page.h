@@ -15,6 +15,10 @@ constexpr UINT kCodePageThreadAnsi = 3;
 constexpr UINT kCodePageUsAscii = 20127;
 constexpr UINT kCodePageUtf8 = 65001;
 
+// Names, their parts and their types are not converted where they have this many characters or
+// more, the terminator counted.
+constexpr size_t kMaxConvertedText = 0x3FFFFFFF;
+
 // Which of a conversion's two calls failed; the thread's last error is the platform's.
 enum class [[nodiscard]] Conversion{kDone, kSizeFailed, kFillFailed};
 

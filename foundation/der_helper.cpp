@@ -35,11 +35,11 @@ void Check(DWORD code, const char* where) {
   if (code != ToCode(Status::kOk)) Throw({static_cast<Status>(code), where});
 }
 
-IdentObj PutPrimitive(Tag tag, ByteView value) {
-  if (value.size > std::numeric_limits<DWORD>::max()) ThrowNoMemory();
+IdentObj PutPrimitive(Tag tag, const void* value, size_t size) {
+  if (size > std::numeric_limits<DWORD>::max()) ThrowNoMemory();
   ASNT_ASN_STRUCT_INFO info = {};
   info.tag = tag;
-  return ASNTPutElement(info, value.data, static_cast<DWORD>(value.size));
+  return ASNTPutElement(info, static_cast<const BYTE*>(value), static_cast<DWORD>(size));
 }
 
 [[noreturn]] void ThrowLastError(const char* where) {
@@ -47,12 +47,14 @@ IdentObj PutPrimitive(Tag tag, ByteView value) {
   throw XZEPStatus(WinErrorToStatus(error), where);
 }
 
-// Shared by both directions of conversion: too long a text is an argument fault of the first call.
+// Longer texts are an argument fault of a conversion's first call.
+constexpr size_t kMaxConverted = static_cast<size_t>(std::numeric_limits<int>::max());
+
 template <typename From, typename To>
 To Convert(std::basic_string_view<From> text, UINT codePage, const char* sizeFault,
            const char* fillFault, Conversion (*convert)(std::basic_string_view<From>, UINT, To*)) {
   To out;
-  if (text.size() > static_cast<size_t>(std::numeric_limits<int>::max())) {
+  if (text.size() > kMaxConverted) {
     Throw({Status::kBadArgument, sizeFault});
   }
   const Conversion done = convert(text, codePage, &out);
@@ -93,22 +95,22 @@ std::string DecodeOid(const IdentObj& oid, bool anyTag) {
 }
 
 IdentObj EncodeOid(const std::string& dotted) {
-  return PutPrimitive(kTagOid, AsBytes(dotted.data(), dotted.size()));
+  return PutPrimitive(kTagOid, dotted.data(), dotted.size());
 }
 
 IdentObj EncodeOctetString(const IdentObj& bytes) {
-  return PutPrimitive(kTagOctetString, ViewOf(bytes));
+  return PutPrimitive(kTagOctetString, bytes.pbData, bytes.cbData);
 }
 
 IdentObj EncodeUtf8String(const std::wstring& text) {
   const std::string bytes = ToString(text, kCodePageUtf8);
-  return PutPrimitive(kTagUtf8String, AsBytes(bytes.data(), bytes.size()));
+  return PutPrimitive(kTagUtf8String, bytes.data(), bytes.size());
 }
 
 IdentObj EncodeIA5String(const std::string& text, size_t maxLength) {
   std::string taken = text.substr(0, maxLength);
   std::transform(taken.begin(), taken.end(), taken.begin(), ToPrintableChar);
-  return PutPrimitive(kTagIA5String, AsBytes(taken.data(), taken.size()));
+  return PutPrimitive(kTagIA5String, taken.data(), taken.size());
 }
 
 IdentObj EncodeIA5String(const std::wstring& text, size_t maxLength) {
@@ -123,7 +125,9 @@ std::wstring DecodeUtf8String(const IdentObj& value, bool anyTag) {
   const Status status = BoundedContent(header, ViewOf(value).end(), &content);
   if (status != Status::kOk) Throw({status, kWhere});
   const std::string_view text = AsText(content);
-  if (IsAscii(text)) return std::wstring(text.begin(), text.end());
+  if (text.size() <= kMaxConverted && IsAscii(text)) {
+    return std::wstring(text.begin(), text.end());
+  }
   return WidenText(text, kCodePageUtf8);
 }
 

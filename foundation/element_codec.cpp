@@ -162,6 +162,10 @@ Status GetPlainValue(Form form, ByteView content, IdentObj* value) {
 }  // namespace
 
 IdentObj ASNTPutElement(const ASNT_ASN_STRUCT_INFO& info, const BYTE* value, DWORD size) {
+  if (value == nullptr && size != 0) {
+    const IdentObj zeros(nullptr, size);
+    return ASNTPutElement(info, zeros.pbData, size);
+  }
   const ByteView plain = AsBytes(value, size);
   switch (WritableForm(info)) {
     case Form::kBoolean:

@@ -6,8 +6,6 @@
 namespace Ortholan {
 namespace {
 
-constexpr const char* kMeasureFault = "ASNTGetIndefiniteLength";
-
 // Reads the number of a high tag, whose groups begin at `*position`.
 Status ReadHighTag(ByteView in, size_t* position, DWORD* tag) {
   uint64_t number = 0;

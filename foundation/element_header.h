@@ -14,6 +14,7 @@ namespace Ortholan {
 constexpr DWORD kIndefiniteLength = 0xFFFFFFFF;
 
 constexpr const char* kHeaderFault = "CASNTBaseRecord::ReadASNInfo";
+constexpr const char* kMeasureFault = "ASNTGetIndefiniteLength";
 
 struct ElementHeader : ASNT_ASN_STRUCT_INFO {
   // Written in the indefinite form, also where `length` was counted.

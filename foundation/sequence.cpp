@@ -28,12 +28,10 @@ IdentObj WrapChildren(const std::list<IdentObj>& children, BYTE identifier) {
   if (size > std::numeric_limits<DWORD>::max()) {
     Throw({Status::kNoMemory, kPutSequence});
   }
-  IdentObj element(nullptr, static_cast<DWORD>(size));
+  IdentObj element;
+  element.Allocate(static_cast<DWORD>(size));
   BYTE* out = WriteHeader(element.pbData, identifier, content);
-  for (const IdentObj& child : children) {
-    WriteBytes(out, ViewOf(child));
-    out += child.cbData;
-  }
+  for (const IdentObj& child : children) out = WriteBlob(out, child);
   return element;
 }
 

@@ -12,6 +12,7 @@
 #include "bytes/ascii.h"
 #include "foundation/message_loader.h"
 #include "foundation/required_text.h"
+#include "foundation/standard_format.h"
 #include "foundation/status_code.h"
 
 namespace Ortholan {
@@ -80,7 +81,9 @@ CZEPString::CZEPString(const char* text) : imp_(nullptr) {
 
 CZEPString::CZEPString(char character) : imp_(nullptr) { Assign(&character, 1); }
 
-CZEPString::CZEPString(const char* text, size_t length) : imp_(nullptr) { Assign(text, length); }
+CZEPString::CZEPString(const char* text, size_t length) : imp_(nullptr) {
+  if (text != nullptr) Assign(text, length);
+}
 
 CZEPString::CZEPString(const CZEPString& other) noexcept : imp_(other.imp_) {
   if (imp_ != nullptr) imp_->AddRef();
@@ -233,6 +236,8 @@ void CZEPString::Append(const char* text, size_t length) {
 void CZEPString::FormatList(const char* format, std::va_list arguments) {
   std::va_list again;
   va_copy(again, arguments);
+  const StandardFormat standard(format);
+  format = standard.text();
   const int length = format != nullptr ? std::vsnprintf(nullptr, 0, format, arguments) : 0;
   CZEPStringImp* fresh = length > 0 ? CZEPStringImp::Create(static_cast<size_t>(length)) : nullptr;
   if (fresh != nullptr) {

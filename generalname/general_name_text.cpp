@@ -11,6 +11,7 @@
 #include "bytes/byte_view.h"
 #include "bytes/utf16.h"
 #include "foundation/blob_view.h"
+#include "foundation/code_page.h"
 
 namespace Ortholan {
 namespace {
@@ -84,7 +85,7 @@ std::wstring IpAddressText(const IdentObj& content) {
 }
 
 std::wstring RegisteredIdText(const IdentObj& content) {
-  return FromAscii(DerHelper::DecodeOid(content, true));
+  return DerHelper::ToWString(DerHelper::DecodeOid(content, true), kCodePageAnsi);
 }
 
 struct TextRow {

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "foundation/code_page.h"
+
 namespace Ortholan {
 
 namespace {
@@ -66,14 +68,13 @@ const AttributeRow* FindAttribute(std::string_view oid) { return kByText.Find(oi
 
 const AttributeRow* FindAttributeByDer(ByteView content) { return kByDer.Find(content); }
 
-static int AttributePriority(std::string_view oid) {
+int AttributePriority(std::string_view oid) {
   const AttributeRow* row = FindAttribute(oid);
   return row != nullptr ? row->rank : kUnrankedAttribute;
 }
 
-int GetAttrPriority(const CZEPString& oid) { return AttributePriority(oid.c_str()); }
-
-int GetAttrPriority(const std::wstring& oid) {
+int AttributePriority(std::wstring_view oid) {
+  if (oid.size() + 1 > kMaxConvertedText) return kUnrankedAttribute;
   // The 8-bit text ends at the first NUL; characters above 0x7F are in no identifier.
   std::string narrow;
   for (const wchar_t c : oid) {
@@ -81,7 +82,13 @@ int GetAttrPriority(const std::wstring& oid) {
     if (static_cast<uint32_t>(c) > 0x7F) return kUnrankedAttribute;
     narrow.push_back(static_cast<char>(c));
   }
-  return AttributePriority(narrow);
+  return AttributePriority(std::string_view(narrow));
 }
+
+int GetAttrPriority(const CZEPString& oid) {
+  return AttributePriority(std::string_view(oid.c_str(), static_cast<size_t>(oid.GetLength())));
+}
+
+int GetAttrPriority(const std::wstring& oid) { return AttributePriority(std::wstring_view(oid)); }
 
 }  // namespace Ortholan

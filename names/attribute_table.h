@@ -92,6 +92,11 @@ const AttributeRow* FindAttribute(std::string_view oid);
 // The same by the content octets of the identifier.
 const AttributeRow* FindAttributeByDer(ByteView content);
 
+// What GetAttrPriority answers: the row's rank, kUnrankedAttribute where there is none. Of wide
+// text with a NUL, what stands in front of it counts.
+int AttributePriority(std::string_view oid);
+int AttributePriority(std::wstring_view oid);
+
 }  // namespace Ortholan
 
 #endif  // ORTHOLAN_NAMES_ATTRIBUTE_TABLE_H_

@@ -41,8 +41,8 @@
 #endif
 
 // Defined where programs leave the library's instantiations of templates to the library. Those of a
-// DLL do not: g++ exports no member that is defined in its class, and without optimisation a
-// program would ask for it; Visual C++ exports the bases of an exported class by itself.
+// DLL that g++ builds have their own beside the exported one, so that they run with a DLL that does
+// not export every member; Visual C++ exports the bases of an exported class by itself.
 #if defined(__GNUC__) && \
     (!defined(_WIN32) || defined(ORTHOLAN_STATIC) || defined(ORTHOLAN_BUILDING))
 #define ORTHOLAN_EXTERN_TEMPLATES

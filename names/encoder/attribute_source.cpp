@@ -16,6 +16,14 @@ std::string_view WithoutTrailingNuls(std::string_view text) {
   return text.substr(0, text.find_last_not_of('\0') + 1);
 }
 
+// What the value holds: zeros where it has a size and no pointer.
+ByteView OctetsOf(const CRYPT_DATA_BLOB& value, Arena* arena) {
+  if (value.pbData != nullptr || value.cbData == 0) return ViewOf(value);
+  BYTE* const zeros = arena->Take<BYTE>(value.cbData);
+  WriteBlob(zeros, value);
+  return {zeros, value.cbData};
+}
+
 Characters ReadPadded(ByteView bytes, Arena* arena) {
   const LittleEndianSource units{bytes.data};
   size_t count = bytes.size / 2;
@@ -30,12 +38,12 @@ Characters ReadPadded(ByteView bytes, Arena* arena) {
 }  // namespace
 
 AttributeView::AttributeView(const RDNAttr& attr)
-    : oid(attr.oid.c_str()), value_type(attr.valueType), value(ViewOf(attr.value)) {}
+    : oid(attr.oid.c_str()), value_type(attr.valueType), value(attr.value) {}
 
 AttributeView::AttributeView(const CERT_RDN_ATTR& attr)
     : oid(attr.pszObjId != nullptr ? attr.pszObjId : ""),
       value_type(attr.dwValueType),
-      value(ViewOf(attr.Value)) {}
+      value(attr.Value) {}
 
 bool WidenCharacters(std::string_view text, UINT codePage, Arena* arena, Characters* characters) {
   if (IsAscii(text)) {
@@ -52,14 +60,15 @@ bool WidenCharacters(std::string_view text, UINT codePage, Arena* arena, Charact
 
 bool ConvToX500NameElem(const AttributeView& attr, Arena* arena, Characters* value) {
   *value = std::string_view();
-  if (attr.value.empty()) return true;
-  const std::string_view text = AsText(attr.value);
+  const ByteView octets = OctetsOf(attr.value, arena);
+  if (octets.empty()) return true;
+  const std::string_view text = AsText(octets);
   switch (attr.value_type) {
     case CERT_RDN_PRINTABLE_STRING:
     case CERT_RDN_IA5_STRING:
       return WidenCharacters(WithoutTrailingNuls(text), kCodePageThreadAnsi, arena, value);
     case CERT_RDN_BMP_STRING:
-      *value = ReadPadded(attr.value, arena);
+      *value = ReadPadded(octets, arena);
       return true;
     case CERT_RDN_UTF8_STRING:
       return WidenCharacters(text, kCodePageUtf8, arena, value);

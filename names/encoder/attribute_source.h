@@ -18,7 +18,7 @@ namespace Ortholan {
 struct AttributeView {
   std::string_view oid;
   DWORD value_type = 0;  // CERT_RDN_*
-  ByteView value;
+  CRYPT_DATA_BLOB value;
 
   explicit AttributeView(const RDNAttr& attr);
   explicit AttributeView(const CERT_RDN_ATTR& attr);

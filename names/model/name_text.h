@@ -9,13 +9,12 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/code_page.h"
+
 namespace Ortholan {
 
 // What an operation without a type of its own leaves in the last error before it throws.
 constexpr DWORD kNameFailure = ERROR_INTERNAL_DB_CORRUPTION;
-
-// Texts of this many characters, the terminator counted, are not converted.
-constexpr size_t kMaxConvertedText = 0x3FFFFFFF;
 
 // The 8-bit text of `wide` up to its first NUL; "" where it is too long or cannot be converted.
 std::string ToThreadText(std::wstring_view wide);

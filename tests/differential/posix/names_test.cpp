@@ -171,6 +171,8 @@ constexpr Crafted kCrafted[] = {
     {"SEQUENCE of strings", "30 13 31 11 30 0F 06 03 55 04 10 30 08 0C 01 61 0C 00 13 01 62"},
     {"SEQUENCE of a number and a SEQUENCE",
      "30 15 31 13 30 11 06 03 55 04 10 30 0A 02 01 05 30 05 13 00 1E 01 00"},
+    {"SEQUENCE of an identifier and an empty BOOLEAN, to terminators",
+     "30 80 31 80 30 80 06 01 6B 30 80 06 01 30 01 00 00 00 00 00 00 00 00 00"},
 };
 
 const Rule<Attribute> kTypesDiffer[] = {

@@ -70,31 +70,6 @@ ValueText TextOfString(const ASN1_STRING* value) {
   return {ValueText::kText, {text}};
 }
 
-ValueText TextOfElement(const ASN1_TYPE* element, const std::string& encoding) {
-  const int type = ASN1_TYPE_get(element);
-  const bool isString = IsEightBitString(type) || type == V_ASN1_UTF8STRING ||
-                        type == V_ASN1_BMPSTRING || type == V_ASN1_SEQUENCE;
-  if (isString) return TextOf(element->value.asn1_string);
-  const std::string hex = Hex(encoding);
-  return {ValueText::kText, {std::wstring(hex.begin(), hex.end())}};
-}
-
-ValueText TextOfSequence(const std::string& encoding) {
-  ValueText text;
-  std::string rest = encoding.substr(ReadHeader(encoding).size);
-  while (!rest.empty()) {
-    const Read<ASN1_TYPE> child = ReadElement(rest);
-    if (child.value == nullptr) return {ValueText::kOther, {}};
-    ValueText line = TextOfElement(child.value.get(), rest.substr(0, child.size));
-    if (line.kind != ValueText::kText) return line;
-    std::wstring joined;
-    for (const std::wstring& part : line.lines) joined += (joined.empty() ? L"" : L"\n") + part;
-    if (!joined.empty()) text.lines.push_back(joined);
-    rest.erase(0, child.size);
-  }
-  return text;
-}
-
 // Adds the element at the front of `octets` and what is in it; its size, 0 where it has no end.
 size_t AddParts(const std::string& octets, int place, int depth, std::vector<Part>* parts) {
   // With an octet behind it, which the header of an empty element need not have.
@@ -119,6 +94,43 @@ size_t AddParts(const std::string& octets, int place, int depth, std::vector<Par
     position += size;
   }
   return header.indefinite ? 0 : header.size + end;
+}
+
+bool IsShownAsText(int tag) {
+  return IsEightBitString(tag) || tag == V_ASN1_UTF8STRING || tag == V_ASN1_BMPSTRING ||
+         tag == V_ASN1_SEQUENCE;
+}
+
+// What OpenSSL does not read is shown by its octets, as what is no string.
+ValueText TextOfElement(const std::string& encoding) {
+  const Read<ASN1_TYPE> element = ReadElement(encoding);
+  const int tag =
+      element.value != nullptr ? ASN1_TYPE_get(element.value.get()) : encoding[0] & 0x1F;
+  if (!IsShownAsText(tag)) {
+    const std::string hex = Hex(encoding);
+    return {ValueText::kText, {std::wstring(hex.begin(), hex.end())}};
+  }
+  if (element.value == nullptr) return {ValueText::kOther, {}};
+  return TextOf(element.value->value.asn1_string);
+}
+
+ValueText TextOfSequence(const std::string& encoding) {
+  const Header header = ReadHeader(encoding);
+  const size_t terminator = header.indefinite ? 2 : 0;
+  std::string rest = encoding.substr(header.size, encoding.size() - header.size - terminator);
+  ValueText text;
+  while (!rest.empty()) {
+    std::vector<Part> parts;
+    const size_t size = AddParts(rest, Part::kTypeOrValue, 0, &parts);
+    if (size == 0) return {ValueText::kOther, {}};
+    ValueText line = TextOfElement(rest.substr(0, size));
+    if (line.kind != ValueText::kText) return line;
+    std::wstring joined;
+    for (const std::wstring& part : line.lines) joined += (joined.empty() ? L"" : L"\n") + part;
+    if (!joined.empty()) text.lines.push_back(joined);
+    rest.erase(0, size);
+  }
+  return text;
 }
 
 }  // namespace
@@ -181,9 +193,7 @@ bool FromUtf8(const std::string& octets, std::wstring* text) {
 ValueText TextOf(const ASN1_STRING* value) {
   const int type = ASN1_STRING_type(value);
   if (type == V_ASN1_SEQUENCE) return TextOfSequence(Content(value));
-  const bool isString =
-      IsEightBitString(type) || type == V_ASN1_UTF8STRING || type == V_ASN1_BMPSTRING;
-  return isString ? TextOfString(value) : ValueText{ValueText::kOther, {}};
+  return IsShownAsText(type) ? TextOfString(value) : ValueText{ValueText::kOther, {}};
 }
 
 std::vector<Attribute> Attributes(const ::X509_NAME* name) {
