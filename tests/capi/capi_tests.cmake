@@ -1,18 +1,7 @@
-# The C interface as its users see it: from C and from Python. Its page is tested with the others.
-file(GLOB sources CONFIGURE_DEPENDS capi/*.c)
-add_executable(capi_tests ${sources})
-set_target_properties(capi_tests PROPERTIES
-  C_STANDARD 99 C_STANDARD_REQUIRED ON C_EXTENSIONS OFF)
-# A C program needs no C++ runtime of its own; the sanitizers' comes with the C++ driver.
-if(ORTHOLAN_SANITIZED)
-  set_target_properties(capi_tests PROPERTIES LINKER_LANGUAGE CXX)
-endif()
-target_link_libraries(capi_tests PRIVATE Ortholan::ortholan)
-target_include_directories(capi_tests PRIVATE
-  "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/include")
-ortholan_warnings(capi_tests)
-add_test(NAME capi_tests COMMAND capi_tests)
-ortholan_test_properties(capi_tests)
+# The C interface as its users see it, by the rows that the other interfaces are asked too, and from
+# Python. Its page is tested with the others, and its programs in C.
+ortholan_test_sources(sources capi)
+ortholan_test(capi_tests SHARED ${sources} support/vectors.cpp)
 
 # A sanitized library does not load into a program that was built without.
 if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
