@@ -84,6 +84,7 @@ typedef struct ortholan_permit_options {
   uint64_t budget;
 } ortholan_permit_options;
 
+// Comparisons that are allowed where no budget is chosen.
 #define ORTHOLAN_DEFAULT_BUDGET UINT64_C(16777216)
 
 // Holds the names of each certificate of a chain against the constraints of those above it.
