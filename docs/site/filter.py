@@ -31,7 +31,7 @@ def escape(text):
     """Text in which Doxygen sees no commands; code between backquotes stays."""
     parts = text.split("`")
     for i in range(0, len(parts), 2):
-        parts[i] = re.sub(r"([\\@#*|])", r"\\\1", parts[i])
+        parts[i] = re.sub(r"([\\@#*|]|\b_|_\b)", r"\\\1", parts[i])
         parts[i] = parts[i].replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;")
     return "`".join(parts)
 
