@@ -17,7 +17,7 @@ help:
 	@echo '                  docs/performance.md)'
 	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
 	@echo '                  make bench-baseline records anew'
-	@echo 'make docs         the site: pages and public declarations, into build/native/docs/html'
+	@echo 'make docs         the site: pages and public declarations, into build/release/docs/html'
 	@echo 'make abi          record the symbols that both libraries export in abi/'
 	@echo 'make format       format the sources'
 	@echo 'make deb          Debian packages into build/package/packages, unpacked and used'
@@ -63,8 +63,8 @@ bench-check bench-baseline:
 
 docs:
 	@scripts/setup.sh docs
-	cmake --preset native
-	cmake --build --preset native --target docs
+	cmake --preset release
+	cmake --build --preset release --target docs
 
 abi:
 	@scripts/setup.sh test

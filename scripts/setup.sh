@@ -24,7 +24,10 @@ case ${1-} in
     packages=("${native[@]}" "${windows[@]}" libbenchmark-dev libssl-dev libgnutls28-dev
       libbotan-2-dev libmbedtls-dev)
     ;;
-  docs) packages=("${native[@]}" doxygen graphviz python3) ;;
+  docs)
+    packages=("${demo[@]}" doxygen furo mandoc python3 python3-breathe python3-myst-parser
+      python3-sphinx python3-sphinx-copybutton)
+    ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   *)

@@ -49,6 +49,7 @@ class Octets {
   size_t size_ = 0;
 };
 
+// The text as the C functions take it.
 inline ortholan_text ToText(std::string_view text) { return {text.data(), text.size()}; }
 
 // How closely an encoding is read; verdicts never take kLenient.

@@ -66,12 +66,12 @@ enum {
 
 // One reason why a chain is not permitted, or why that cannot be told.
 typedef struct ortholan_finding {
-  ortholan_reason reason;
+  ortholan_reason reason;    // what is wrong with the name
   ortholan_verdict verdict;  // ORTHOLAN_VERDICT_NO or ORTHOLAN_VERDICT_CANNOT_TELL
   size_t certificate;        // index of the certificate whose name it is, 0 for the leaf
   size_t authority;          // index of the certificate whose constraints decide
   int32_t place;             // an ORTHOLAN_NAME_ word
-  ortholan_octets name;
+  ortholan_octets name;      // the GeneralName, or the subject's Name
   ortholan_octets
       subtree;           // GeneralName that is the base of the subtree; of the first permitted one
                          // where none of several holds the name; no octets where none decides
@@ -84,6 +84,7 @@ typedef struct ortholan_permit_options {
   uint64_t budget;
 } ortholan_permit_options;
 
+// Comparisons that are allowed where no budget is chosen.
 #define ORTHOLAN_DEFAULT_BUDGET UINT64_C(16777216)
 
 // Holds the names of each certificate of a chain against the constraints of those above it.

@@ -164,12 +164,14 @@ typedef struct ortholan_edi_party {
 ORTHOLAN_EXPORT ortholan_reason ortholan_mailbox_read(ortholan_text text, int32_t has_utf8,
                                                       ortholan_mailbox* mailbox,
                                                       ortholan_refusal* refusal);
+// Takes the text of a URI apart.
 ORTHOLAN_EXPORT ortholan_reason ortholan_uri_read(ortholan_text text, ortholan_uri* uri,
                                                   ortholan_refusal* refusal);
 // Reads an other name. A value that is not what its type prescribes is refused.
 ORTHOLAN_EXPORT ortholan_reason ortholan_other_name_read(const ortholan_general_name_view* name,
                                                          ortholan_other_name* other,
                                                          ortholan_refusal* refusal);
+// Reads an EDIPartyName.
 ORTHOLAN_EXPORT ortholan_reason ortholan_edi_party_read(const ortholan_general_name_view* name,
                                                         ortholan_edi_party* party,
                                                         ortholan_refusal* refusal);

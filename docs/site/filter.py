@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Hands a public header or a Markdown page to Doxygen: filter.py FILE.
+"""Hands a public header to Doxygen: filter.py FILE.
 
 Doxygen does not notice a filter that fails: filter.py --check FILE... tells beforehand.
 
@@ -12,11 +12,7 @@ what Doxygen takes for documentation:
 - Lines set in by three blanks or more explain parameters ("name  text"), or are kept as they stand.
 - A comment behind a field or an enumerator describes it.
 - Copying, moving and releasing need no words where they do what their names say.
-
-Pages keep their text; their headings and links get the names of the site, and links to files that
-are no pages become code, for the site does not have them.
 """
-import os
 import re
 import sys
 
@@ -35,7 +31,7 @@ def escape(text):
     """Text in which Doxygen sees no commands; code between backquotes stays."""
     parts = text.split("`")
     for i in range(0, len(parts), 2):
-        parts[i] = re.sub(r"([\\@#*|])", r"\\\1", parts[i])
+        parts[i] = re.sub(r"([\\@#*|]|\b_|_\b)", r"\\\1", parts[i])
         parts[i] = parts[i].replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;")
     return "`".join(parts)
 
@@ -102,6 +98,16 @@ def family(name):
     return re.sub(r"_n$", "", re.sub(r"^Try", "", name))
 
 
+# Members that are known by their names from the standard library.
+KNOWN = {
+    "A container's.": {"data", "size", "empty", "begin", "end", "operator[]"},
+    "As std::optional has it.": {"has_value", "value", "operator->", "operator*"},
+    "As std::exception has it.": {"what"},
+    "Why there is no value.": {"refusal"},
+    "Whether both hold the same.": {"operator==", "operator!="},
+}
+
+
 def special(text, name, scope):
     """Words for the member functions that every class has."""
     argument = re.search(r"\((.*)\)", text)
@@ -117,7 +123,13 @@ def special(text, name, scope):
         return "Takes over what the other one holds." if own[2] == "&&" else "A copy."
     if own and name == "operator=":
         return "Takes over what the other one holds." if own[2] == "&&" else "Becomes a copy."
-    return ""
+    if scope and name == scope:
+        return "Made of what it is given."
+    if scope and name == "operatorbool":
+        return "As std::optional has it."
+    if scope and re.match(r"operator\w{5,}$", name):
+        return "As the type that it is named for."
+    return next((words for words, names in KNOWN.items() if scope and name in names), "")
 
 
 class Header:
@@ -172,6 +184,10 @@ class Header:
         indent = re.match(r"\s*", line)[0]
         if re.match(r"#ifdef __cplusplus", line) and self.group:
             self.close_group()
+        if re.match(r"\s*template <", line) and SCOPE.match(self.lines[i + 1]):
+            self.put(indent, render(comment))
+            self.out.append(line)
+            return self.code(i + 1, [])
         if line.endswith("\\") or line.startswith("#define") or SCOPE.match(line):
             self.put(indent, render(comment))
             while line.endswith("\\"):
@@ -179,12 +195,12 @@ class Header:
                 i += 1
                 line = self.lines[i]
             if SCOPE.match(line):
-                kind = re.match(r"^\s*(?:typedef )?(\w+)(?: ORTHOLAN_EXPORT)?\s*(\w*)", line)
+                kind = re.match(r"^\s*(?:typedef )?(\w+)(?: ORTHOLAN_EXPORT| \[\[\w+\]\])?\s*(\w*)", line)
                 self.scopes.append((kind[1], kind[2]))
                 self.previous = ([], "")
             self.out.append(line)
             return i + 1
-        if not line.strip() or line.startswith("#") or re.match(r"^\s*(\}|public:|private:|protected:)",
+        if not line.strip() or line.startswith(("#", "ORTHOLAN_CLASSES_")) or re.match(r"^\s*(\}|public:|private:|protected:)",
                                                                 line):
             self.put(indent, render(comment))
             if line.strip().startswith("}") and self.scopes:
@@ -201,6 +217,11 @@ class Header:
         while True:
             text = re.sub(r"\s*//.*$", "", self.lines[i])
             last = scope[0] == "enum" and self.lines[i + 1].strip().startswith("}")
+            if text.endswith("{") and scope[0] != "enum":
+                # A body of several lines ends where its brace stands as far in as the declaration.
+                while not self.lines[i].startswith(indent + "}"):
+                    i += 1
+                break
             if text.endswith(ends) or last or text.endswith("}"):
                 break
             i += 1
@@ -235,70 +256,9 @@ class Header:
         return i
 
 
-def slug(heading):
-    """The anchor that web hosts give a heading."""
-    return re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", "-")
-
-
-def identifier(path, anchor=""):
-    """The site's name for a page, or for a heading in it."""
-    stem = os.path.splitext(os.path.basename(path))[0].lower()
-    return f"{stem}--{anchor}" if anchor else stem
-
-
-def prose(text):
-    """Lines with whether they stand outside of code blocks."""
-    fenced = False
-    for line in text.splitlines():
-        fence = line.startswith("```")
-        yield line, not fenced and not fence
-        fenced ^= fence
-
-
-def anchors(path):
-    with open(path, encoding="utf-8") as file:
-        return {slug(line.lstrip("# ")) for line, outside in prose(file.read())
-                if outside and line.startswith("#")}
-
-
-def page(text, path):
-    """A page whose headings and links have the site's names; a link that leads nowhere is an error."""
-    directory = os.path.dirname(path)
-
-    def link(match):
-        words, target = match[1], match[2]
-        if target.startswith(("http:", "https:")):
-            return match[0]
-        name, _, anchor = target.partition("#")
-        file = os.path.join(directory, name) if name else path
-        if not os.path.exists(file) or (anchor and anchor not in anchors(file)):
-            raise SystemExit(f"{path}: no such place: {target}")
-        if file.endswith(".md"):
-            return f"[{words}](@ref {identifier(file, anchor)})"
-        return words if "`" in words else f"`{words}`"
-
-    out = []
-    for line, outside in prose(text):
-        heading = re.match(r"(#+) (.*)", line) if outside else None
-        if heading and heading[1] == "#":
-            # The main page has its name already.
-            if not path.endswith("README.md"):
-                line += f" {{#{identifier(path)}}}"
-        elif heading:
-            line += f" {{#{identifier(path, slug(heading[2]))}}}"
-        elif outside:
-            # To Doxygen a single quote ends what a single backquote began.
-            line = re.sub(r"(?<!`)`([^`]*'[^`]*)`(?!`)", r"`` \1 ``", line)
-            line = re.sub(r"\[([^\]\n]*)\]\(([^)\s]+)\)", link, line)
-        out.append(line)
-    return "\n".join(out) + "\n"
-
-
 def convert(path):
     with open(path, encoding="utf-8") as file:
         text = file.read()
-    if path.endswith(".md"):
-        return page(text, path)
     return "\n".join(Header(text.splitlines()).run()) + "\n"
 
 
