@@ -18,6 +18,11 @@ static void TestLastErrorStays(void) {
   EXPECT_RESULT("empty text", ORTHOLAN_ERROR_NAME_TEXT, ortholan_name_from_text("", 0, 0, &name));
   EXPECT("empty text", ortholan_last_status() == 28);
   EXPECT("empty text", ortholan_last_system_error() == 160);
+  EXPECT_TEXT(
+      "empty text",
+      "ortholan_name_from_text: end of the text at character 1: expected a type such as CN, "
+      "\"=\" and a value",
+      ortholan_last_error_message());
   EXPECT_RESULT("after it", ORTHOLAN_OK, ortholan_name_new(&name));
   EXPECT("after it", ortholan_last_error() == ORTHOLAN_ERROR_NAME_TEXT);
   EXPECT("after it", strstr(ortholan_last_error_message(), "ortholan_name_from_text") != NULL);
@@ -25,6 +30,15 @@ static void TestLastErrorStays(void) {
   EXPECT("then", ortholan_last_status() == 0);
   EXPECT("then", ortholan_last_system_error() == 0);
   ortholan_name_free(name);
+}
+
+static void TestMessageOfText(void) {
+  static const char text[] = "CN=\xD0\x96, C=\xD0\x96";
+  ortholan_name* name = NULL;
+  EXPECT_RESULT("letters", ORTHOLAN_ERROR_NAME_TEXT,
+                ortholan_name_from_text_n(text, sizeof(text) - 1, 0, 0, &name));
+  EXPECT("letters", strstr(ortholan_last_error_message(),
+                           ": \"\xD0\x96\" at character 9: expected letters") != NULL);
 }
 
 static void TestNothingToFree(void) {
@@ -223,6 +237,7 @@ void TestErrors(void) {
   ortholan_extensions* list = NULL;
   TestFreshThread();
   TestLastErrorStays();
+  TestMessageOfText();
   TestNothingToFree();
   EXPECT_RESULT("good", ORTHOLAN_OK, ortholan_name_new(&name));
   EXPECT_RESULT("good", ORTHOLAN_OK, ortholan_extensions_new(&list));
