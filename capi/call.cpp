@@ -11,7 +11,8 @@
 namespace Ortholan::capi {
 namespace {
 
-constexpr size_t kMessageSize = 256;
+constexpr size_t kDetailSize = 448;
+constexpr size_t kMessageSize = kDetailSize + 64;  // and a function's name
 
 // Trivial, so that a thread's end has nothing to release and the report of a lack of memory needs
 // none.
@@ -23,6 +24,7 @@ struct LastFailure {
 };
 
 thread_local LastFailure last_failure = {};
+thread_local char kept_detail[kDetailSize];
 
 struct TextRow {
   ortholan_result result;
@@ -92,6 +94,14 @@ Outcome RefusedByLastError(ortholan_result result, Status status, const char* de
   if (error == ERROR_SUCCESS) return Refused(result, status, detail);
   if (error == ERROR_NOT_ENOUGH_MEMORY) return NoMemory();
   return {result, StatusOf(error), error, detail};
+}
+
+const char* KeptDetail(std::string_view detail) {
+  size_t size = std::min(detail.size(), kDetailSize - 1);
+  const auto continues = [detail](size_t at) { return (detail[at] & 0xC0) == 0x80; };
+  while (size != 0 && size < detail.size() && continues(size)) --size;
+  *std::copy_n(detail.data(), size, kept_detail) = '\0';
+  return kept_detail;
 }
 
 Outcome FromException() {

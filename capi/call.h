@@ -6,11 +6,14 @@
 #include <ortholan/ortholan_c.h>
 #include <ortholan/platform.h>
 
+#include <string_view>
+
 #include "foundation/status_code.h"
 
 namespace Ortholan::capi {
 
-// How a body ended. `detail` is a static text that says more than the result's own, or null.
+// How a body ended. `detail` is a text that says more than the result's own, or null: static, or
+// what KeptDetail gave.
 struct [[nodiscard]] Outcome {
   ortholan_result result = ORTHOLAN_OK;
   DWORD status = 0;
@@ -28,6 +31,9 @@ Outcome Refused(ortholan_result result, Status status, const char* detail = null
 // A refusal that left its cause in the thread's last error; `status` where it left none. Out of
 // memory is told apart.
 Outcome RefusedByLastError(ortholan_result result, Status status, const char* detail = nullptr);
+// A copy of `detail` that stays until the next one in this thread, cut between characters where it
+// is too long.
+const char* KeptDetail(std::string_view detail);
 // The exception in flight.
 Outcome FromException();
 

@@ -1,4 +1,8 @@
 // Whole names: made, compared, and turned into text and octets.
+#include <ortholan/name_text_error.h>
+
+#include <string>
+
 #include "bytes/ascii.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
@@ -31,6 +35,21 @@ constexpr BYTE kNoRdns[] = {kSequenceOctet, 0};
 
 void GiveName(IdentObj&& der, ortholan_name** name) { *name = new ortholan_name{std::move(der)}; }
 
+// A refused text with its reason; the last error, which the description does not keep, is the cause
+// all the same.
+Outcome RefusedText(std::string_view text, uint32_t options) {
+  Outcome refused = RefusedByLastError(ORTHOLAN_ERROR_NAME_TEXT, Status::kNotEncodable);
+  std::wstring wide;
+  if (refused.result != ORTHOLAN_ERROR_NAME_TEXT || !ReadUtf8(text, &wide)) return refused;
+  const NameTextError error = DescribeNameTextError(wide, options);
+  std::string message;
+  if (error.fault != NameTextFault::kNone &&
+      Narrow(error.message, kCodePageUtf8, &message) == Conversion::kDone) {
+    refused.detail = KeptDetail(message);
+  }
+  return refused;
+}
+
 Outcome FromText(std::string_view text, uint32_t options, bool sort, ortholan_name** name) {
   const AttributeRow* fresh = nullptr;
   IdentObj der;
@@ -43,7 +62,7 @@ Outcome FromText(std::string_view text, uint32_t options, bool sort, ortholan_na
     if (!read) return read;
     encoded = EncodeNameText(wide, options, sort, &fresh, &der);
   }
-  if (!encoded) return RefusedByLastError(ORTHOLAN_ERROR_NAME_TEXT, Status::kNotEncodable);
+  if (!encoded) return RefusedText(text, options);
   GiveName(std::move(der), name);
   return Done();
 }

@@ -10,8 +10,10 @@
 #include "capi/text.h"
 #include "foundation/blob_view.h"
 #include "foundation/code_page.h"
+#include "foundation/oid_text.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/encoder/name_assembler.h"
+#include "strict/names/attribute_types.h"
 
 namespace Ortholan::capi {
 namespace {
@@ -59,6 +61,18 @@ Outcome Join(const Parts& parts, ByteView rdn, X509Name* name) {
   return Done();
 }
 
+// The string type that a standard prescribes for a type that name texts are not written with:
+// IA5String for DC (RFC 4519 2.4), PrintableString for dnQualifier (X.520 6.2.7) and the like.
+ValueRule PrescribedRule(std::string_view dotted) {
+  SmallBuffer<BYTE, kMaxOidContent> oid;
+  if (ParseOid(dotted, &oid) != Status::kOk) return ValueRule::kFreeText;
+  const strict::AttributeType* const type = strict::FindType({oid.data(), oid.size()});
+  if (type == nullptr) return ValueRule::kFreeText;
+  if (type->syntax == strict::ValueSyntax::kIA5) return ValueRule::kIA5;
+  return type->syntax == strict::ValueSyntax::kPrintable ? ValueRule::kPrintable
+                                                         : ValueRule::kFreeText;
+}
+
 // A name of one RDN.
 Outcome EncodeOne(const AttributeType& type, std::string_view value, uint32_t options,
                   IdentObj* der) {
@@ -73,7 +87,7 @@ Outcome EncodeOne(const AttributeType& type, std::string_view value, uint32_t op
     characters = Characters(std::wstring_view(wide));
   }
   NameAssembler assembler(options);
-  if (assembler.EncodeElem(type.dotted(), characters)) {
+  if (assembler.EncodeElem(type.dotted(), characters, PrescribedRule(type.dotted()))) {
     assembler.EndRdn();
     if (assembler.Write(der)) return Done();
   }

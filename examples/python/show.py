@@ -5,18 +5,30 @@
     show.py 'CN=Alpha, O=Org, C=RU'
 """
 
+import base64
 import ipaddress
 import os
-import ssl
+import re
 import sys
 
 import ortholan
 
 SUBJECT_ALT_NAME = "2.5.29.17"
+BLOCK = re.compile(rb"-----BEGIN ([^-]*CERTIFICATE)-----(.*?)-----END \1-----", re.DOTALL)
+
+
+def visible(text):
+    """For a person's eyes: what cannot be printed is escaped, so that nobody forges a line."""
+    return "".join(
+        each if each.isprintable() and each != "\\" else each.encode("unicode_escape").decode()
+        for each in text
+    )
 
 
 def element(der, start):
     """The element at `start`: identifier octet, where its content starts, where it ends."""
+    if start + 2 > len(der) or der[start] & 0x1F == 0x1F or der[start + 1] == 0x80:
+        raise ValueError("no DER of a certificate")
     size = der[start + 1]
     content = start + 2
     if size & 0x80:
@@ -30,73 +42,112 @@ def element(der, start):
 def children(der):
     """The elements inside an element, whole."""
     _, position, end = element(der, 0)
+    found = []
     while position < end:
         _, _, next_position = element(der, position)
-        yield der[position:next_position]
+        found.append(der[position:next_position])
         position = next_position
+    return found
+
+
+def certificates(octets):
+    """All certificates of a file, one after the other: PEM blocks, or DER."""
+    if b"-----BEGIN" in octets:
+        for block in BLOCK.finditer(octets):
+            yield base64.b64decode(block.group(2))
+        return
+    while octets:
+        _, _, end = element(octets, 0)
+        yield octets[:end]
+        octets = octets[end:]
 
 
 def subject_and_extensions(certificate):
     """RFC 5280 4.1: the fields of the part that is signed."""
-    fields = list(children(next(children(certificate))))
-    if fields[0][0] == 0xA0:  # version
+    parts = children(certificate)
+    fields = children(parts[0]) if parts else []
+    if fields and fields[0][0] == 0xA0:  # version
         fields.pop(0)
-    subject = ortholan.Name.from_der(fields[4])
-    wrapped = [next(children(field)) for field in fields[6:] if field[0] == 0xA3]
+    if len(fields) < 6:
+        raise ValueError("no certificate")
+    wrapped = [children(field)[0] for field in fields[6:] if field[0] == 0xA3]
     extensions = ortholan.Extensions.from_der(wrapped[0]) if wrapped else ortholan.Extensions()
-    return subject, extensions
+    return ortholan.Name.from_der(fields[4]), extensions
 
 
 def alternative(name):
-    """What a general name says, by its content."""
-    if name.kind == ortholan.Kind.IP_ADDRESS:
-        return str(ipaddress.ip_address(name.value))
-    if name.kind == ortholan.Kind.DIRECTORY_NAME:
-        return str(ortholan.Name.from_der(name.value))
-    if name.kind in (
-        ortholan.Kind.RFC822_NAME,
-        ortholan.Kind.DNS_NAME,
-        ortholan.Kind.URI,
-        ortholan.Kind.REGISTERED_ID,
-    ):
-        return str(name)
+    """What a general name says, by its content; octets where it is not of its kind's form."""
+    try:
+        if name.kind == ortholan.Kind.IP_ADDRESS:
+            return str(ipaddress.ip_address(name.value))
+        if name.kind == ortholan.Kind.DIRECTORY_NAME:
+            return str(ortholan.Name.from_der(name.value))
+        if name.kind in (
+            ortholan.Kind.RFC822_NAME,
+            ortholan.Kind.DNS_NAME,
+            ortholan.Kind.URI,
+            ortholan.Kind.REGISTERED_ID,
+        ):
+            return str(name)
+    except (ortholan.OrtholanError, ValueError):
+        pass
     return name.value.hex()
 
 
 def show_name(name):
-    print("subject:", name)
+    print("subject:", visible(str(name)))
     for attribute in name:
-        print("  %s (%s): %s" % (attribute.key, attribute.type, attribute.value))
+        print("  %s (%s): %s" % (attribute.key, attribute.type, visible(attribute.value)))
 
 
-def show_certificate(path):
-    with open(path, "rb") as file:
-        octets = file.read()
-    if b"-----BEGIN" in octets:
-        octets = ssl.PEM_cert_to_DER_cert(octets.decode("ascii"))
-    subject, extensions = subject_and_extensions(octets)
+def show_certificate(certificate):
+    subject, extensions = subject_and_extensions(certificate)
     show_name(subject)
     for extension in extensions:
         print("extension %s%s" % (extension.oid, ", critical" if extension.critical else ""))
         if extension.oid == SUBJECT_ALT_NAME:
             for name in ortholan.general_names(extension.value):
-                print("  %s: %s" % (name.kind.name, alternative(name)))
+                # Not each kind's number has a name.
+                kind = getattr(name.kind, "name", "[%d]" % name.kind)
+                print("  %s: %s" % (kind, visible(alternative(name))))
+
+
+def show_file(path):
+    """Whether all certificates could be shown: one that cannot does not hide the others."""
+    with open(path, "rb") as file:
+        octets = file.read()
+    sound = True
+    number = 0
+    try:
+        for number, certificate in enumerate(certificates(octets), 1):
+            try:
+                show_certificate(certificate)
+            except (ortholan.OrtholanError, ValueError, IndexError) as error:
+                print("%s: certificate %d: %s" % (path, number, error), file=sys.stderr)
+                sound = False
+    except ValueError as error:
+        print("%s: after certificate %d: %s" % (path, number, error), file=sys.stderr)
+        sound = False
+    if number == 0 and sound:
+        raise ValueError("no certificate")
+    return sound
 
 
 def main(arguments):
     if not arguments:
         print(__doc__.strip(), file=sys.stderr)
         return 2
+    status = 0
     for argument in arguments:
         try:
-            if os.path.exists(argument):
-                show_certificate(argument)
-            else:
+            if not os.path.exists(argument):
                 show_name(ortholan.Name(argument))
-        except (ortholan.OrtholanError, OSError, ValueError, IndexError) as error:
+            elif not show_file(argument):
+                status = 1
+        except (ortholan.OrtholanError, OSError, ValueError) as error:
             print("%s: %s" % (argument, error), file=sys.stderr)
-            return 1
-    return 0
+            status = 1
+    return status
 
 
 if __name__ == "__main__":

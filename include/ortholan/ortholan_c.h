@@ -89,8 +89,9 @@ ORTHOLAN_C_API ortholan_result ortholan_last_error(void);
 ORTHOLAN_C_API uint32_t ortholan_last_status(void);
 // The last-error code of the system (on Linux: of what stands for it), 0 where none was set.
 ORTHOLAN_C_API uint32_t ortholan_last_system_error(void);
-// One English sentence with the function's name. It stays the library's and is valid until the next
-// call that fails in this thread, or its end.
+// One English sentence with the function's name; for a name text that is refused, the place and
+// what was expected there, as ortholan_name_text_error tells it. It stays the library's and is
+// valid until the next call that fails in this thread, or its end.
 ORTHOLAN_C_API const char* ortholan_last_error_message(void);
 
 // Version of the library, "1.0.0"; static, never to be freed.
@@ -213,7 +214,9 @@ ORTHOLAN_C_API ortholan_result ortholan_name_attributes(const ortholan_name* nam
 // Fails: ARGUMENT, UTF8, TYPE (a malformed identifier), NOT_FOUND, MEMORY.
 ORTHOLAN_C_API ortholan_result ortholan_name_get(const ortholan_name* name, const char* type,
                                                  char** value, size_t* size);
-// Appends an RDN. Values are taken as they stand: no quotes, no separators.
+// Appends an RDN. Values are taken as they stand: no quotes, no separators. A type whose string
+// type its standard prescribes is written in that: DC (0.9.2342.19200300.100.1.25) and e-mail as
+// IA5String, countries and serial numbers as PrintableString.
 //   type     a key of those that are written, or any dotted identifier
 //   options  ORTHOLAN_ENCODE_UTF8 and ORTHOLAN_ENCODE_ALWAYS; separators change nothing
 // Fails: ARGUMENT, UTF8, TYPE, VALUE, MEMORY.

@@ -23,14 +23,14 @@ bool AllocateName(uint64_t content, IdentObj* name) {
   return true;
 }
 
-bool NameAssembler::EncodeElem(std::string_view type, const Characters& value) {
+bool NameAssembler::EncodeElem(std::string_view type, const Characters& value, ValueRule rule) {
   SmallBuffer<BYTE, kMaxOidContent> content;
   const AttributeRow* row = FindAttribute(type);
   if (row == nullptr) {
     const Status status = ParseOid(type, &content);
     if (status != Status::kOk) return FailWith(status);
   }
-  const ValueRule rule = row != nullptr ? row->rule : ValueRule::kFreeText;
+  if (row != nullptr) rule = row->rule;
   const bool lines = row != nullptr && row->lines;
   DWORD value_type = 0;
   if (value.size == 0 || !DetermineTargetType(rule, CommonClasses(value), options_, &value_type)) {

@@ -31,8 +31,10 @@ class NameAssembler {
   // Room for so many RDNs of one attribute each; more are welcome.
   void Reserve(size_t rdns) { plans_.Reserve(rdns); }
   // Adds one attribute with any identifier, in dotted text, to the current RDN. False, with the
-  // last error set where the type is no identifier, for what cannot be encoded.
-  bool EncodeElem(std::string_view type, const Characters& value);
+  // last error set where the type is no identifier, for what cannot be encoded. `rule` is that of a
+  // type that the attribute table does not have.
+  bool EncodeElem(std::string_view type, const Characters& value,
+                  ValueRule rule = ValueRule::kFreeText);
   // Ends the current RDN, which may be empty.
   void EndRdn();
 

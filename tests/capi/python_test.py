@@ -8,6 +8,7 @@ import os
 import pathlib
 import subprocess
 import sys
+import tempfile
 import threading
 import unittest
 
@@ -185,6 +186,13 @@ class Library(unittest.TestCase):
         self.assertGreater(attempted, 3)
 
 
+# CN = ESC "[31m"; alternative names: an address of three octets, one with tag 9, "a" ESC "b".
+ODD = (
+    "MEAwOQIBATAAMAAwADAQMQ4wDAYDVQQDDAUbWzMxbTAAoxowGDAWBgNVHREEDzANhwNhYmOJAWGCA2EbYjAAAwEA"
+    ""
+)
+
+
 class Program(unittest.TestCase):
     def run_program(self, *arguments):
         environment = dict(os.environ, PYTHONUTF8="1")
@@ -195,6 +203,12 @@ class Program(unittest.TestCase):
         return done.returncode, done.stdout, done.stderr
 
     def test_rows(self):
+        block = "-----BEGIN CERTIFICATE-----\n%s\n-----END CERTIFICATE-----\n"
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        bundle = os.path.join(scratch.name, "bundle.pem")
+        with open(bundle, "w") as file:
+            file.write(block % ODD + block % "MAA=" + (CERTIFICATES / "bmp.pem").read_text())
         rows = [
             ("text", ["CN=\u0410"], 0, ["subject: CN=\u0410", "  CN (2.5.4.3): \u0410"], ""),
             (
@@ -215,6 +229,26 @@ class Program(unittest.TestCase):
                     "  IP_ADDRESS: 2001:db8::1",
                 ],
                 "",
+            ),
+            (
+                "addresses",
+                [str(CERTIFICATES / "typed.pem")],
+                0,
+                ["  IP_ADDRESS: 2001:db8::1:0:0:1"],
+                "",
+            ),
+            (
+                "a bundle with a broken one",
+                [bundle],
+                1,
+                [
+                    "  CN (2.5.4.3): \\x1b[31m",
+                    "  IP_ADDRESS: 616263",
+                    "  [9]: 61",
+                    "  DNS_NAME: a\\x1bb",
+                    "subject: C=RU,CN=\u0410\u043b\u044c\u0444\u0430",
+                ],
+                bundle + ": certificate 2: no certificate",
             ),
             ("refused", ["C=R_"], 1, [], 'C=R_: "_" at character 4: expected '),
             ("usage", [], 2, [], "Shows names"),
