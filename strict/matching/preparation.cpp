@@ -61,6 +61,9 @@ struct Step {
   const uint8_t* mapping = nullptr;  // its head
 };
 
+// A character of ASCII that is no blank and not dropped.
+constexpr bool IsGraphic(uint8_t octet) { return static_cast<uint8_t>(octet - '!') <= '~' - '!'; }
+
 // Writes the text behind the head, a short one with whatever follows it, which the next character
 // overwrites.
 inline uint8_t* PutMapping(uint8_t* out, const uint8_t* mapping) {
@@ -142,14 +145,21 @@ bool Preparation::Run(size_t* undefined_at) {
   return true;
 }
 
+// A run of characters of ASCII with the blank or what is dropped behind it; false where there is
+// none.
 inline bool Preparation::TakeAscii(Progress* at, Progress* last) const {
-  const uint8_t octet = *at->in;
-  if (octet >= 0x80) return false;
-  if (octet > ' ' && octet != 0x7F) {
-    *last = *at;
+  const uint8_t* in = at->in;
+  if (IsGraphic(*in)) {
     PutBlanks(at);
-    *at->out++ = ToAsciiLower(octet);
-  } else if (IsAsciiBlank(octet)) {
+    uint8_t* out = at->out;
+    do *out++ = ToAsciiLower(*in++);
+    while (in != end_ && IsGraphic(*in));
+    *last = {in - 1, out - 1, 0};
+    *at = {in, out, 0};
+    return true;
+  }
+  if (*in >= 0x80) return false;
+  if (IsAsciiBlank(*in)) {
     *last = *at;
     ++at->blanks;
   }
