@@ -31,6 +31,10 @@ PLAIN, UNDEFINED, NOTHING, BLANK, FIRST_CLASS, FIRST_MAPPING = 0, 1, 2, 3, 4, 64
 JOINS_BEFORE, NEEDS_CARE = 0x80, 0x40
 SHORT_MAPPING = 8
 
+# Code points from PAIRS_FROM to PAIRS_TO take two octets of UTF-8 and have a table of their own: what
+# becomes of them, where it is two octets as well and stands alone, or 0.
+PAIRS_FROM, PAIRS_TO = 0x100, 0x800
+
 # RFC 4518 2.2. Its "FF00-FE0F" are the variation selectors, U+FE00 to U+FE0F.
 TO_NOTHING = (
     "00AD 1806 034F 180B-180D FE00-FE0F FFFC 0000-0008 000E-001F 007F-0084 0086-009F 06DD 070F "
@@ -94,6 +98,8 @@ class Tables:
         self.blocks = []
         entries = [self.entry(point) for point in range(LIMIT)]
         self.check(entries)
+        self.pairs_folded = [self.folded_pair(point, entries[point])
+                             for point in range(PAIRS_FROM, PAIRS_TO)]
         self.pool += bytes(SHORT_MAPPING)  # So that as many octets can be copied from every row.
         known = {}
         for start in range(0, LIMIT, BLOCK):
@@ -134,6 +140,12 @@ class Tables:
             head |= NEEDS_CARE
         assert len(octets) < NEEDS_CARE
         return self.offset(bytes([head]) + octets)
+
+    def folded_pair(self, point, entry):
+        if entry == PLAIN:
+            return int.from_bytes(chr(point).encode(), "big")
+        row = self.pool[entry - FIRST_MAPPING:] if entry >= FIRST_MAPPING else b"\0"
+        return int.from_bytes(row[1:3], "big") if row[0] == 2 else 0
 
     def offset(self, row):
         if row not in self.offsets:
@@ -182,12 +194,14 @@ class Tables:
             f"static_assert(kBlank == {BLANK} && kFirstClass == {FIRST_CLASS});",
             f"static_assert(kFirstMapping == {FIRST_MAPPING} && kTableLimit == 0x{LIMIT:X});",
             f"static_assert(kJoinsBefore == 0x{JOINS_BEFORE:X} && kNeedsCare == 0x{NEEDS_CARE:X});",
+            f"static_assert(kPairsFrom == 0x{PAIRS_FROM:X} && kPairsTo == 0x{PAIRS_TO:X});",
             f"static_assert(kShortMapping == {SHORT_MAPPING});",
             f"static_assert(kPairCount == {len(self.pairs)});",
             "",
             *self.rows("uint8_t", "kBlocks", self.blocks, 2),
             *self.rows("uint16_t", "kLeaves", self.leaves, 4),
             *self.rows("uint8_t", "kMappings", self.pool, 2),
+            *self.rows("uint16_t", "kFoldedPairs", self.pairs_folded, 4),
             *self.rows("uint16_t", "kClasses", (mark << 8 | ccc for ccc, mark in self.classes), 4),
             *self.rows("uint32_t", "kPairs", (a << 16 | b for a, b, _ in self.pairs), 8),
             *self.rows("uint16_t", "kComposites", (pair[2] for pair in self.pairs), 4),
@@ -197,7 +211,7 @@ class Tables:
 
     def size(self):
         return (len(self.blocks) + 2 * len(self.leaves) + len(self.pool) + 2 * len(self.classes)
-                + 8 * len(self.pairs))
+                + 8 * len(self.pairs) + 2 * len(self.pairs_folded))
 
 
 def main(arguments):

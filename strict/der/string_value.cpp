@@ -14,11 +14,9 @@ constexpr AlphabetTable MakeAlphabet() {
   AlphabetTable table = {};
   for (int c = 0; c < 0x80; ++c) table.bits[c] = kInIA5;
   for (int c = 0x20; c < 0x7F; ++c) table.bits[c] |= kInVisible;
-  for (int c = '0'; c <= '9'; ++c) table.bits[c] |= kInNumeric | kInPrintable;
-  for (int c = 'A'; c <= 'Z'; ++c) table.bits[c] |= kInPrintable;
-  for (int c = 'a'; c <= 'z'; ++c) table.bits[c] |= kInPrintable;
-  for (const char c : {' ', '\'', '(', ')', '+', ',', '-', '.', '/', ':', '=', '?'}) {
-    table.bits[static_cast<int>(c)] |= kInPrintable;
+  for (int c = '0'; c <= '9'; ++c) table.bits[c] |= kInNumeric;
+  for (int c = 0; c < 0x80; ++c) {
+    if (IsPrintable(static_cast<uint8_t>(c))) table.bits[c] |= kInPrintable;
   }
   table.bits[static_cast<int>(' ')] |= kInNumeric;
   return table;

@@ -7,6 +7,7 @@
 #ifndef ORTHOLAN_STRICT_DER_STRING_VALUE_H_
 #define ORTHOLAN_STRICT_DER_STRING_VALUE_H_
 
+#include "bytes/ascii.h"
 #include "bytes/byte_view.h"
 #include "strict/der/output.h"
 #include "strict/der/reader.h"
@@ -20,6 +21,15 @@ bool IsString(uint8_t identifier);
 // Whether each octet of the type is one character of ASCII, so that checked content is its own
 // UTF-8.
 bool IsAsciiString(uint8_t identifier);
+
+// Whether PrintableString has the character (X.680 41.4).
+constexpr bool IsPrintable(uint8_t octet) {
+  if (IsAsciiLetter(octet) || IsAsciiDigit(octet)) return true;
+  for (const char c : {' ', '\'', '(', ')', '+', ',', '-', '.', '/', ':', '=', '?'}) {
+    if (octet == static_cast<uint8_t>(c)) return true;
+  }
+  return false;
+}
 
 // Checks encoding and, unless lenient, the alphabet of a string; refuses at the octet at fault.
 // Other types are not looked at.

@@ -3,58 +3,54 @@
 namespace Ortholan::strict {
 namespace {
 
-// The significant octets of a text, one by one.
-class FoldedText {
- public:
-  FoldedText(ByteView text, const Folding& folding) : text_(text), folding_(folding) {
-    SkipBlanks();
-  }
+bool IsSkipped(uint16_t folded) { return folded == Folding::kBlank || folded == Folding::kDropped; }
 
-  bool AtEnd() const { return at_ == text_.size; }
-  uint16_t Front() const { return folding_.to[text_[at_]]; }
-  void Advance() { ++at_; }
-  // Passes blanks and what is dropped; tells whether there was a blank.
-  bool SkipBlanks() {
-    bool any = false;
-    for (; !AtEnd() && IsSkipped(Front()); ++at_) any |= Front() == ' ';
-    return any;
-  }
-  static bool IsSkipped(uint16_t folded) { return folded == ' ' || folded == Folding::kDropped; }
-
- private:
-  ByteView text_;
-  const Folding& folding_;
-  size_t at_ = 0;
+// Passes blanks and what is dropped.
+struct Skipped {
+  const uint8_t* at;
+  bool blank;  // whether there was one
 };
+Skipped SkipBlanks(const uint8_t* at, const uint8_t* end, const Folding& folding) {
+  bool blank = false;
+  for (; at != end && IsSkipped(folding.to[*at]); ++at) blank |= folding.to[*at] == Folding::kBlank;
+  return {at, blank};
+}
 
 }  // namespace
 
-bool MatchFolded(ByteView a, ByteView b, const Folding& folding) {
-  FoldedText x(a, folding);
-  FoldedText y(b, folding);
-  for (;;) {
-    while (!x.AtEnd() && !y.AtEnd() && x.Front() == y.Front() &&
-           !FoldedText::IsSkipped(x.Front())) {
-      x.Advance();
-      y.Advance();
+bool MatchFolded(ByteView a, const Folding& folding_a, ByteView b, const Folding& folding_b) {
+  const uint8_t* const end_a = a.end();
+  const uint8_t* const end_b = b.end();
+  const uint8_t* x = SkipBlanks(a.begin(), end_a, folding_a).at;
+  const uint8_t* y = SkipBlanks(b.begin(), end_b, folding_b).at;
+  while (x != end_a && y != end_b) {
+    const uint16_t octet = folding_a.to[*x];
+    if (octet == folding_b.to[*y] && octet < Folding::kBlank) {
+      ++x;
+      ++y;
+      continue;
     }
-    const bool blank_in_x = x.SkipBlanks();
-    const bool blank_in_y = y.SkipBlanks();
-    if (x.AtEnd() || y.AtEnd()) return x.AtEnd() && y.AtEnd();
-    if (blank_in_x != blank_in_y || x.Front() != y.Front()) return false;
+    const Skipped in_a = SkipBlanks(x, end_a, folding_a);
+    const Skipped in_b = SkipBlanks(y, end_b, folding_b);
+    const bool moved = in_a.at != x || in_b.at != y;
+    x = in_a.at;
+    y = in_b.at;
+    // At an end blanks do not count.
+    if (x != end_a && y != end_b && (!moved || in_a.blank != in_b.blank)) return false;
   }
+  return SkipBlanks(x, end_a, folding_a).at == end_a && SkipBlanks(y, end_b, folding_b).at == end_b;
 }
 
 void PutFolded(ByteView text, const Folding& folding, SmallBuffer<uint8_t, 512>* out) {
-  FoldedText from(text, folding);
-  uint8_t* const start = out->Extend(text.size);
-  uint8_t* end = start;
-  while (!from.AtEnd()) {
-    *end++ = static_cast<uint8_t>(from.Front());
-    from.Advance();
-    if (from.SkipBlanks() && !from.AtEnd()) *end++ = ' ';
+  uint8_t* end = out->Extend(text.size);
+  const uint8_t* at = SkipBlanks(text.begin(), text.end(), folding).at;
+  while (at != text.end()) {
+    *end++ = static_cast<uint8_t>(folding.to[*at++]);
+    const Skipped skipped = SkipBlanks(at, text.end(), folding);
+    at = skipped.at;
+    if (skipped.blank && at != text.end()) *end++ = ' ';
   }
-  out->Truncate(out->size() - text.size + static_cast<size_t>(end - start));
+  out->Truncate(static_cast<size_t>(end - out->data()));
 }
 
 }  // namespace Ortholan::strict

@@ -14,9 +14,8 @@ Verdict VerdictOf(const Comparison& found) {
 }
 
 ortholan_octets TypeOf(const RdnView& rdn, size_t index) {
-  NameView::Iterator at = rdn.first;
-  for (size_t i = 0; i < index; ++i) ++at;
-  return {at->type.data, at->type.size};
+  const ByteView type = rdn.At(index).type;
+  return {type.data, type.size};
 }
 
 Match MatchOf(const RdnView& a, const RdnView& b, const RdnComparison& result) {

@@ -3,17 +3,21 @@
 namespace Ortholan::strict {
 namespace {
 
-Comparison CompareAttributes(const AttributeView& a, const AttributeView& b, MatchRule rule) {
+Comparison CompareAttributes(const Attribute& a, const Attribute& b, MatchRule rule) {
   if (!SameBytes(a.type, b.type)) return {ORTHOLAN_REASON_ATTRIBUTE_TYPE, 0};
   return CompareValues(a.type, a.value, b.value, rule);
 }
 
 // Pairs of attributes as they stand, up to the first that are not the same.
 RdnComparison CompareInTurn(const RdnView& a, const RdnView& b, MatchRule rule) {
-  NameView::Iterator x = a.first;
-  NameView::Iterator y = b.first;
-  for (size_t index = 0; index < a.size; ++index, ++x, ++y) {
-    const Comparison found = CompareAttributes(*x, *y, rule);
+  const Comparison first = CompareAttributes(a.first, b.first, rule);
+  if (a.size == 1 || !first.is_same()) return {first};
+  AttributeWalk walk_a(a.content);
+  AttributeWalk walk_b(b.content);
+  Attribute x;
+  Attribute y;
+  for (size_t index = 0; walk_a.Next(&x) && walk_b.Next(&y); ++index) {
+    const Comparison found = CompareAttributes(x, y, rule);
     if (!found.is_same()) return {found, index, index};
   }
   return {};

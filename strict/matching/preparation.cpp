@@ -12,31 +12,35 @@ namespace {
 constexpr size_t kGrowth = 2;
 constexpr size_t kEnds = 16;
 
-// What becomes of U+0080 to U+00BF by the last octet: a character of ASCII, or one of these.
-constexpr uint8_t kDropped = 0;
-constexpr uint8_t kItself = 0x80;
-constexpr uint8_t kByTable = 0x81;  // U+00B5, accents that follow a blank, fractions
-struct LatinSigns {
-  uint8_t rows[64];
+// What becomes of U+0080 to U+00FF, as kFoldedPairs has it for those behind. Letters in lower case;
+// signs as they are, but for blanks and what compatibility normalisation replaces.
+struct LatinPairs {
+  uint16_t rows[0x80];
 };
-constexpr LatinSigns MakeLatinSigns() {
-  LatinSigns signs = {};
-  for (int at = 0x20; at < 0x40; ++at) signs.rows[at] = kItself;
-  signs.rows[0x05] = signs.rows[0x20] = ' ';
-  signs.rows[0x2D] = kDropped;
-  for (int at : {0x28, 0x2F, 0x34, 0x35, 0x38, 0x3C, 0x3D, 0x3E}) signs.rows[at] = kByTable;
-  signs.rows[0x2A] = 'a';
-  signs.rows[0x3A] = 'o';
-  signs.rows[0x32] = '2';
-  signs.rows[0x33] = '3';
-  signs.rows[0x39] = '1';
-  return signs;
+constexpr LatinPairs MakeLatinPairs() {
+  LatinPairs pairs = {};
+  for (int point = 0xA1; point < 0x100; ++point) {
+    const bool is_capital = point >= 0xC0 && point < 0xDF && point != 0xD7;
+    const int folded = is_capital ? point + 0x20 : point;
+    pairs.rows[point - 0x80] =
+        static_cast<uint16_t>((0xC0 | folded >> 6) << 8 | 0x80 | (folded & 0x3F));
+  }
+  for (int point :
+       {0xA8, 0xAA, 0xAD, 0xAF, 0xB2, 0xB3, 0xB4, 0xB5, 0xB8, 0xB9, 0xBA, 0xBC, 0xBD, 0xBE}) {
+    pairs.rows[point - 0x80] = 0;
+  }
+  pairs.rows[0xDF - 0x80] = 's' << 8 | 's';
+  return pairs;
 }
-constexpr LatinSigns kLatinSigns = MakeLatinSigns();
+constexpr LatinPairs kLatinPairs = MakeLatinPairs();
 
-// By the last octet of U+00C0 to U+00FF.
-constexpr uint8_t kTimes = 0x17;   // between the capital letters
-constexpr uint8_t kSharpS = 0x1F;  // folded to two
+// The folded pair of the two octets, or 0.
+inline uint16_t FoldedPair(const uint8_t* in) {
+  if ((in[0] & 0xE0) != 0xC0 || (in[1] & 0xC0) != 0x80) return 0;
+  const uint32_t point = (in[0] & 0x1Fu) << 6 | (in[1] & 0x3Fu);
+  if (point >= kPairsFrom) return kFoldedPairs[point - kPairsFrom];
+  return point >= 0x80 ? kLatinPairs.rows[point - 0x80] : 0;
+}
 
 // How far a text has been read and written.
 struct Progress {
@@ -60,6 +64,9 @@ struct Step {
   size_t size;                       // octets that are read
   const uint8_t* mapping = nullptr;  // its head
 };
+
+// A character of ASCII that is no blank and not dropped.
+constexpr bool IsGraphic(uint8_t octet) { return static_cast<uint8_t>(octet - '!') <= '~' - '!'; }
 
 // Writes the text behind the head, a short one with whatever follows it, which the next character
 // overwrites.
@@ -93,7 +100,7 @@ class Preparation {
  private:
   bool Take(Progress* progress);
   bool TakeAscii(Progress* at, Progress* last) const;
-  bool TakeLatin(Progress* at, Progress* last) const;
+  bool TakePairs(Progress* at, Progress* last) const;
   Step Look(const uint8_t* in) const;
   bool TakeSegment(Progress* progress);
   void AddToSegment(uint32_t scalar, uint16_t entry);
@@ -142,14 +149,21 @@ bool Preparation::Run(size_t* undefined_at) {
   return true;
 }
 
+// A run of characters of ASCII with the blank or what is dropped behind it; false where there is
+// none.
 inline bool Preparation::TakeAscii(Progress* at, Progress* last) const {
-  const uint8_t octet = *at->in;
-  if (octet >= 0x80) return false;
-  if (octet > ' ' && octet != 0x7F) {
-    *last = *at;
+  const uint8_t* in = at->in;
+  if (IsGraphic(*in)) {
     PutBlanks(at);
-    *at->out++ = ToAsciiLower(octet);
-  } else if (IsAsciiBlank(octet)) {
+    uint8_t* out = at->out;
+    do *out++ = ToAsciiLower(*in++);
+    while (in != end_ && IsGraphic(*in));
+    *last = {in - 1, out - 1, 0};
+    *at = {in, out, 0};
+    return true;
+  }
+  if (*in >= 0x80) return false;
+  if (IsAsciiBlank(*in)) {
     *last = *at;
     ++at->blanks;
   }
@@ -157,32 +171,21 @@ inline bool Preparation::TakeAscii(Progress* at, Progress* last) const {
   return true;
 }
 
-// U+0080 to U+00FF, but for what the tables know.
-inline bool Preparation::TakeLatin(Progress* at, Progress* last) const {
-  const uint8_t* const in = at->in;
-  if ((in[0] & 0xFE) != 0xC2 || end_ - in < 2 || (in[1] & 0xC0) != 0x80) return false;
-  const uint8_t low = in[1] & 0x3F;
-  const uint8_t sign = in[0] == 0xC2 ? kLatinSigns.rows[low] : kItself;
-  if (sign == kByTable) return false;
-  at->in += 2;
-  if (sign == kDropped) return true;
-  *last = {in, at->out, at->blanks};
-  if (sign == ' ') {
-    ++at->blanks;
-    return true;
-  }
+// A run of characters of two octets that stay two octets; false where there is none.
+inline bool Preparation::TakePairs(Progress* at, Progress* last) const {
+  const uint8_t* in = at->in;
+  uint16_t folded = end_ - in >= 2 ? FoldedPair(in) : 0;
+  if (folded == 0) return false;
   PutBlanks(at);
-  if (sign != kItself) {
-    *at->out++ = sign;
-  } else if (in[0] == 0xC3 && low == kSharpS) {
-    at->out[0] = at->out[1] = 's';
-    at->out += 2;
-  } else {
-    const bool is_capital = in[0] == 0xC3 && low < 0x20 && low != kTimes;
-    at->out[0] = in[0];
-    at->out[1] = is_capital ? in[1] | 0x20 : in[1];
-    at->out += 2;
+  uint8_t* out = at->out;
+  for (; folded != 0; folded = end_ - in >= 2 ? FoldedPair(in) : 0) {
+    out[0] = static_cast<uint8_t>(folded >> 8);
+    out[1] = static_cast<uint8_t>(folded);
+    in += 2;
+    out += 2;
   }
+  *last = {in - 2, out - 2, 0};
+  *at = {in, out, 0};
   return true;
 }
 
@@ -207,7 +210,7 @@ bool Preparation::Take(Progress* progress) {
   Progress at = *progress;
   Progress last = at;  // before the last character
   while (at.in != end_) {
-    if (TakeAscii(&at, &last) || TakeLatin(&at, &last)) continue;
+    if (TakeAscii(&at, &last) || TakePairs(&at, &last)) continue;
     const Step step = Look(at.in);
     switch (step.kind) {
       case Step::kItself:

@@ -1,6 +1,6 @@
 // What RFC 4518 makes of single code points, and how canonical normalisation takes them apart and
 // joins them. Made by scripts/make_preparation_tables.py from the tables of RFC 3454 and Unicode
-// 3.2; 49 KiB.
+// 3.2; 53 KiB.
 #ifndef ORTHOLAN_STRICT_MATCHING_PREPARATION_TABLES_H_
 #define ORTHOLAN_STRICT_MATCHING_PREPARATION_TABLES_H_
 
@@ -33,6 +33,12 @@ constexpr uint8_t kNeedsCare = 0x40;
 constexpr uint8_t kMappingSize = 0x3F;
 // As many octets stand behind the head of every mapping, whatever its size.
 constexpr size_t kShortMapping = 8;
+
+// What becomes of the code points from kPairsFrom to kPairsTo: two octets of UTF-8 that leave what
+// precedes as it is, the first in the high half, or 0 where it is anything else.
+constexpr uint32_t kPairsFrom = 0x100;
+constexpr uint32_t kPairsTo = 0x800;
+extern const uint16_t kFoldedPairs[];
 
 // Two characters (the first in the high half) that are joined to one, in ascending order; and the
 // same pairs by the character that they are joined to. Hangul is computed.

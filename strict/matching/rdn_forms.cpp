@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "bytes/der_length.h"
+#include "strict/names/plain_rdn.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -30,19 +31,40 @@ ortholan_reason PutSorted(const RdnView& rdn, MatchRule rule, PreparedText* out)
 
 }  // namespace
 
+bool AttributeWalk::Next(Attribute* attribute) {
+  Element element;
+  if (attributes_.AtEnd() || !attributes_.Read(&element)) return false;
+  Reader fields(element.content, Leniency::kLenient, nullptr);
+  return fields.Read(kOid, &attribute->type) && fields.Read(&attribute->value);
+}
+
+Attribute RdnView::At(size_t at) const {
+  AttributeWalk walk(content);
+  Attribute attribute;
+  for (size_t i = 0; i <= at; ++i) walk.Next(&attribute);
+  return attribute;
+}
+
 bool RdnWalk::Next(RdnView* rdn) {
-  if (at_ == end_) return false;
-  *rdn = {at_, 0, rdn_, attribute_};
-  do {
-    ++rdn->size;
-    ++at_;
-  } while (at_ != end_ && !at_->begins_rdn);
-  ++rdn_;
+  PlainRdn plain;
+  if (ReadPlainRdn(rdns_, &plain)) {
+    rdns_ = rdns_.From(static_cast<size_t>(plain.content.end() - rdns_.data));
+    *rdn = {plain.content, {plain.type, plain.value}, 1, rdn_++, attribute_++};
+    return true;
+  }
+  Reader rdns(rdns_, Leniency::kLenient, nullptr);
+  Element element;
+  if (rdns.AtEnd() || !rdns.Read(&element)) return false;
+  rdns_ = rdns.rest();
+  *rdn = {element.content, {}, 1, rdn_++, attribute_};
+  AttributeWalk walk(element.content);
+  walk.Next(&rdn->first);
+  for (Attribute other; walk.Next(&other);) ++rdn->size;
   attribute_ += rdn->size;
   return true;
 }
 
-ValueForm PutAttribute(const AttributeView& attribute, MatchRule rule, PreparedText* out) {
+ValueForm PutAttribute(const Attribute& attribute, MatchRule rule, PreparedText* out) {
   PreparedText octets;
   const ValueForm form = PutForm(attribute.type, attribute.value, rule, &octets);
   PutWithLength(attribute.type, out);
@@ -52,11 +74,12 @@ ValueForm PutAttribute(const AttributeView& attribute, MatchRule rule, PreparedT
 }
 
 RdnForms::RdnForms(const RdnView& rdn, MatchRule rule) {
-  NameView::Iterator at = rdn.first;
-  for (size_t index = 0; index < rdn.size; ++index, ++at) {
+  AttributeWalk walk(rdn.content);
+  size_t index = 0;
+  for (Attribute attribute; walk.Next(&attribute); ++index) {
     const size_t offset = octets_.size();
-    const ValueForm form = PutAttribute(*at, rule, &octets_);
-    const size_t type_size = LengthSize(at->type.size) + at->type.size;
+    const ValueForm form = PutAttribute(attribute, rule, &octets_);
+    const size_t type_size = LengthSize(attribute.type.size) + attribute.type.size;
     entries_.push_back({offset, octets_.size() - offset, type_size, form, index});
   }
   std::sort(entries_.begin(), entries_.end(),
@@ -65,11 +88,11 @@ RdnForms::RdnForms(const RdnView& rdn, MatchRule rule) {
 
 ortholan_reason PutRdn(const RdnView& rdn, MatchRule rule, PreparedText* out) {
   if (rule == MatchRule::kOctets) {
-    PutWithLength(rdn.first->rdn, out);
+    PutWithLength(rdn.content, out);
     return ORTHOLAN_REASON_NONE;
   }
   WriteLength(out->Extend(LengthSize(rdn.size)), rdn.size);
-  return rdn.size == 1 ? DoubtOf(PutAttribute(*rdn.first, rule, out)) : PutSorted(rdn, rule, out);
+  return rdn.size == 1 ? DoubtOf(PutAttribute(rdn.first, rule, out)) : PutSorted(rdn, rule, out);
 }
 
 }  // namespace Ortholan::strict

@@ -14,30 +14,49 @@
 
 namespace Ortholan::strict {
 
-// Consecutive attributes of a name that make an RDN.
+// An attribute of a name that was checked.
+struct Attribute {
+  ByteView type;
+  Element value;
+};
+
+// The attributes of an RDN, one by one.
+class AttributeWalk {
+ public:
+  explicit AttributeWalk(ByteView rdn) : attributes_(rdn, Leniency::kLenient, nullptr) {}
+  // False at the end.
+  bool Next(Attribute* attribute);
+
+ private:
+  Reader attributes_;
+};
+
 struct RdnView {
-  NameView::Iterator first;
-  size_t size = 0;
+  ByteView content;            // of its SET
+  Attribute first;             // of its attributes
+  size_t size = 0;             // number of attributes
   size_t index = 0;            // of the RDN in the name
   size_t first_attribute = 0;  // its index in the name
+
+  // The attribute number `at`, which there is.
+  Attribute At(size_t at) const;
 };
 
 // The RDNs of a name, one by one.
 class RdnWalk {
  public:
-  explicit RdnWalk(const NameView& name) : at_(name.begin()), end_(name.end()) {}
+  explicit RdnWalk(const NameView& name) : rdns_(name.rdns()) {}
   // False at the end.
   bool Next(RdnView* rdn);
 
  private:
-  NameView::Iterator at_;
-  NameView::Iterator end_;
+  ByteView rdns_;
   size_t rdn_ = 0;
   size_t attribute_ = 0;
 };
 
 // Appends an attribute in the form above.
-ValueForm PutAttribute(const AttributeView& attribute, MatchRule rule, PreparedText* out);
+ValueForm PutAttribute(const Attribute& attribute, MatchRule rule, PreparedText* out);
 
 class RdnForms {
  public:

@@ -61,17 +61,16 @@ ValueForm PutText(ByteView type, const Element& value, ByteView text, MatchRule 
   return {};
 }
 
-// Text of ASCII that needs no buffer to be compared.
-bool IsPlainAscii(const Element& value) {
-  if (value.identifier == kUtf8String) return IsAscii(AsText(value.content));
-  return IsAsciiString(value.identifier) &&
-         FindStringFault(value.identifier, value.content, true).reason == ORTHOLAN_REASON_NONE;
-}
-
-bool MatchAscii(ByteView type, ByteView a, ByteView b, MatchRule rule) {
-  if (rule == MatchRule::kAsciiCase) return MatchFolded(a, b, kCaseAndBlanks);
-  if (!IsCaseOnly(type)) return MatchFolded(a, b, kPreparedAscii);
-  return a.size == b.size && CompareIgnoreCase(AsText(a), AsText(b)) == 0;
+// Whether two values are the same text of ASCII. False where they are not, or not all of that.
+bool MatchAscii(const Element& a, const Element& b, const AsciiFoldings& foldings) {
+  const auto folding_of = [&foldings](uint8_t identifier) -> const Folding* {
+    if (identifier == kPrintableString) return &foldings.printable;
+    return identifier == kUtf8String || identifier == kIA5String ? &foldings.any : nullptr;
+  };
+  const Folding* const folding_a = folding_of(a.identifier);
+  const Folding* const folding_b = folding_of(b.identifier);
+  return folding_a != nullptr && folding_b != nullptr &&
+         MatchFolded(a.content, *folding_a, b.content, *folding_b);
 }
 
 // Checked text in units of two or four octets.
@@ -119,9 +118,8 @@ Comparison CompareForms(const ValueForm& a, const ValueForm& b, bool same_octets
 Comparison CompareValues(ByteView type, const Element& a, const Element& b, MatchRule rule) {
   if (SameBytes(a.bytes, b.bytes)) return {};
   if (rule == MatchRule::kOctets) return {ORTHOLAN_REASON_VALUE, 0};
-  if (IsPlainAscii(a) && IsPlainAscii(b)) {
-    if (MatchAscii(type, a.content, b.content, rule)) return {};
-    return {ORTHOLAN_REASON_VALUE, 0};
+  if (rule == MatchRule::kAsciiCase || !IsCaseOnly(type)) {
+    if (MatchAscii(a, b, rule == MatchRule::kRfc5280 ? kPreparedAscii : kPlainAscii)) return {};
   }
   PreparedText x;
   PreparedText y;

@@ -3,6 +3,7 @@
 #include "strict/der/identifier.h"
 #include "strict/der/set_order.h"
 #include "strict/der/string_value.h"
+#include "strict/names/plain_rdn.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -37,13 +38,25 @@ bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* coun
   return true;
 }
 
+// Passes the plain RDNs at the front that are in order.
+ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
+  PlainRdn rdn;
+  while (ReadPlainRdn(rdns, &rdn) && IsIdentifier(rdn.type) &&
+         CheckString(rdn.value, leniency, nullptr)) {
+    rdns = rdns.From(static_cast<size_t>(rdn.content.end() - rdns.data));
+    ++*count;
+  }
+  return rdns;
+}
+
 }  // namespace
 
 bool NameView::Read(ByteView der, Leniency leniency, NameView* name, Refusal* refusal) {
   NameView read;
   read.der_ = der;
   if (!ReadWhole(der, kSequence, leniency, &read.rdns_, refusal)) return false;
-  Reader rdns(read.rdns_, leniency, refusal);
+  Reader rdns(SkipPlainRdns(read.rdns_, leniency, &read.rdn_count_), leniency, refusal);
+  read.attribute_count_ = read.rdn_count_;
   while (!rdns.AtEnd()) {
     ByteView rdn;
     if (!rdns.Read(kSet, &rdn)) return false;
