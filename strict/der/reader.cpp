@@ -74,7 +74,7 @@ bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* con
 }
 
 // What is open at each level stands in an array: nesting costs no stack.
-bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal) {
+bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal, ElementCheck check) {
   if (!element.constructed()) return true;
   ByteView open[kMaxDepth];
   size_t depth = 0;
@@ -87,6 +87,7 @@ bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal) {
     }
     Element child;
     if (!reader.Read(&child)) return false;
+    if (check != nullptr && !check(child, leniency, refusal)) return false;
     open[depth - 1] = reader.rest();
     if (!child.constructed()) continue;
     if (depth == kMaxDepth) {

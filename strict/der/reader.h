@@ -130,8 +130,12 @@ class Reader {
 bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* content,
                Refusal* refusal);
 
-// Checks the headers of everything inside a value of any type, at most 32 levels deep.
-bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal);
+using ElementCheck = bool (*)(const Element& element, Leniency leniency, Refusal* refusal);
+
+// Checks the headers of everything inside a value of any type, at most 32 levels deep, and each
+// element by `check` where there is one.
+bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal,
+                 ElementCheck check = nullptr);
 
 }  // namespace Ortholan::strict
 

@@ -43,6 +43,8 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_TIME, "a time is malformed"},
     {ORTHOLAN_REASON_NO_STRING, "the value is no string"},
     {ORTHOLAN_REASON_TOO_LONG, "an object identifier is too long to be shown"},
+    {ORTHOLAN_REASON_FORM, "the type does not have this form in DER"},
+    {ORTHOLAN_REASON_NULL, "a NULL has content"},
     {ORTHOLAN_REASON_TEXT_UTF8, "the text is not UTF-8"},
     {ORTHOLAN_REASON_TEXT_NO_TYPE, "the type of an attribute is missing"},
     {ORTHOLAN_REASON_TEXT_NO_EQUALS, "an attribute has no \"=\" behind its type"},

@@ -97,18 +97,19 @@ bool PutEscaped(uint8_t identifier, ByteView content, Output* out) {
   const size_t unit = UnitOf(identifier);
   const size_t before = out->size();
   // A blank or "#" in front, a blank at the end.
-  if (content.size >= unit) {
-    if (IsAt(content.data, unit, ' ') || IsAt(content.data, unit, '#')) {
-      out->Put('\\');
-      out->Put(content[unit - 1]);
-      content = content.From(unit);
-    }
+  if (content.size > unit && IsAt(content.data, unit, ' ')) {
+    out->Put("\\ ");
+    content = content.From(unit);
+  } else if (content.size >= unit && IsAt(content.data, unit, '#')) {
+    out->Put("\\#");
+    content = content.From(unit);
   }
   const bool blank_end = content.size >= unit && IsAt(content.end() - unit, unit, ' ');
   if (blank_end) content.size -= unit;
   const bool is_utf8 = identifier == kUtf8String || IsAsciiString(identifier);
   const bool done = is_utf8 ? PutUtf8Middle(content, out) : PutMiddle(identifier, content, out);
-  if (blank_end) out->Put("\\ ");
+  // As digits, because a blank at the end of a text is easily lost.
+  if (blank_end) out->Put("\\20");
   if (!done) out->Rewind(before);
   return done;
 }

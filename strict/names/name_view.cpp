@@ -1,8 +1,8 @@
 #include "strict/names/name_view.h"
 
+#include "strict/der/any_value.h"
 #include "strict/der/identifier.h"
 #include "strict/der/set_order.h"
-#include "strict/der/string_value.h"
 #include "strict/names/plain_rdn.h"
 
 namespace Ortholan::strict {
@@ -18,8 +18,7 @@ bool ReadAttribute(Reader* rdn, ByteView* bytes) {
   if (!IsIdentifier(type)) return fields.RefuseAt(ORTHOLAN_REASON_OID, type.data);
   if (!fields.Read(&value) || !fields.End()) return false;
   *bytes = attribute.bytes;
-  return CheckNested(value, rdn->leniency(), rdn->refusal()) &&
-         CheckString(value, rdn->leniency(), rdn->refusal());
+  return CheckValue(value, rdn->leniency(), rdn->refusal());
 }
 
 bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count) {

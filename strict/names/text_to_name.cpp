@@ -82,18 +82,17 @@ class Encoder {
     return {place, attribute.octets};
   }
 
-  // What the digits stand for is one element, all of it.
+  // What the digits stand for is one element, all of it, and a string that is text.
   bool CheckElement(const TextAttribute& attribute, ByteView octets) {
     Refusal inner;
-    Reader reader(octets, Leniency::kStructure, &inner);
+    Reader reader(octets, Leniency::kDer, &inner);
     Element element;
-    if (reader.Read(&element) && reader.End() &&
-        CheckNested(element, Leniency::kStructure, &inner)) {
+    if (reader.Read(&element) && reader.End() && CheckNested(element, Leniency::kDer, &inner) &&
+        CheckString(element, Leniency::kDer, &inner)) {
       return true;
     }
     const auto offset = static_cast<size_t>(static_cast<const uint8_t*>(inner.at) - octets.data);
-    const size_t place = 2 * offset;
-    return RefuseAt(ORTHOLAN_REASON_TEXT_ELEMENT, attribute.value.substr(place),
+    return RefuseAt(ORTHOLAN_REASON_TEXT_ELEMENT, attribute.value.substr(2 * offset),
                     static_cast<uint32_t>(inner.reason));
   }
 

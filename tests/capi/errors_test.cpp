@@ -35,6 +35,24 @@ TEST(CInterface, LastErrorStaysAThreadsOwn) {
   EXPECT_NE(std::strchr(ortholan_version(), '.'), nullptr);
 }
 
+// One call tells what is wrong with a text, and where.
+TEST(CInterface, MessageTellsThePlaceInAText) {
+  const std::tuple<const char*, const char*> rows[] = {
+      {"",
+       "ortholan_name_from_text: end of the text at character 1: expected a type such as CN, "
+       "\"=\" and a value"},
+      {"CN=\xD0\x96, C=\xD0\x96",
+       "ortholan_name_from_text: \"\xD0\x96\" at character 9: expected letters"},
+  };
+  for (const auto& [text, message] : rows) {
+    ortholan_result result = ORTHOLAN_OK;
+    Made<ortholan_name>(&result, [text = text](ortholan_name** name) {
+      return ortholan_name_from_text(text, 0, 0, name);
+    });
+    EXPECT_EQ(std::string(ortholan_last_error_message()).substr(0, std::strlen(message)), message);
+  }
+}
+
 TEST(CInterface, NothingCanBeReleased) {
   ortholan_free(nullptr);
   ortholan_name_free(nullptr);

@@ -112,7 +112,12 @@ enum {
   // A value of a type that is no string.
   ORTHOLAN_REASON_NO_STRING = 37,
   // An identifier of more octets than is turned into text.
-  ORTHOLAN_REASON_TOO_LONG = 38
+  ORTHOLAN_REASON_TOO_LONG = 38,
+  // A universal type that is primitive where DER has it constructed, or the other way round, or a
+  // number of no type (8.1.4, 10.2).
+  ORTHOLAN_REASON_FORM = 39,
+  // A NULL with content (8.8).
+  ORTHOLAN_REASON_NULL = 40
 };
 
 // Certificates, 120 to 139 (RFC 5280 4 and 5).

@@ -1,0 +1,17 @@
+// Values of types that only their identifiers tell: everything that DER says of a universal type
+// (X.680 8.4, X.690 8 to 11), at every depth.
+#ifndef ORTHOLAN_STRICT_DER_ANY_VALUE_H_
+#define ORTHOLAN_STRICT_DER_ANY_VALUE_H_
+
+#include "strict/der/reader.h"
+
+namespace Ortholan::strict {
+
+// Checks headers, the form that the type has, BOOLEAN, INTEGER, BIT STRING, NULL and OBJECT
+// IDENTIFIER, and strings as CheckString does, in the value and in all that it holds, at most 32
+// levels deep. Other classes have any content.
+bool CheckValue(const Element& value, Leniency leniency, Refusal* refusal);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_DER_ANY_VALUE_H_
