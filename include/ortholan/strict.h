@@ -4,6 +4,7 @@
 #define ORTHOLAN_STRICT_H_
 
 #include <ortholan/strict/base.h>
+#include <ortholan/strict/certificates.h>
 #include <ortholan/strict/constraints.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>

@@ -43,9 +43,11 @@ void ExtensionsView::Iterator::Step() {
   rest_ = list.rest();
 }
 
-bool ExtensionsView::Find(ByteView oid, ExtensionView* found, Refusal* refusal) const {
+bool ExtensionsView::FindIn(ByteView content, ByteView oid, ExtensionView* found,
+                            Refusal* refusal) {
   *found = {};
-  for (const ExtensionView& extension : *this) {
+  for (Iterator at(content); at != Iterator(); ++at) {
+    const ExtensionView& extension = *at;
     if (!SameBytes(extension.oid, oid)) continue;
     if (!found->bytes.empty()) {
       *found = {};

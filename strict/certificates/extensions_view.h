@@ -62,10 +62,16 @@ class ExtensionsView {
   Iterator begin() const { return Iterator(content_); }
   Iterator end() const { return {}; }
   size_t size() const { return size_; }
+  // The extensions one behind the other.
+  ByteView content() const { return content_; }
 
   // Looks for the one extension of a type. False, with the second one's place in the refusal, where
   // there are several; `*found` is without octets where there is none.
-  bool Find(ByteView oid, ExtensionView* found, Refusal* refusal) const;
+  bool Find(ByteView oid, ExtensionView* found, Refusal* refusal) const {
+    return FindIn(content_, oid, found, refusal);
+  }
+  // The same among checked extensions one behind the other.
+  static bool FindIn(ByteView content, ByteView oid, ExtensionView* found, Refusal* refusal);
 
  private:
   ByteView content_;

@@ -1,5 +1,6 @@
 #include "strict/der/refusal.h"
 
+#include <ortholan/strict/certificates.h>
 #include <ortholan/strict/constraints.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
@@ -63,6 +64,9 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_TEXT_NO_STRING, "values of this type are no strings"},
     {ORTHOLAN_REASON_TYPE_NAME, "no text could have this name for a type"},
     {ORTHOLAN_REASON_DUPLICATE_EXTENSION, "the same extension stands there twice"},
+    {ORTHOLAN_REASON_PEM_END, "a PEM block has to end with its own line and holds base64 alone"},
+    {ORTHOLAN_REASON_PEM_LABEL, "a PEM block ends with another label than it begins with"},
+    {ORTHOLAN_REASON_BASE64, "the text of a PEM block is no base64"},
     {ORTHOLAN_REASON_HOST_EMPTY, "the host name is empty"},
     {ORTHOLAN_REASON_HOST_EMPTY_LABEL, "a label of the host name is empty"},
     {ORTHOLAN_REASON_HOST_LONG_LABEL, "a label of the host name is longer than 63 octets"},

@@ -1,0 +1,16 @@
+// Times of certificates as text (RFC 5280 4.1.2.5).
+#ifndef ORTHOLAN_STRICT_CERTIFICATES_TIME_TEXT_H_
+#define ORTHOLAN_STRICT_CERTIFICATES_TIME_TEXT_H_
+
+#include "bytes/byte_view.h"
+#include "strict/der/output.h"
+
+namespace Ortholan::strict {
+
+// Puts "2026-11-21T22:05:00Z" for an element that is a UTCTime YYMMDDHHMMSSZ or a GeneralizedTime
+// YYYYMMDDHHMMSSZ. False, with nothing put, for anything else and for what is no moment.
+bool PutTimeText(ByteView element, Output* out);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_CERTIFICATES_TIME_TEXT_H_
