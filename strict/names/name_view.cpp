@@ -41,7 +41,7 @@ bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* coun
 ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
   PlainRdn rdn;
   while (ReadPlainRdn(rdns, &rdn) && IsIdentifier(rdn.type) &&
-         CheckString(rdn.value, leniency, nullptr)) {
+         CheckValue(rdn.value, leniency, nullptr)) {
     rdns = rdns.From(static_cast<size_t>(rdn.content.end() - rdns.data));
     ++*count;
   }
