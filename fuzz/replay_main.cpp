@@ -43,6 +43,7 @@ constexpr TargetRow kTargets[] = {
 
 // Longer samples are cut, and not spoiled as well.
 constexpr size_t kLongestToSpoil = 100;
+constexpr size_t kMadeUp = 500;
 
 class Replay {
  public:
@@ -55,6 +56,20 @@ class Replay {
     for (const fs::directory_entry& entry : fs::directory_iterator(directory)) {
       std::ifstream file(entry.path(), std::ios::binary);
       Run(entry.path(), std::string(std::istreambuf_iterator<char>(file), {}));
+    }
+  }
+
+  void RunMadeUp() {
+    uint32_t state = 2463534242;  // Marsaglia's xorshift
+    const auto next = [&state] {
+      state ^= state << 13;
+      state ^= state >> 17;
+      return state ^= state << 5;
+    };
+    for (size_t i = 0; i < kMadeUp; ++i) {
+      std::string octets(next() % 120, '\0');
+      for (char& octet : octets) octet = static_cast<char>(next() >> 11);
+      Run("made up", octets);
     }
   }
 
@@ -115,6 +130,7 @@ int main(int argc, char** argv) {
     replay.RunKept(fuzz / "corpus" / target.name);
     replay.RunKept(fuzz / "findings" / target.name);
     replay.RunSamples(argv[2]);
+    if (target.own.empty()) replay.RunMadeUp();
     std::printf("%s: %zu inputs\n", target.name.data(), replay.count());
     ++targets;
   }

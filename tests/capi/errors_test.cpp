@@ -7,7 +7,7 @@
 #include <thread>
 #include <tuple>
 
-#include "tests/capi/handles.h"
+#include "tests/support/handles.h"
 
 namespace Ortholan::testing {
 namespace {

@@ -6,7 +6,7 @@
 
 #include <cstring>
 
-#include "tests/capi/handles.h"
+#include "tests/support/handles.h"
 
 namespace Ortholan::testing {
 namespace {

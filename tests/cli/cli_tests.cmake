@@ -27,6 +27,7 @@ foreach(runner IN LISTS runners)
 endforeach()
 
 set(certificates "${CMAKE_CURRENT_SOURCE_DIR}/data/certificates")
+ortholan_cli_test(vectors python3 "${cli}/vectors_test.py" ${runs_x509name})
 ortholan_cli_test(json python3 "${cli}/json_test.py" "${certificates}" ${runs_x509name})
 if(NOT WIN32)
   # Wine's console is not the one of Windows.

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 #include <ortholan/cert_extension.h>
 
+#include <algorithm>
 #include <utility>
 
+#include "tests/support/calls.h"
 #include "tests/support/hex.h"
 
 namespace Ortholan::testing {
@@ -72,37 +74,6 @@ TEST(CertExtension, IsAValue) {
   const CERT_EXTENSION own = {reinterpret_cast<LPSTR>(a.oid.pbData), 1, a.value};
   a = own;
   EXPECT_EQ(Shown(a), "1.2.3 1 06 00");
-}
-
-TEST(CertExtension, Comparisons) {
-  enum : unsigned { kEqual = 1, kUnequal = 2, kLess = 4, kGreater = 8 };
-  const struct {
-    const char* label;
-    CertExtension a;
-    CertExtension b;
-    unsigned holds;
-  } kRows[] = {
-      {"equal", Make("1.2", 1, "05"), Make("1.2", 1, "05"), kEqual},
-      {"empty", CertExtension(), CertExtension(), kEqual},
-      {"other value", Make("1.2", 1, "05"), Make("1.2", 1, "06"), 0},
-      {"other flag", Make("1.2", 1, "05"), Make("1.2", 2, "05"), 0},
-      {"other identifier", Make("1.2", 1, "05"), Make("1.3", 1, "05"), 0},
-      {"all but the identifier", Make("1.2", 0, "05"), Make("1.2", 1, "06"), 0},
-      {"all but the flag", Make("1.2", 1, "05"), Make("1.3", 1, "06"), 0},
-      {"all but the value", Make("1.2", 0, "05"), Make("1.3", 1, "05"), 0},
-      {"all less", Make("1.2", 0, "05"), Make("1.3", 1, "06"), kUnequal | kLess},
-      {"all greater", Make("1.3", 1, "06"), Make("1.2", 0, "05"), kUnequal | kGreater},
-      {"mixed", Make("1.2", 1, "05"), Make("1.3", 0, "06"), kUnequal},
-      {"signed flag", Make("1.2", -1, "05"), Make("1.3", 0, "06"), kUnequal | kLess},
-      {"unsigned octets", Make("1.2", 0, "7F"), Make("1.3", 1, "80"), kUnequal | kLess},
-      {"shorter first", Make("9", 0, "FF"), Make("1.2", 1, "00 00"), kUnequal | kLess},
-      {"empty first", CertExtension(), Make("1", 1, "00"), kUnequal | kLess},
-  };
-  for (const auto& row : kRows) {
-    const unsigned holds = (row.a == row.b ? kEqual : 0u) | (row.a != row.b ? kUnequal : 0u) |
-                           (row.a < row.b ? kLess : 0u) | (row.a > row.b ? kGreater : 0u);
-    EXPECT_EQ(holds, row.holds) << row.label;
-  }
 }
 
 // The value after encoding `info`.
@@ -182,97 +153,85 @@ TEST(CertExtension, CodecFailuresLeaveEverythingAlone) {
   EXPECT_EQ(Shown(extension), "1.2 1 05 00");
 }
 
-// "1.2 0 05; 1.3 1 06; "
+// "1.2 0 05; 1.3 1 06"
 std::string Shown(const CertExtensionList& list) {
   std::string text;
-  for (const CertExtension& extension : list) text += Shown(extension) + "; ";
+  for (const CertExtension& extension : list) text += (text.empty() ? "" : "; ") + Shown(extension);
   return text;
 }
 
-CertExtensionList List(std::initializer_list<CertExtension> extensions) {
+// The extension of its text, which has two blanks.
+CertExtension Read(const std::string& text) {
+  const size_t flag = text.find(' ') + 1;
+  const size_t value = text.find(' ', flag) + 1;
+  return Make(text.substr(0, flag - 1).c_str(), std::stoi(text.substr(flag)),
+              text.substr(value).c_str());
+}
+
+CertExtensionList ReadList(const std::string& text) {
   CertExtensionList list;
-  for (const CertExtension& extension : extensions) list.push_back(extension);
+  for (size_t begin = 0, end; begin < text.size(); begin = end + 2) {
+    end = std::min(text.find("; ", begin), text.size());
+    list.push_back(Read(text.substr(begin, end - begin)));
+  }
   return list;
 }
 
-TEST(CertExtensionList, FindsByIdentifier) {
-  const CertExtensionList list =
-      List({Make("1.2", 1, "05"), Make("A", 2, "06"), Make("1.2", 3, "07"), Make("", 4, "08")});
-  const struct {
-    const char* label;
-    const char* oid;
-    bool found;
-    const char* shown;
-  } kRows[] = {
-      {"first of two", "1.2", true, "1.2 1 05"},
-      {"letters", "A", true, "A 2 06"},
-      {"case", "a", false, " 9 FF"},
-      {"longer", "1.2.3", false, " 9 FF"},
-      {"shorter", "1.", false, " 9 FF"},
-      {"empty", "", true, " 4 08"},
+std::string Compared(const VectorRow& row) {
+  const CertExtension a = Read(row.text("in"));
+  const CertExtension b = Read(row.text("arg"));
+  std::string holds;
+  const auto note = [&holds](bool does, const char* name) {
+    if (does) holds += (holds.empty() ? "" : " ") + std::string(name);
   };
-  for (const auto& row : kRows) {
-    CertExtension out = Make("9.9", 9, "FF");
-    EXPECT_EQ(list.FindExtension(row.oid, out), row.found) << row.label;
-    EXPECT_EQ(Shown(out), row.shown) << row.label;
-  }
+  note(a == b, "==");
+  note(a != b, "!=");
+  note(a < b, "<");
+  note(a > b, ">");
+  return holds;
+}
+
+std::string Found(const VectorRow& row) {
   CertExtension out = Make("9.9", 9, "FF");
-  EXPECT_FALSE(CertExtensionList().FindExtension("", out));
-  EXPECT_EQ(Shown(out), " 9 FF");
+  const bool found = ReadList(row.text("in")).FindExtension(row.text("arg").c_str(), out);
+  return (found ? "found " : "") + Shown(out);
 }
 
-TEST(CertExtensionList, FindsIntoAnElementOfItsOwn) {
-  CertExtensionList list = List({Make("1.2", 1, "05"), Make("1.3", 2, "06")});
+std::string Updated(const VectorRow& row) {
+  CertExtensionList list = ReadList(row.text("in"));
+  const bool changed = list.Update(Read(row.text("arg")));
+  return (changed ? "changed: " : "same: ") + Shown(list);
+}
+
+std::string Merged(const VectorRow& row) {
+  CertExtensionList list = ReadList(row.text("in"));
+  list.MergeLists(ReadList(row.text("arg")));
+  return Shown(list);
+}
+
+TEST(ExtensionValues, Answer) {
+  RunCalls("extension_values.tsv",
+           {{"compare", Compared}, {"find", Found}, {"update", Updated}, {"merge", Merged}});
+}
+
+TEST(CertExtensionList, TakesItselfAndItsElements) {
+  CertExtensionList list = ReadList("1.2 1 05; 1.3 2 06");
   EXPECT_TRUE(list.FindExtension("1.2", list.front()));
-  EXPECT_EQ(Shown(list), "1.2 1 05; 1.3 2 06; ");
+  EXPECT_EQ(Shown(list), "1.2 1 05; 1.3 2 06");
   EXPECT_TRUE(list.FindExtension("1.2", list.back()));
-  EXPECT_EQ(Shown(list), "1.2 1 05; 1.2 1 05; ");
+  EXPECT_EQ(Shown(list), "1.2 1 05; 1.2 1 05");
   EXPECT_FALSE(list.FindExtension("1.3", list.back()));
-  EXPECT_EQ(Shown(list), "1.2 1 05;  1 05; ");
-}
+  EXPECT_EQ(Shown(list), "1.2 1 05;  1 05");
 
-TEST(CertExtensionList, UpdateReplacesOrAppends) {
-  CertExtensionList list = List({Make("1.2", 1, "05"), Make("1.3", 0, "06"), Make("1.2", 0, "07")});
-  const struct {
-    const char* label;
-    CertExtension extension;
-    bool changed;
-    const char* shown;
-  } kSteps[] = {
-      {"same", Make("1.2", 1, "05"), false, "1.2 1 05; 1.3 0 06; 1.2 0 07; "},
-      {"value", Make("1.3", 0, "09"), true, "1.2 1 05; 1.3 0 09; 1.2 0 07; "},
-      {"flag of the first", Make("1.2", 2, "05"), true, "1.2 2 05; 1.3 0 09; 1.2 0 07; "},
-      {"new", Make("1.4", 0, ""), true, "1.2 2 05; 1.3 0 09; 1.2 0 07; 1.4 0 ; "},
-      {"new no more", Make("1.4", 0, ""), false, "1.2 2 05; 1.3 0 09; 1.2 0 07; 1.4 0 ; "},
-      {"empty", CertExtension(), true, "1.2 2 05; 1.3 0 09; 1.2 0 07; 1.4 0 ;  0 ; "},
-  };
-  for (const auto& step : kSteps) {
-    EXPECT_EQ(list.Update(step.extension), step.changed) << step.label;
-    EXPECT_EQ(Shown(list), step.shown) << step.label;
-  }
-  const CertExtension& second = *std::next(list.begin(), 2);
-  EXPECT_TRUE(list.Update(second)) << "an element of the list itself";
-  EXPECT_EQ(Shown(list), "1.2 0 07; 1.3 0 09; 1.2 0 07; 1.4 0 ;  0 ; ");
-}
-
-TEST(CertExtensionList, Merges) {
-  CertExtensionList list = List({Make("1.2", 1, "05"), Make("1.3", 0, "06")});
-  list.MergeLists(List({Make("1.4", 0, "07"), Make("1.2", 0, "08"), Make("1.4", 1, "09")}));
-  EXPECT_EQ(Shown(list), "1.2 0 08; 1.3 0 06; 1.4 1 09; ");
-  list.MergeLists(CertExtensionList());
-  EXPECT_EQ(Shown(list), "1.2 0 08; 1.3 0 06; 1.4 1 09; ");
-
-  CertExtensionList twice = List({Make("1.2", 1, "05"), Make("1.2", 0, "06")});
-  CertExtensionList& same = twice;
-  twice.MergeLists(same);
-  EXPECT_EQ(Shown(twice), "1.2 1 05; 1.2 0 06; ");
-  same = twice;
-  EXPECT_EQ(Shown(CertExtensionList(twice)), "1.2 1 05; 1.2 0 06; ");
-}
-
-TEST(CertExtensionList, ObjectSize) {
+  list = ReadList("1.2 2 05; 1.3 0 09; 1.2 0 07");
+  EXPECT_TRUE(list.Update(list.back()));
+  EXPECT_EQ(Shown(list), "1.2 0 07; 1.3 0 09; 1.2 0 07");
+  CertExtensionList& same = list;
+  list.MergeLists(same);
+  same = list;
+  EXPECT_EQ(Shown(CertExtensionList(list)), "1.2 0 07; 1.3 0 09; 1.2 0 07");
   EXPECT_EQ(CertExtensionList().GetObjectSize(), 4u);
-  EXPECT_EQ(List({Make("1.2", 1, "05 00"), CertExtension()}).GetObjectSize(), 4u + 17 + 12);
+  EXPECT_EQ(ReadList("1.2 1 05 00;  0 ").GetObjectSize(), 4u + 17 + 12);
 }
 
 }  // namespace

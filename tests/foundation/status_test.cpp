@@ -2,12 +2,9 @@
 #include <ortholan/status.h>
 
 #include <sstream>
-#include <stdexcept>
 #include <string>
-#include <thread>
 
 #include "foundation/status_code.h"
-#include "foundation/untyped_failure.h"
 #include "tests/support/thrown.h"
 
 namespace Ortholan::testing {
@@ -40,38 +37,6 @@ TEST(Fault, IsReportedThrownOrMadeALastError) {
   EXPECT_EQ(Thrown([] { ThrowNoMemory(); }), "16");
   EXPECT_FALSE(FailWith(Status::kCorrupt));
   EXPECT_EQ(GetLastError(), 0x80093103u);
-}
-
-// The handler that catches the failure and the last error seen there, "..., 1358".
-std::string Caught() {
-  try {
-    const std::string unwound(100, 'x');
-    ThrowUntyped(1358);
-  } catch (const std::exception&) {
-    return "std::exception";
-  } catch (const XZEPBaseMsg&) {
-    return "XZEPBaseMsg";
-  } catch (...) {
-    return "..., " + std::to_string(GetLastError());
-  }
-}
-
-// A thread's first throw sets up the runtime's state; the code must survive that.
-TEST(UntypedFailure, FitsOnlyTheCatchAllOnAFreshThread) {
-  std::string first;
-  std::thread fresh([&] { first = Caught(); });
-  fresh.join();
-  EXPECT_EQ(first, "..., 1358");
-}
-
-// It is an exception of its own, not the one that the caller is handling.
-TEST(UntypedFailure, LeavesTheCallersExceptionAlone) {
-  try {
-    throw std::runtime_error("the caller's");
-  } catch (const std::runtime_error&) {
-    EXPECT_EQ(Caught(), "..., 1358");
-    EXPECT_THROW(throw, std::runtime_error);
-  }
 }
 
 // Checks some rows ("from=to"), and that no more codes than `count` have an answer of their own.

@@ -82,51 +82,13 @@ TEST(CZEPString, Appends) {
   EXPECT_LT(moves, 100);
 }
 
-TEST(CZEPString, Compares) {
-  const struct {
-    const char* a;
-    const char* b;
-    int plain;
-    int ignoringCase;
-    bool less;
-  } kRows[] = {
-      {"", "", 0, 0, false},          {"", "a", -1, -1, false},    {"abc", "abc", 0, 0, false},
-      {"ABC", "abc", -1, 0, true},    {"ab", "abc", -1, -1, true}, {"a\x7F", "a\x80", -1, -1, true},
-      {"A", "_", -1, 1, true},         // letters fold downwards, past the underscore
-      {"\xC0", "\xE0", -1, -1, true},  // letters in many code pages, none in ASCII
-  };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(std::string(row.a) + " and " + row.b);
-    const CZEPString a(row.a);
-    const CZEPString b(row.b);
-    // The programs of the tests stay in the "C" locale.
-    for (const bool locale : {false, true}) {
-      EXPECT_EQ(a.Compare(b, false, locale), row.plain);
-      EXPECT_EQ(b.Compare(a, false, locale), -row.plain);
-      EXPECT_EQ(a.Compare(b, true, locale), row.ignoringCase);
-      EXPECT_EQ(b.Compare(a, true, locale), -row.ignoringCase);
-    }
-    EXPECT_EQ(a < b, row.less);
-    EXPECT_EQ(b > a, row.less);
-    EXPECT_FALSE(b < a || a > b);
-    EXPECT_EQ(a == b, row.plain == 0);
-    EXPECT_EQ(a != b, row.plain != 0);
-  }
-}
-
-TEST(CZEPString, Formats) {
+// Formats and comparisons are the fuzz target's; here what it does not reach.
+TEST(CZEPString, FormatsLongTexts) {
   CZEPString text('o');
-  text.Format("%s|%5d|%-3u|%04lx|%c|%*.*f|%%", "ab", -12, 7u, 0xABCul, 'z', 6, 2, 1.5);
-  EXPECT_EQ(Text(text), "ab|  -12|7  |0abc|z|  1.50|%");
+  text.Format("%s|%04lx|%*.*f|%%", "ab", 0xABCul, 6, 2, 1.5);
+  EXPECT_EQ(Text(text), "ab|0abc|  1.50|%");
   text.Format("%070000d", 5);
   EXPECT_EQ(Text(text), std::string(69999, '0') + "5");
-  text.Format("%d", 5);
-  const CZEPString copy = text;
-  text.Format("%s%s", text.c_str(), text.c_str());
-  EXPECT_EQ(Text(text), "55");
-  text.Format("%s", "");
-  EXPECT_EQ(Text(text), "");
-  EXPECT_EQ(Text(copy), "5");
 }
 
 }  // namespace

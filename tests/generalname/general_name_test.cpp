@@ -56,9 +56,10 @@ TEST(GeneralName, IsReadFromItsEncoding) {
     GeneralName name;
     const std::string thrown =
         Thrown([&] { name = GeneralName::DerDecode(ExactCopy(row.octets("der"))); });
-    EXPECT_EQ(thrown == "0", row.text("code") != "DER");
+    EXPECT_EQ(thrown == "0", row.has("tag"));
     if (thrown != "0") continue;
     EXPECT_EQ(name.GetTag(), row.number("tag"));
+    if (row.text("code") == "DER") continue;  // it is kept with whatever follows the header
     std::wstring text;
     EXPECT_EQ(Thrown([&] { text = name.ToString(0, 0); }) == "0", !row.has("code"));
     EXPECT_EQ(Hex(text), Hex(row.wide("text")));

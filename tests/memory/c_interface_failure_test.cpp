@@ -5,8 +5,8 @@
 
 #include <functional>
 
-#include "tests/capi/handles.h"
 #include "tests/memory/counting_new.h"
+#include "tests/support/handles.h"
 
 namespace Ortholan::testing {
 namespace {

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <string>
 
+#include "tests/differential/differences.h"
 #include "tests/differential/samples.h"
 #include "tests/support/hex.h"
 
@@ -19,31 +20,61 @@ struct Crafted {
   const char* octets;
 };
 
-// How many records both sides read: whole ones, and spoiled copies of those of the file.
-struct Agreed {
-  size_t whole = 0;
-  size_t spoiled = 0;
-};
+// Reads every record by both sides: what both take has to be the same, what one refuses needs a
+// rule. A Case is made from octets and tells `theirs.value`, null where the other side refuses, and
+// `taken()` for this one.
+template <class Case>
+class Comparison {
+ public:
+  template <size_t M, size_t N>
+  Comparison(const Rule<Case> (&they_refuse)[M], const Rule<Case> (&we_refuse)[N])
+      : they_refuse_(they_refuse), we_refuse_(we_refuse) {}
 
-// Calls `compare`, which adds to the count that it is given, with each record.
-template <size_t N, class Compare>
-Agreed CompareEverySample(const char* file, size_t mutations, const Crafted (&crafted)[N],
-                          Compare compare) {
-  Agreed agreed;
-  for (const std::string& octets : Samples(file)) {
-    SCOPED_TRACE(Hex(octets));
-    compare(octets, &agreed.whole);
-    ForEachMutation(octets, mutations, [&](const std::string& mutation) {
-      SCOPED_TRACE("spoiled: " + Hex(mutation));
-      compare(mutation, &agreed.spoiled);
-    });
+  // Expects at least so many records that both sides read: whole ones, and spoiled copies of those
+  // of the file.
+  template <size_t N, class Same>
+  void Run(const char* file, const Crafted (&crafted)[N], size_t whole, size_t spoiled, Same same) {
+    constexpr size_t kMutations = 400;
+    size_t spoiled_alike = 0;
+    size_t alike = 0;
+    for (const std::string& octets : Samples(file)) {
+      SCOPED_TRACE(Hex(octets));
+      alike += Compare(octets, same);
+      ForEachMutation(octets, kMutations, [&](const std::string& mutation) {
+        SCOPED_TRACE("spoiled: " + Hex(mutation));
+        spoiled_alike += Compare(mutation, same);
+      });
+    }
+    for (const Crafted& record : crafted) {
+      SCOPED_TRACE(record.label);
+      Compare(Octets(record.octets), same);
+    }
+    EXPECT_GT(alike, whole);
+    EXPECT_GT(spoiled_alike, spoiled);
+    they_refuse_.ExpectEachApplied();
+    we_refuse_.ExpectEachApplied();
   }
-  for (const Crafted& record : crafted) {
-    SCOPED_TRACE(record.label);
-    compare(Octets(record.octets), &agreed.whole);
+
+ private:
+  template <class Same>
+  size_t Compare(const std::string& octets, Same same) {
+    const Case record(octets);
+    const bool accepted = record.theirs.value != nullptr;
+    if (accepted && record.taken()) {
+      same(record);
+      return 1;
+    }
+    if (accepted) {
+      EXPECT_TRUE(we_refuse_.Explain(record)) << "refused here alone";
+    } else if (record.taken()) {
+      EXPECT_TRUE(they_refuse_.Explain(record)) << record.theirs.reason;
+    }
+    return 0;
   }
-  return agreed;
-}
+
+  Differences<Case> they_refuse_;
+  Differences<Case> we_refuse_;
+};
 
 }  // namespace Ortholan::testing
 

@@ -18,8 +18,6 @@ namespace {
 
 using openssl::Part;
 
-constexpr size_t kMutations = 400;
-
 // One record in both readings.
 struct Case {
   explicit Case(const std::string& record)
@@ -28,16 +26,16 @@ struct Case {
       if (part.depth == 1) children.push_back(part);
     }
     const IdentObj copy = ExactCopy(record);
-    size = ours.ReadData(copy.pbData, copy.cbData, &error);
+    size = ours.ReadData(copy.pbData, copy.cbData, nullptr);
   }
 
+  bool taken() const { return size != 0; }
   bool IsRefusedFor(int reason) const { return theirs.reason == reason; }
   std::string octets;
   openssl::Read<X509_EXTENSION> theirs;
   std::vector<Part> children;
   CertExtension ours;
   DWORD size = 0;
-  int error = 0;
 };
 
 const Rule<Case> kTheyRefuse[] = {
@@ -90,16 +88,6 @@ constexpr Crafted kCrafted[] = {
     {"BOOLEAN of no octet", "30 08 06 01 2A 01 00 04 01 00"},
 };
 
-class ExtensionsByOpenssl : public ::testing::Test {
- protected:
-  void ExpectSame(const Case& record);
-  void Compare(const std::string& octets, size_t* agreed);
-
-  Differences<Case> they_refuse_{kTheyRefuse};
-  Differences<Case> we_refuse_{kWeRefuse};
-  Differences<Case> answers_differ_{kAnswersDiffer};
-};
-
 std::string Shown(const std::string& oid, bool critical, std::string_view value) {
   return oid + (critical ? " critical " : " ") + Hex(value);
 }
@@ -111,14 +99,14 @@ std::string Shown(const X509_EXTENSION* extension) {
                openssl::Content(X509_EXTENSION_get_data(theirs)));
 }
 
-void ExtensionsByOpenssl::ExpectSame(const Case& record) {
+void ExpectSame(const Case& record, Differences<Case>* answers_differ) {
   const CertExtension& ours = record.ours;
   const std::string shown =
       Shown(std::string(AsText(ours.oid)), ours.critical != 0, AsText(ours.value));
   const std::string theirs = Shown(record.theirs.value.get());
   EXPECT_EQ(record.size, record.theirs.size);
   if (shown != theirs) {
-    EXPECT_TRUE(answers_differ_.Explain(record)) << shown << "\nfor " << theirs;
+    EXPECT_TRUE(answers_differ->Explain(record)) << shown << "\nfor " << theirs;
     return;
   }
   CertExtension copy(ours);
@@ -130,28 +118,12 @@ void ExtensionsByOpenssl::ExpectSame(const Case& record) {
   EXPECT_EQ(Shown(read.value.get()), theirs);
 }
 
-void ExtensionsByOpenssl::Compare(const std::string& octets, size_t* agreed) {
-  const Case record(octets);
-  const bool accepted = record.theirs.value != nullptr;
-  if (accepted && record.size != 0) {
-    ExpectSame(record);
-    ++*agreed;
-  } else if (accepted) {
-    EXPECT_TRUE(we_refuse_.Explain(record)) << "refused with " << record.error;
-  } else if (record.size != 0) {
-    EXPECT_TRUE(they_refuse_.Explain(record)) << "OpenSSL refuses for " << record.theirs.reason;
-  }
-}
-
-TEST_F(ExtensionsByOpenssl, AreReadAlike) {
-  const Agreed agreed = CompareEverySample(
-      "extensions.txt", kMutations, kCrafted,
-      [this](const std::string& octets, size_t* count) { Compare(octets, count); });
-  EXPECT_GT(agreed.whole, 25u);
-  EXPECT_GT(agreed.spoiled, 2000u);
-  they_refuse_.ExpectEachApplied();
-  we_refuse_.ExpectEachApplied();
-  answers_differ_.ExpectEachApplied();
+TEST(ExtensionsByOpenssl, AreReadAlike) {
+  Differences<Case> answers_differ(kAnswersDiffer);
+  Comparison<Case>(kTheyRefuse, kWeRefuse)
+      .Run("extensions.txt", kCrafted, 25, 2000,
+           [&](const Case& record) { ExpectSame(record, &answers_differ); });
+  answers_differ.ExpectEachApplied();
 }
 
 }  // namespace

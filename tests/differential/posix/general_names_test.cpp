@@ -17,8 +17,6 @@
 namespace Ortholan::testing {
 namespace {
 
-constexpr size_t kMutations = 400;
-
 // One general name in both readings.
 struct Case {
   explicit Case(const std::string& name) : octets(name), theirs(openssl::ReadGeneralName(name)) {
@@ -32,6 +30,7 @@ struct Case {
     content.assign(start, std::min<size_t>(info.length, static_cast<size_t>(end - start)));
   }
 
+  bool taken() const { return failure == "0"; }
   bool IsRefusedFor(int reason) const { return theirs.reason == reason; }
   unsigned Identifier() const { return static_cast<unsigned char>(octets[0]); }
   unsigned Number() const { return Identifier() & 0x1F; }
@@ -190,16 +189,6 @@ constexpr Crafted kCrafted[] = {
     {"registered identifier 2.999", "88 02 88 37"},
 };
 
-class GeneralNamesByOpenssl : public ::testing::Test {
- protected:
-  void ExpectSame(const Case& name);
-  void Compare(const std::string& octets, size_t* agreed);
-
-  Differences<Case> they_refuse_{kTheyRefuse};
-  Differences<Case> we_refuse_{kWeRefuse};
-  Differences<Case> values_differ_{kValuesDiffer};
-};
-
 // What a decoded name is encoded to differs in the identifier alone, which is constructed.
 void ExpectSameEncoding(const Case& name) {
   const bool constructed = (name.Identifier() & 0x20) != 0;
@@ -211,34 +200,15 @@ void ExpectSameEncoding(const Case& name) {
   EXPECT_EQ(GENERAL_NAME_cmp(read.value.get(), name.theirs.value.get()), 0);
 }
 
-void GeneralNamesByOpenssl::ExpectSame(const Case& name) {
-  EXPECT_EQ(static_cast<int>(name.ours.GetTag()), name.theirs.value->type);
-  EXPECT_TRUE(HasSameValue(name) || values_differ_.Explain(name)) << Hex(name.text);
-  ExpectSameEncoding(name);
-}
-
-void GeneralNamesByOpenssl::Compare(const std::string& octets, size_t* agreed) {
-  const Case name(octets);
-  const bool accepted = name.theirs.value != nullptr;
-  if (accepted && name.failure == "0") {
-    ExpectSame(name);
-    ++*agreed;
-  } else if (accepted) {
-    EXPECT_TRUE(we_refuse_.Explain(name)) << "refused with " << name.failure;
-  } else if (name.failure == "0") {
-    EXPECT_TRUE(they_refuse_.Explain(name)) << "OpenSSL refuses for " << name.theirs.reason;
-  }
-}
-
-TEST_F(GeneralNamesByOpenssl, AreReadAlike) {
-  const Agreed agreed = CompareEverySample(
-      "general-names.txt", kMutations, kCrafted,
-      [this](const std::string& octets, size_t* count) { Compare(octets, count); });
-  EXPECT_GT(agreed.whole, 30u);
-  EXPECT_GT(agreed.spoiled, 2000u);
-  they_refuse_.ExpectEachApplied();
-  we_refuse_.ExpectEachApplied();
-  values_differ_.ExpectEachApplied();
+TEST(GeneralNamesByOpenssl, AreReadAlike) {
+  Differences<Case> values_differ(kValuesDiffer);
+  Comparison<Case>(kTheyRefuse, kWeRefuse)
+      .Run("general-names.txt", kCrafted, 30, 2000, [&](const Case& name) {
+        EXPECT_EQ(static_cast<int>(name.ours.GetTag()), name.theirs.value->type);
+        EXPECT_TRUE(HasSameValue(name) || values_differ.Explain(name)) << Hex(name.text);
+        ExpectSameEncoding(name);
+      });
+  values_differ.ExpectEachApplied();
 }
 
 }  // namespace

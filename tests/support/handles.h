@@ -1,6 +1,6 @@
 // Handles of the C interface that release themselves, and what its functions give out as text.
-#ifndef ORTHOLAN_TESTS_CAPI_HANDLES_H_
-#define ORTHOLAN_TESTS_CAPI_HANDLES_H_
+#ifndef ORTHOLAN_TESTS_SUPPORT_HANDLES_H_
+#define ORTHOLAN_TESTS_SUPPORT_HANDLES_H_
 
 #include <ortholan/ortholan_c.h>
 
@@ -58,4 +58,4 @@ std::string Given(ortholan_result* result, const Function& function) {
 
 }  // namespace Ortholan::testing
 
-#endif  // ORTHOLAN_TESTS_CAPI_HANDLES_H_
+#endif  // ORTHOLAN_TESTS_SUPPORT_HANDLES_H_
