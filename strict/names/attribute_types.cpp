@@ -231,7 +231,8 @@ const AttributeType* Find(const Slots<kSize>& slots, uint32_t hash, Matches matc
 }  // namespace
 
 const AttributeType* FindTypeByName(std::string_view name) {
-  return Find(kNames, Hash(name), [name](const AttributeType& type) { return HasName(type, name); });
+  return Find(kNames, Hash(name),
+              [name](const AttributeType& type) { return HasName(type, name); });
 }
 
 const AttributeType* FindType(ByteView oid) {

@@ -1,6 +1,6 @@
-// Name constraints with a verdict and its reasons (RFC 5280 4.2.1.10 and 6.1): may the authorities of
-// a chain name what its certificates name? Signatures, times, usages and chain building are somebody
-// else's.
+// Name constraints with a verdict and its reasons (RFC 5280 4.2.1.10 and 6.1): may the authorities
+// of a chain name what its certificates name? Signatures, times, usages and chain building are
+// somebody else's.
 //
 //   ortholan_octets chain[] = {leaf, intermediate, root};
 //   ortholan_finding finding;
@@ -34,10 +34,12 @@ enum {
   ORTHOLAN_REASON_SUBTREE_EMPTY = 305,
   // A URI without a host name: none, an address, or one that is no host name.
   ORTHOLAN_REASON_URI_WITHOUT_HOST = 306,
-  // One local part is quoted, the other is not or is quoted otherwise: the same mailbox may be meant
+  // One local part is quoted, the other is not or is quoted otherwise: the same mailbox may be
+  // meant
   // (RFC 5321 4.1.2).
   ORTHOLAN_REASON_MAILBOX_QUOTED = 307,
-  // An e-mail attribute of the subject whose local part differs in letter case alone: 4.1.2.6 ignores
+  // An e-mail attribute of the subject whose local part differs in letter case alone: 4.1.2.6
+  // ignores
   // case, 7.5 does not.
   ORTHOLAN_REASON_MAILBOX_CASE = 308,
   // A mailbox at an address in brackets, against a subtree of hosts.
@@ -56,9 +58,9 @@ enum {
 
 // Where a name of a finding stands in its certificate.
 enum {
-  ORTHOLAN_NAME_NONE = 0,       // the finding is about the constraints themselves
-  ORTHOLAN_NAME_SUBJECT = 1,    // `name` is the encoding of the subject
-  ORTHOLAN_NAME_EMAIL = 2,      // `name` is the value of an e-mail attribute of the subject
+  ORTHOLAN_NAME_NONE = 0,        // the finding is about the constraints themselves
+  ORTHOLAN_NAME_SUBJECT = 1,     // `name` is the encoding of the subject
+  ORTHOLAN_NAME_EMAIL = 2,       // `name` is the value of an e-mail attribute of the subject
   ORTHOLAN_NAME_ALTERNATIVE = 3  // `name` is a GeneralName of the alternative names
 };
 
@@ -66,13 +68,14 @@ enum {
 typedef struct ortholan_finding {
   ortholan_reason reason;
   ortholan_verdict verdict;  // ORTHOLAN_VERDICT_NO or ORTHOLAN_VERDICT_CANNOT_TELL
-  size_t certificate;   // index of the certificate whose name it is, 0 for the leaf
-  size_t authority;     // index of the certificate whose constraints decide
-  int32_t place;        // an ORTHOLAN_NAME_ word
+  size_t certificate;        // index of the certificate whose name it is, 0 for the leaf
+  size_t authority;          // index of the certificate whose constraints decide
+  int32_t place;             // an ORTHOLAN_NAME_ word
   ortholan_octets name;
-  ortholan_octets subtree;  // GeneralName that is the base of the subtree; of the first permitted one
-                            // where none of several holds the name; no octets where none decides
-  size_t subtree_count;     // how many subtrees of the name's form were looked at
+  ortholan_octets
+      subtree;           // GeneralName that is the base of the subtree; of the first permitted one
+                         // where none of several holds the name; no octets where none decides
+  size_t subtree_count;  // how many subtrees of the name's form were looked at
 } ortholan_finding;
 
 // What may be chosen; NULL stands for zeros.
@@ -85,7 +88,8 @@ typedef struct ortholan_permit_options {
 
 // Holds the names of each certificate of a chain against the constraints of those above it.
 //   chain    certificates in DER, from the leaf up to the authority whose constraints count first
-//   verdict  ORTHOLAN_VERDICT_NO as soon as one name is excluded or not permitted, CANNOT_TELL where
+//   verdict  ORTHOLAN_VERDICT_NO as soon as one name is excluded or not permitted, CANNOT_TELL
+//   where
 //            something cannot be decided, else YES
 //   findings room for `room` reasons, those of the verdict's kind before others, each kind in the
 //            order of authorities, certificates and names; may be NULL
@@ -93,18 +97,16 @@ typedef struct ortholan_permit_options {
 // Refuses ARGUMENT and MEMORY alone: what cannot be read is a finding.
 ORTHOLAN_EXPORT ortholan_reason ortholan_permits(const ortholan_octets* chain, size_t chain_size,
                                                  const ortholan_permit_options* options,
-                                                 ortholan_verdict* verdict, ortholan_finding* findings,
-                                                 size_t room, size_t* count);
+                                                 ortholan_verdict* verdict,
+                                                 ortholan_finding* findings, size_t room,
+                                                 size_t* count);
 // The same for loose parts: the value of one NameConstraints extension against one certificate's
 // subject (a Name) and the value of its SubjectAltName extension. Subject and alternative names may
 // be without octets. In findings the certificate is 0 and the authority 1.
-ORTHOLAN_EXPORT ortholan_reason ortholan_permits_names(ortholan_octets constraints,
-                                                       ortholan_octets subject,
-                                                       ortholan_octets alternative_names,
-                                                       const ortholan_permit_options* options,
-                                                       ortholan_verdict* verdict,
-                                                       ortholan_finding* findings, size_t room,
-                                                       size_t* count);
+ORTHOLAN_EXPORT ortholan_reason ortholan_permits_names(
+    ortholan_octets constraints, ortholan_octets subject, ortholan_octets alternative_names,
+    const ortholan_permit_options* options, ortholan_verdict* verdict, ortholan_finding* findings,
+    size_t room, size_t* count);
 // One English sentence without a full stop; certificates are counted from 1, the leaf.
 ORTHOLAN_EXPORT ortholan_reason ortholan_finding_sentence(const ortholan_finding* finding,
                                                           char* out, size_t room, size_t* size);
