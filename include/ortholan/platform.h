@@ -614,6 +614,7 @@ inline constexpr char szOID_TLS_FEATURES_EXT[] = "1.3.6.1.5.5.7.1.24";
 inline constexpr char szOID_PKIX_POLICY_QUALIFIER_USERNOTICE[] = "1.3.6.1.5.5.7.2.2";
 inline constexpr char szOID_CERT_EXTENSIONS[] = "1.3.6.1.4.1.311.2.1.14";
 inline constexpr char szOID_RSA_certExtensions[] = "1.2.840.113549.1.9.14";
+inline constexpr char szOID_RSA_SMIMECapabilities[] = "1.2.840.113549.1.9.15";
 inline constexpr char szOID_NEXT_UPDATE_LOCATION[] = "1.3.6.1.4.1.311.10.2";
 inline constexpr char szOID_CROSS_CERT_DIST_POINTS[] = "1.3.6.1.4.1.311.10.9.1";
 inline constexpr char szOID_ENROLL_CERTTYPE_EXTENSION[] = "1.3.6.1.4.1.311.20.2";

@@ -242,7 +242,7 @@ constexpr Field kTemplate = Sequence(kTemplateMembers);
 constexpr Field kBits = Bits(0);
 constexpr Field kOctets = Octets(0);
 constexpr Field kInteger = Signed(0);
-constexpr Field kEnumerated = Tagged(kTagEnumerated, Signed(0));
+constexpr Field kEnumerated = Tagged(kTagEnumerated, Unsigned(0));
 constexpr Field kNumber = Number(0);
 constexpr Field kNatural = Natural(0);
 constexpr Field kUtcTime = Value(kUtcTimeKind, 0);
@@ -328,6 +328,7 @@ constexpr ExtensionRow kExtensionRows[] = {
     {szOID_PKIX_POLICY_QUALIFIER_USERNOTICE, 46},
     {szOID_CERT_EXTENSIONS, 5},
     {szOID_RSA_certExtensions, 5},
+    {szOID_RSA_SMIMECapabilities, 42},
     {szOID_NEXT_UPDATE_LOCATION, 12},
     {szOID_CROSS_CERT_DIST_POINTS, 58},
     {szOID_ENROLL_CERTTYPE_EXTENSION, 24},
