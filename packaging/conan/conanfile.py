@@ -27,10 +27,8 @@ class OrtholanConan(ConanFile):
 
     def export_sources(self):
         root = os.path.join(self.recipe_folder, "..", "..")
-        for pattern in ("CMakeLists.txt", "LICENSE", "*.md", "abi/*", "capi/*", "cmake/*", "debug/*",
-                        "docs/*", "extensions/*", "foundation/*", "generalname/*", "include/*",
-                        "names/*", "platform/*"):
-            copy(self, pattern, root, self.export_sources_folder, excludes=("build/*", ".git/*"))
+        copy(self, "*", root, self.export_sources_folder,
+             excludes=("build/*", ".git/*", "bench/*", "examples/*", "fuzz/*", "tests/*"))
 
     def layout(self):
         cmake_layout(self)
