@@ -5,10 +5,10 @@
 
 #include <algorithm>
 #include <optional>
+#include <ortholan/strict.hpp>
 #include <string>
 #include <vector>
 
-#include "examples/ip_text.h"
 #include "examples/name_text.h"
 #include "examples/oid_names.h"
 #include "examples/text.h"
@@ -23,10 +23,11 @@ using Reading = std::optional<std::string>;
 
 Reading Characters(std::string_view content) { return StringText(kIa5String, content); }
 
+// With its mask behind it where it is a range (RFC 5280 4.2.1.10).
 Reading Address(std::string_view content) {
-  std::string text = IpText(content);
-  if (text.empty()) return std::nullopt;
-  return text;
+  const ortholan::Result<std::string> text = ortholan::AddressToText(content);
+  if (!text) return std::nullopt;
+  return *text;
 }
 
 Reading Identifier(std::string_view content) {

@@ -112,7 +112,8 @@ void FailToDecode(DWORD code, const IdentObj& name, const char* role) {
   const NameText text = ReadNameText(name);
   if (code == ERROR_SUCCESS) code = text.code;
   if (code != ERROR_SUCCESS) Fail(code, what);
-  Refuse(text.reason.empty() ? what : what + ": " + text.reason);
+  const char* const advice = text.isMultiValued ? "; `x509name decode --rfc4514` takes it" : "";
+  Refuse(text.reason.empty() ? what : what + ": " + text.reason + advice);
 }
 
 }  // namespace Example

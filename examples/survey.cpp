@@ -18,6 +18,7 @@
 #include "examples/document_file.h"
 #include "examples/failure.h"
 #include "examples/input.h"
+#include "examples/kinds.h"
 #include "examples/name_text.h"
 #include "examples/progress.h"
 #include "examples/text.h"
@@ -117,6 +118,9 @@ void Survey::CountName(const IdentObj& name) {
 }
 
 void Survey::CountCertificate(std::string_view der) {
+  const Kind kind = KindOf(der);
+  // Requests and revocation lists are left out.
+  if (kind == Kind::kRequest || kind == Kind::kRevocationList) return;
   std::vector<std::string_view> names;
   try {
     names = ReadCertificateNames(der);
