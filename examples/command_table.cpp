@@ -12,9 +12,10 @@ namespace Example {
 
 const std::vector<const Command*>& AllCommands() {
   static const std::vector<const Command*> all = {
-      &kEncodeCommand, &kDecodeCommand, &kPairsCommand,     &kGetCommand,
-      &kSetCommand,    &kEqualCommand,  &kIdentifyCommand,  &kPermittedCommand,
-      &kShowCommand,   &kSurveyCommand, &kExtensionCommand, &kGeneralNameCommand,
+      &kEncodeCommand,    &kDecodeCommand,      &kPairsCommand,  &kGetCommand,
+      &kSetCommand,       &kEqualCommand,       &kWithinCommand, &kKeyCommand,
+      &kIdentifyCommand,  &kPermittedCommand,   &kShowCommand,   &kSurveyCommand,
+      &kExtensionCommand, &kGeneralNameCommand,
   };
   return all;
 }

@@ -24,6 +24,10 @@ extern const Command kSurveyCommand;
 extern const Command kExtensionCommand;
 extern const Command kGeneralNameCommand;
 
+// strict_matching.cpp
+extern const Command kWithinCommand;
+extern const Command kKeyCommand;
+
 // strict_constraints.cpp
 extern const Command kPermittedCommand;
 // strict_identity.cpp

@@ -18,6 +18,7 @@
 #include "examples/lines.h"
 #include "examples/name_options.h"
 #include "examples/name_text.h"
+#include "examples/strict_matching.h"
 #include "examples/strict_names.h"
 #include "examples/text.h"
 #include "examples/text_failure.h"
@@ -147,6 +148,7 @@ X509Name ReadName(const std::string& argument, const char* what) {
 }
 
 int RunEqual(const Arguments& arguments) {
+  RequireRfc5280(arguments);
   const X509Name first = ReadName(arguments.operands[0], "the first name");
   const X509Name second = ReadName(arguments.operands[1], "the second name");
   return first == second ? 0 : 1;
@@ -216,7 +218,8 @@ const Command kEqualCommand = {
     "whether two names hold the same",
     "Exit status 0 for equal names, 1 for others. The order of the attributes and the string\n"
     "types of values do not count, letter case does.\n",
-    "x509name equal a.der b.der && echo same\n",
-    {}};
+    "x509name equal a.der b.der && echo same\n"
+    "x509name equal --rfc5280 issuer.der subject.der\n",
+    {kEqualRfc5280Option, kAnyOrderOption}};
 
 }  // namespace Example
