@@ -9,6 +9,7 @@
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
 #include <ortholan/strict/matching.h>
+#include <ortholan/strict/name_edit.h>
 #include <ortholan/strict/names.h>
 
 #endif  // ORTHOLAN_STRICT_H_

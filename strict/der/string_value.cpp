@@ -196,4 +196,20 @@ bool PutStringText(uint8_t identifier, ByteView content, Output* out) {
   return !scalars.broken();
 }
 
+StringFault PutString(uint8_t identifier, ByteView text, Output* out) {
+  const size_t unit = TypeOf(identifier).unit;
+  if (unit == 0 || IsAsciiString(identifier)) {
+    out->Put(text);
+    return FindStringFault(identifier, text, true);
+  }
+  const uint32_t last = unit == 1 ? 0xFF : unit == 2 ? 0xFFFF : 0x10FFFF;
+  ScalarReader scalars(kUtf8String, text);
+  size_t offset = 0;
+  for (uint32_t scalar; scalars.Next(&scalar); offset = text.size - scalars.rest().size) {
+    if (scalar > last) return {ORTHOLAN_REASON_ALPHABET, offset};
+    for (size_t i = unit; i-- != 0;) out->Put(static_cast<uint8_t>(scalar >> (8 * i)));
+  }
+  return {};
+}
+
 }  // namespace Ortholan::strict

@@ -75,6 +75,10 @@ constexpr size_t Utf8Octets(uint32_t scalar) {
 // takes; 0 for octets that are none.
 size_t ReadUtf8Scalar(ByteView in, uint32_t* scalar);
 
+// Puts checked UTF-8 as the content of a string of the type; refuses the first character that the
+// type does not have, with nothing promised of what was put.
+StringFault PutString(uint8_t identifier, ByteView text, Output* out);
+
 // Puts the text of a string as UTF-8; false where the octets are no text.
 bool PutStringText(uint8_t identifier, ByteView content, Output* out);
 

@@ -1,7 +1,5 @@
 #include "strict/names/name_to_text.h"
 
-#include <vector>
-
 #include "strict/der/identifier.h"
 #include "strict/der/string_value.h"
 
@@ -67,46 +65,20 @@ class Decoder {
   bool separate_ = false;
 };
 
-// RDNs from the last to the first. Most names need no memory for it.
-class BackwardRdns {
- public:
-  explicit BackwardRdns(const NameView& name) : count_(name.rdn_count()) {
-    if (count_ > kFew) many_.resize(count_);
-    rdns_ = count_ > kFew ? many_.data() : few_;
-    ByteView rest = name.rdns();
-    size_t found = 0;
-    while (found < count_ && NextRdn(&rest, &rdns_[found])) ++found;
-    count_ = found;
-  }
-  bool Next(ByteView* rdn) {
-    if (count_ == 0) return false;
-    *rdn = rdns_[--count_];
-    return true;
-  }
-
- private:
-  static constexpr size_t kFew = 32;
-
-  size_t count_;
-  ByteView few_[kFew];
-  std::vector<ByteView> many_;
-  ByteView* rdns_;
-};
-
 }  // namespace
 
 bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out,
                    Refusal* refusal) {
   Decoder decoder(options, out, refusal);
-  ByteView rdn;
+  Element rdn;
   if (options.order == RdnOrder::kAsEncoded) {
     for (ByteView rest = name.rdns(); NextRdn(&rest, &rdn);) {
-      if (!decoder.PutRdn(rdn)) return false;
+      if (!decoder.PutRdn(rdn.content)) return false;
     }
     return true;
   }
   for (BackwardRdns rdns(name); rdns.Next(&rdn);) {
-    if (!decoder.PutRdn(rdn)) return false;
+    if (!decoder.PutRdn(rdn.content)) return false;
   }
   return true;
 }

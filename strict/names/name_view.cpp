@@ -77,12 +77,10 @@ NameView NameView::OfChecked(ByteView der, size_t rdn_count, size_t attribute_co
 
 // What was checked is read again without a look at the rules.
 
-bool NextRdn(ByteView* rdns, ByteView* rdn) {
+bool NextRdn(ByteView* rdns, Element* rdn) {
   Reader reader(*rdns, Leniency::kLenient, nullptr);
-  Element element;
-  if (!reader.Read(&element)) return false;
+  if (!reader.Read(rdn)) return false;
   *rdns = reader.rest();
-  *rdn = element.content;
   return true;
 }
 
@@ -99,14 +97,25 @@ bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
 void NameView::Iterator::Step() {
   attribute_.begins_rdn = attributes_.empty();
   if (attributes_.empty()) {
-    if (!NextRdn(&rdns_, &attributes_)) {
+    Element rdn;
+    if (!NextRdn(&rdns_, &rdn)) {
       attribute_ = {};
       return;
     }
+    attributes_ = rdn.content;
     attribute_.rdn = attributes_;
     attribute_.rdn_index = next_rdn_++;
   }
   if (!NextAttribute(&attributes_, &attribute_)) attribute_ = {};
+}
+
+BackwardRdns::BackwardRdns(const NameView& name) : count_(name.rdn_count()) {
+  if (count_ > kFew) many_.resize(count_);
+  rdns_ = count_ > kFew ? many_.data() : few_;
+  ByteView rest = name.rdns();
+  size_t found = 0;
+  while (found < count_ && NextRdn(&rest, &rdns_[found])) ++found;
+  count_ = found;
 }
 
 }  // namespace Ortholan::strict

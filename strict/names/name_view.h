@@ -8,6 +8,7 @@
 #define ORTHOLAN_STRICT_NAMES_NAME_VIEW_H_
 
 #include <iterator>
+#include <vector>
 
 #include "bytes/byte_view.h"
 #include "strict/der/reader.h"
@@ -26,7 +27,7 @@ struct AttributeView {
 
 // Takes the front of RDNs or of an RDN's attributes that were checked. False at the end; without
 // octets read, too, where what follows is no such element.
-bool NextRdn(ByteView* rdns, ByteView* rdn);
+bool NextRdn(ByteView* rdns, Element* rdn);
 bool NextAttribute(ByteView* attributes, AttributeView* attribute);
 
 class NameView {
@@ -88,6 +89,26 @@ class NameView {
   ByteView rdns_;  // content of the Name's SEQUENCE
   size_t rdn_count_ = 0;
   size_t attribute_count_ = 0;
+};
+
+// The RDNs from the last to the first. Most names need no memory for it; throws std::bad_alloc for
+// more than 32 RDNs.
+class BackwardRdns {
+ public:
+  explicit BackwardRdns(const NameView& name);
+  bool Next(Element* rdn) {
+    if (count_ == 0) return false;
+    *rdn = rdns_[--count_];
+    return true;
+  }
+
+ private:
+  static constexpr size_t kFew = 32;
+
+  size_t count_;
+  Element few_[kFew];
+  std::vector<Element> many_;
+  Element* rdns_;
 };
 
 }  // namespace Ortholan::strict

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "strict/der/identifier.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/names/name_writer.h"
 #include "strict/names/text_parser.h"
+#include "strict/names/type_finder.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -14,14 +14,14 @@ namespace {
 class Encoder {
  public:
   Encoder(std::string_view text, const TextOptions& options, BackwardOutput* out, Refusal* refusal)
-      : text_(text), options_(options), name_(out), refusal_(refusal) {}
+      : text_(text), options_(options), name_(out), refusal_(refusal), finder_(options) {}
 
   bool Run() {
     TextParser parser(text_, refusal_);
     for (TextAttribute attribute; parser.Next(&attribute);) {
       if (attribute.begins_rdn) name_.BeginRdn();
       NamedType type;
-      if (!FindAttributeType(attribute, &type) || !PutValue(attribute, type)) return false;
+      if (!FindType(attribute, &type) || !PutValue(attribute, type)) return false;
     }
     if (*refusal_) return false;
     name_.End(options_.order);
@@ -29,24 +29,9 @@ class Encoder {
   }
 
  private:
-  bool FindAttributeType(const TextAttribute& attribute, NamedType* type) {
-    if (attribute.dotted) return FindDotted(attribute.type, type);
-    return FindNamed(attribute.type, options_, type) ||
-           RefuseAt(ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE, attribute.type);
-  }
-
-  bool FindDotted(std::string_view dotted, NamedType* type) {
-    Output oid(oid_, sizeof oid_);
-    if (!PutIdentifier(dotted, &oid)) return RefuseAt(ORTHOLAN_REASON_TEXT_OID, dotted);
-    ByteView octets(oid_, oid.size());
-    if (!oid.fits()) {
-      long_oid_.resize(oid.size());
-      Output again(&long_oid_[0], oid.size());
-      PutIdentifier(dotted, &again);
-      octets = AsBytes(long_oid_.data(), long_oid_.size());
-    }
-    *type = Describe(octets, options_);
-    return true;
+  bool FindType(const TextAttribute& attribute, NamedType* type) {
+    const ortholan_reason reason = finder_.Find(attribute.type, attribute.dotted, type);
+    return reason == ORTHOLAN_REASON_NONE || RefuseAt(reason, attribute.type);
   }
 
   bool PutValue(const TextAttribute& attribute, const NamedType& type) {
@@ -119,8 +104,7 @@ class Encoder {
   const TextOptions& options_;
   NameWriter name_;
   Refusal* refusal_;
-  uint8_t oid_[32];  // of a dotted type; nearly all fit
-  std::string long_oid_;
+  TypeFinder finder_;
   std::string value_;
 };
 
