@@ -80,8 +80,8 @@ ortholan_reason ortholan_certificate_view_extension(const ortholan_certificate_v
 }
 
 ortholan_reason ortholan_time_to_text(ortholan_octets time, char* out, size_t room, size_t* size) {
-  if (size != nullptr) *size = 0;
-  if (!IsGiven(time) || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (!IsGiven(time) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   Output text(out, room);
   if (!PutTimeText(View(time), &text)) return ORTHOLAN_REASON_TIME;
   return Finish(text, size);
@@ -107,8 +107,8 @@ ortholan_reason ortholan_pem_next(ortholan_text text, size_t* offset, ortholan_p
 
 ortholan_reason ortholan_pem_octets(const ortholan_pem_block* block, uint8_t* out, size_t room,
                                     size_t* size) {
-  if (size != nullptr) *size = 0;
-  if (block == nullptr || !IsGiven(block->base64) || (out == nullptr && room != 0)) {
+  Clear(size, nullptr);
+  if (block == nullptr || !IsGiven(block->base64) || !IsRoom(out, room)) {
     return ORTHOLAN_REASON_ARGUMENT;
   }
   Output octets(out, room);

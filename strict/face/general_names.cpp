@@ -2,9 +2,11 @@
 #include <ortholan/strict/general_names.h>
 
 #include <algorithm>
+#include <new>
 
 #include "strict/face/call.h"
 #include "strict/general_names/edi_party.h"
+#include "strict/general_names/general_name_parser.h"
 #include "strict/general_names/general_name_text.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"
@@ -44,6 +46,20 @@ ortholan_reason ContentOf(const ortholan_general_name_view* name, int32_t kind, 
   }
   *content = View(name->content);
   return ORTHOLAN_REASON_NONE;
+}
+
+bool IsForm(int32_t form) {
+  return form >= ORTHOLAN_ALTERNATIVE_NAMES_VALUE && form <= ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION;
+}
+
+// Makes what was put the value of an Extension subjectAltName.
+void PutExtensionAround(bool critical, BackwardOutput* out) {
+  constexpr uint8_t kTrue[] = {kBoolean, 1, 0xFF};
+  constexpr uint8_t kType[] = {kOid, 3, 0x55, 0x1D, 0x11};
+  out->PutHeader(kOctetString, out->size());
+  if (critical) out->Put({kTrue, sizeof kTrue});
+  out->Put({kType, sizeof kType});
+  out->PutHeader(kSequence, out->size());
 }
 
 }  // namespace
@@ -181,7 +197,8 @@ ortholan_reason ortholan_host_check(ortholan_text host, uint32_t choices,
 
 ortholan_reason ortholan_address_to_text(ortholan_octets address, char* out, size_t room,
                                          size_t* size) {
-  if (!IsGiven(address) || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (!IsGiven(address) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   Output text(out, room);
   if (!PutIpName(View(address), &text)) return ORTHOLAN_REASON_ADDRESS_SIZE;
   return Finish(text, size);
@@ -189,7 +206,8 @@ ortholan_reason ortholan_address_to_text(ortholan_octets address, char* out, siz
 
 ortholan_reason ortholan_address_from_text(ortholan_text text, uint8_t* out, size_t room,
                                            size_t* size) {
-  if (!IsGiven(text) || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
+  Clear(size, nullptr);
+  if (!IsGiven(text) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   IpAddress address;
   if (!ReadIpAddress(View(text), &address) && !ReadIpRange(View(text), &address)) {
     return ORTHOLAN_REASON_ADDRESS_TEXT;
@@ -201,10 +219,8 @@ ortholan_reason ortholan_address_from_text(ortholan_text text, uint8_t* out, siz
 
 ortholan_reason ortholan_general_name_to_text(ortholan_octets name, char* out, size_t room,
                                               size_t* size, ortholan_refusal* refusal) {
-  if (refusal != nullptr) *refusal = {};
-  if (!IsGiven(name) || (out == nullptr && room != 0)) {
-    return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
-  }
+  Clear(size, refusal);
+  if (!IsGiven(name) || !IsRoom(out, room)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
   Refusal found;
   Reader list(View(name), Leniency::kLenient, &found);
   Element element;
@@ -215,6 +231,54 @@ ortholan_reason ortholan_general_name_to_text(ortholan_octets name, char* out, s
     return Report(found, name.data, refusal);
   }
   Output text(out, room);
-  PutTextOfGeneralName(view, &text);
-  return Finish(text, size);
+  try {
+    PutTextOfGeneralName(view, &text);
+  } catch (const std::bad_alloc&) {
+    return Report(ORTHOLAN_REASON_MEMORY, refusal);
+  }
+  return Finish(text, size, refusal);
+}
+
+ortholan_reason ortholan_general_name_from_text(ortholan_text text, int32_t allows_range,
+                                                uint8_t* out, size_t room, size_t* size,
+                                                ortholan_refusal* refusal) {
+  Clear(size, refusal);
+  if (!IsGiven(text) || !IsRoom(out, room)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  BackwardOutput der(out, room);
+  Refusal found;
+  try {
+    if (!PutGeneralNameOfText(View(text), allows_range != 0, &der, &found)) {
+      return Report(found, text.data, refusal);
+    }
+  } catch (const std::bad_alloc&) {
+    return Report(ORTHOLAN_REASON_MEMORY, refusal);
+  }
+  return Finish(&der, size, refusal);
+}
+
+ortholan_reason ortholan_alternative_names_from_text(const ortholan_text* texts, size_t count,
+                                                     int32_t form, uint8_t* out, size_t room,
+                                                     size_t* size, size_t* wrong,
+                                                     ortholan_refusal* refusal) {
+  Clear(size, refusal);
+  size_t number = 0;
+  if (wrong != nullptr) *wrong = 0;
+  if ((texts == nullptr && count != 0) || !IsRoom(out, room) || !IsForm(form) ||
+      !std::all_of(texts, texts + count, [](const ortholan_text& text) { return IsGiven(text); })) {
+    return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  }
+  BackwardOutput der(out, room);
+  Refusal found;
+  try {
+    if (!PutGeneralNamesOfTexts(texts, count, &der, &number, &found)) {
+      if (wrong != nullptr) *wrong = number;
+      return Report(found, number < count ? texts[number].data : nullptr, refusal);
+    }
+  } catch (const std::bad_alloc&) {
+    return Report(ORTHOLAN_REASON_MEMORY, refusal);
+  }
+  if (form != ORTHOLAN_ALTERNATIVE_NAMES_VALUE) {
+    PutExtensionAround(form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL, &der);
+  }
+  return Finish(&der, size, refusal);
 }

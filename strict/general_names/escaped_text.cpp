@@ -1,20 +1,32 @@
 #include "strict/general_names/escaped_text.h"
 
+#include <ortholan/strict/general_names.h>
+
 #include "strict/der/string_value.h"
+#include "strict/general_names/hex_text.h"
+#include "strict/names/shown.h"
 
 namespace Ortholan::strict {
 namespace {
-
-bool IsShown(uint32_t scalar) {
-  return (scalar >= 0x20 && scalar < 0x7F) ||
-         (scalar > 0xA0 && scalar < 0xD800 && (scalar < 0x2000 || scalar >= 0x2070));
-}
 
 void PutOctets(ByteView octets, Output* out) {
   for (const uint8_t& octet : octets) {
     out->Put('\\');
     PutHex({&octet, 1}, out);
   }
+}
+
+// Octets of text that stand for the first octet: "a", "\\\\", "\\0A"; 0 for a backslash that
+// escapes nothing.
+size_t UnitAt(std::string_view text, char* octet) {
+  *octet = text[0];
+  if (text[0] != '\\') return 1;
+  if (text.size() > 1 && text[1] == '\\') return 2;
+  if (text.size() < 3) return 0;
+  const int high = HexDigitValue(text[1]);
+  const int low = HexDigitValue(text[2]);
+  *octet = static_cast<char>(high << 4 | low);
+  return high >= 0 && low >= 0 ? 3 : 0;
 }
 
 }  // namespace
@@ -39,6 +51,32 @@ void PutEscapedText(std::string_view text, Characters characters, std::string_vi
     }
     rest = rest.From(size);
   }
+}
+
+bool UnescapedText::Read(std::string_view escaped, Refusal* refusal) {
+  escaped_ = text_ = escaped;
+  if (escaped.find('\\') == std::string_view::npos) return true;
+  storage_.clear();
+  storage_.reserve(escaped.size());
+  for (std::string_view rest = escaped; !rest.empty();) {
+    char octet;
+    const size_t size = UnitAt(rest, &octet);
+    if (size == 0) {
+      return Refuse(refusal, ORTHOLAN_REASON_NAME_ESCAPE,
+                    reinterpret_cast<const uint8_t*>(rest.data()), rest.size());
+    }
+    storage_ += octet;
+    rest.remove_prefix(size);
+  }
+  text_ = storage_;
+  return true;
+}
+
+const char* UnescapedText::PlaceOf(size_t offset) const {
+  if (storage_.empty()) return escaped_.data() + offset;
+  std::string_view rest = escaped_;
+  for (char octet; offset != 0 && !rest.empty(); --offset) rest.remove_prefix(UnitAt(rest, &octet));
+  return rest.data();
 }
 
 }  // namespace Ortholan::strict

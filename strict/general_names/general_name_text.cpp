@@ -8,6 +8,7 @@
 #include "strict/general_names/ip_address.h"
 #include "strict/general_names/name_kinds.h"
 #include "strict/general_names/other_name.h"
+#include "strict/names/name_to_text.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -110,6 +111,17 @@ void PutOther(ByteView content, Output* out) {
   PutUntyped(content, out);
 }
 
+void PutDirectoryName(ByteView content, Output* out) {
+  NameView name;
+  const size_t before = out->size();
+  if (NameView::Read(content, Leniency::kDer, &name, nullptr) &&
+      PutTextOfName(name, {}, out, nullptr)) {
+    return;
+  }
+  out->Rewind(before);
+  PutOctets(content, out);
+}
+
 void PutEdiParty(ByteView content, Output* out) {
   EdiParty name;
   const bool is_text = EdiParty::Read(content, Leniency::kDer, &name, nullptr) &&
@@ -137,6 +149,7 @@ void PutTextOfGeneralName(const GeneralNameView& name, Output* out) {
     case GeneralNameKind::kEdiParty:
       return PutEdiParty(name.content, out);
     case GeneralNameKind::kDirectory:
+      return PutDirectoryName(name.content, out);
     case GeneralNameKind::kX400:
       return PutOctets(name.content, out);
     default:

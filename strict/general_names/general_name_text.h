@@ -21,7 +21,8 @@
 
 namespace Ortholan::strict {
 
-// Puts any name, be it malformed inside.
+// Puts any name, be it malformed inside. Throws std::bad_alloc for a directory name of more than 32
+// RDNs.
 void PutTextOfGeneralName(const GeneralNameView& name, Output* out);
 
 }  // namespace Ortholan::strict

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "strict/general_names/hex_text.h"
+
 namespace Ortholan::strict {
 namespace {
 
@@ -36,18 +38,12 @@ bool ReadIPv4(std::string_view text, uint8_t* octets) {
   return text.empty();
 }
 
-int HexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  const char lower = static_cast<char>(c | 0x20);
-  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
 // One to four hexadecimal digits.
 bool TakeGroup(std::string_view* text, uint8_t* octets) {
   size_t count = 0;
   unsigned value = 0;
   for (; count < 4 && count < text->size(); ++count) {
-    const int digit = HexDigit((*text)[count]);
+    const int digit = HexDigitValue((*text)[count]);
     if (digit < 0) break;
     value = value << 4 | static_cast<unsigned>(digit);
   }

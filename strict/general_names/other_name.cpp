@@ -1,9 +1,9 @@
 #include "strict/general_names/other_name.h"
 
 #include "strict/der/identifier.h"
-#include "strict/der/string_value.h"
 #include "strict/general_names/guid.h"
 #include "strict/general_names/host.h"
+#include "strict/general_names/name_characters.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -20,17 +20,9 @@ bool ReadText(Reader* reader, uint8_t identifier, std::string_view* text) {
   Element element;
   if (!reader->Read(identifier, &element)) return false;
   const uint8_t type = identifier == kGeneralString ? uint8_t{kIA5String} : identifier;
-  ScalarReader scalars(type, element.content);
-  for (;;) {
-    const size_t at = element.content.size - scalars.rest().size;
-    uint32_t scalar;
-    if (!scalars.Next(&scalar)) {
-      if (!scalars.broken()) break;
-      return RefuseIn(reader, element.content, at, ORTHOLAN_REASON_ENCODING);
-    }
-    if (scalar < 0x20 || (scalar >= 0x7F && scalar < 0xA0)) {
-      return RefuseIn(reader, element.content, at, ORTHOLAN_REASON_NAME_CHARACTER);
-    }
+  const StringFault fault = FindNameFault(type, element.content);
+  if (fault.reason != ORTHOLAN_REASON_NONE) {
+    return RefuseIn(reader, element.content, fault.offset, fault.reason);
   }
   *text = AsText(element.content);
   return true;

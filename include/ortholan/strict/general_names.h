@@ -54,6 +54,14 @@ enum {
   ORTHOLAN_REASON_OTHER_NAME = 159,
   // Text that is no address, and no address with a prefix or mask.
   ORTHOLAN_REASON_ADDRESS_TEXT = 160,
+  // An address with a mask, which stands in name constraints alone.
+  ORTHOLAN_REASON_ADDRESS_RANGE = 161,
+  // Text of a name that begins with none of the kinds: "DNS:", "IP:", "email:", ...
+  ORTHOLAN_REASON_NAME_KIND = 162,
+  // A backslash in the text of a name without "\\" or two hexadecimal digits behind it.
+  ORTHOLAN_REASON_NAME_ESCAPE = 163,
+  // Text of a name that is not of the form of its kind.
+  ORTHOLAN_REASON_NAME_VALUE = 164,
   // A tag that is none of the nine, or one of them in the wrong form.
   ORTHOLAN_REASON_GENERAL_NAME = 170,
   // A control character or an octet outside IA5String in a name of characters.
@@ -203,6 +211,33 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_address_from_text(ortholan_text text, u
 ORTHOLAN_EXPORT ortholan_reason ortholan_general_name_to_text(ortholan_octets name, char* out,
                                                               size_t room, size_t* size,
                                                               ortholan_refusal* refusal);
+
+// The GeneralName of such a text. Refuses the first place that is wrong. Free text of a directory
+// name becomes UTF8String.
+//   allows_range  1 where an address may have a mask, as in name constraints
+ORTHOLAN_EXPORT ortholan_reason ortholan_general_name_from_text(ortholan_text text,
+                                                                int32_t allows_range, uint8_t* out,
+                                                                size_t room, size_t* size,
+                                                                ortholan_refusal* refusal);
+
+// Forms of alternative names that come out.
+enum {
+  // SEQUENCE OF GeneralName, the value of the extension.
+  ORTHOLAN_ALTERNATIVE_NAMES_VALUE = 0,
+  // A whole Extension subjectAltName (RFC 5280 4.2.1.6), critical as a subject without names needs
+  // it, or not.
+  ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL = 1,
+  ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION = 2
+};
+
+// Writes alternative names from one text each, in their order. Refuses EMPTY without a text.
+//   form    an ORTHOLAN_ALTERNATIVE_NAMES_ word
+//   wrong   where not NULL, the number of the text that the refusal is about, from 0
+ORTHOLAN_EXPORT ortholan_reason ortholan_alternative_names_from_text(const ortholan_text* texts,
+                                                                     size_t count, int32_t form,
+                                                                     uint8_t* out, size_t room,
+                                                                     size_t* size, size_t* wrong,
+                                                                     ortholan_refusal* refusal);
 
 #ifdef __cplusplus
 }  // extern "C"

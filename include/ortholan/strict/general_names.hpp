@@ -231,6 +231,43 @@ inline Result<std::vector<uint8_t>> AddressFromText(std::string_view text) {
   return octets;
 }
 
+// The GeneralName of a text: "DNS:example.org", "IP:192.0.2.1", "UPN:joe@example.org".
+inline Result<std::vector<uint8_t>> GeneralNameFromText(std::string_view text,
+                                                        bool allows_range = false) {
+  std::vector<uint8_t> der;
+  Refusal refusal;
+  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
+    return ortholan_general_name_from_text(ToText(text), allows_range ? 1 : 0, out, room, size,
+                                           &refusal);
+  });
+  if (reason != ORTHOLAN_REASON_NONE) return refusal;
+  return der;
+}
+
+enum class AlternativeNames : int32_t {
+  kValue = ORTHOLAN_ALTERNATIVE_NAMES_VALUE,
+  kCritical = ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL,
+  kExtension = ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION,
+};
+
+// Alternative names of texts, a range of what std::string_view is made of, in their order. `wrong`,
+// where given, is the number of the text that was refused.
+template <class Texts>
+Result<std::vector<uint8_t>> AlternativeNamesFromText(const Texts& texts,
+                                                      AlternativeNames form = {},
+                                                      size_t* wrong = nullptr) {
+  std::vector<ortholan_text> all;
+  for (const auto& text : texts) all.push_back(ToText(text));
+  std::vector<uint8_t> der;
+  Refusal refusal;
+  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
+    return ortholan_alternative_names_from_text(all.data(), all.size(), static_cast<int32_t>(form),
+                                                out, room, size, wrong, &refusal);
+  });
+  if (reason != ORTHOLAN_REASON_NONE) return refusal;
+  return der;
+}
+
 }  // namespace ortholan
 
 #endif  // ORTHOLAN_STRICT_GENERAL_NAMES_HPP_
