@@ -42,7 +42,7 @@ constexpr TargetRow kTargets[] = {
 };
 
 // Longer samples are cut, and not spoiled as well.
-constexpr size_t kLongestToSpoil = 100;
+constexpr size_t kLongestToSpoil = 64;
 constexpr size_t kMadeUp = 500;
 
 class Replay {
