@@ -40,9 +40,7 @@
 //     that decoding reports follows the tag. Natively six string tags alone are read: 12, 19, 20,
 //     22, 26, 30.
 //     Extensions go through both calls with the caller's structure type, a constant or the
-//     identifier of an extension. Natively X509_BASIC_CONSTRAINTS2, _KEY_USAGE, _BITS,
-//     _OCTET_STRING, _ENHANCED_KEY_USAGE, _ALTERNATE_NAME, _AUTHORITY_KEY_ID2 and
-//     _UNICODE_NAME_VALUE have codecs; posix/codecs.h and posix/name_value.h give their codes.
+//     identifier of an extension. posix/structures/table.cpp has those that are known natively.
 //
 // CryptFindOIDInfo(keyType, key, groupId)
 //     Called through FindAttributeInfo only. The record lives as long as the process.

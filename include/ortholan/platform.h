@@ -788,7 +788,10 @@ ORTHOLAN_EXPORT int lstrlenW(LPCWSTR text) noexcept;
 // Encodes the structure that `structType` names. With a null `out` the needed size is stored in
 // `*outBytes`; otherwise it is the room in bytes on entry and the size used on return. FALSE on
 // failure: 2 (no codec for this structure type), 234 (room too small; the needed size is stored),
-// and the CRYPT_E_ codes for what cannot be written.
+// 87 (a count without an array), 0x80070057 (a choice that the structure cannot hold), and the
+// CRYPT_E_ codes for what cannot be written. Where a text is refused, the place of its first bad
+// unit is stored for the size: the unit in the low 16 bits, above them the indexes of what it lies
+// in, as the GET_..._ERR_INDEX macros of Windows' header take them apart.
 ORTHOLAN_EXPORT BOOL CryptEncodeObject(DWORD encodingType, LPCSTR structType,
                                        const void* structInfo, BYTE* out, DWORD* outBytes) noexcept;
 // Decodes into a structure at the front of `out`, with pointers into `out`; sizes as above, flags
