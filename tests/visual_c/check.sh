@@ -31,7 +31,7 @@ headers() {
     "$compiler" "${flags[@]}" /std:c++17 /TP "$header"
   done
   # A program's own code page decides how the compiler reads them.
-  ! LC_ALL=C grep -nP '[^\x00-\x7F]' "$1"/ortholan/*.h || fail "text that is not ASCII"
+  ! LC_ALL=C grep -rnP '[^\x00-\x7F]' "$1/ortholan" || fail "text that is not ASCII"
 }
 
 # The DLL is built with /MD. Nothing but the name of the runtime is in it.
