@@ -6,9 +6,9 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/constraints.hpp>
-#include <ortholan/strict/matching.hpp>
-#include <ortholan/strict/names.hpp>
 #include <ortholan/strict/general_names.hpp>
 #include <ortholan/strict/identity.hpp>
+#include <ortholan/strict/matching.hpp>
+#include <ortholan/strict/names.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_

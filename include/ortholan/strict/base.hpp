@@ -28,6 +28,7 @@ class Octets {
   constexpr Octets(const uint8_t* data, size_t size) : data_(data), size_(size) {}
   constexpr Octets(ortholan_octets octets) : data_(octets.data), size_(octets.size) {}
   Octets(const std::vector<uint8_t>& octets) : data_(octets.data()), size_(octets.size()) {}
+  Octets(const std::string& octets) : Octets(std::string_view(octets)) {}
   Octets(std::string_view octets)
       : data_(reinterpret_cast<const uint8_t*>(octets.data())), size_(octets.size()) {}
 
