@@ -11,5 +11,7 @@
 #include <ortholan/strict/names.hpp>
 #include <ortholan/strict/general_names.hpp>
 #include <ortholan/strict/identity.hpp>
+#include <ortholan/strict/matching.hpp>
+#include <ortholan/strict/names.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_
