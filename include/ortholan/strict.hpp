@@ -6,10 +6,10 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/constraints.hpp>
+#include <ortholan/strict/general_names.hpp>
+#include <ortholan/strict/identity.hpp>
 #include <ortholan/strict/matching.hpp>
 #include <ortholan/strict/name_edit.hpp>
 #include <ortholan/strict/names.hpp>
-#include <ortholan/strict/general_names.hpp>
-#include <ortholan/strict/identity.hpp>
 
 #endif  // ORTHOLAN_STRICT_HPP_
