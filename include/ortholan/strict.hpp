@@ -6,12 +6,17 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/constraints.hpp>
+#include <ortholan/strict/general_names.hpp>
+#include <ortholan/strict/identity.hpp>
 #include <ortholan/strict/matching.hpp>
 #include <ortholan/strict/name_edit.hpp>
 #include <ortholan/strict/names.hpp>
+<<<<<<< HEAD
 #include <ortholan/strict/general_names.hpp>
 #include <ortholan/strict/identity.hpp>
 #include <ortholan/strict/matching.hpp>
 #include <ortholan/strict/names.hpp>
+=======
+>>>>>>> refs/heads/names
 
 #endif  // ORTHOLAN_STRICT_HPP_

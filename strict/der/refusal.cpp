@@ -147,7 +147,9 @@ constexpr Row kSentences[] = {
 ortholan_refusal Refusal::From(const void* start) const {
   const auto* const place = static_cast<const uint8_t*>(at);
   const auto* const first = static_cast<const uint8_t*>(start);
-  const size_t offset = place != nullptr ? static_cast<size_t>(place - first) : ORTHOLAN_NO_PLACE;
+  // No octets at all may be a null pointer, whose end is the place.
+  const bool has_place = place != nullptr || start == nullptr;
+  const size_t offset = has_place ? static_cast<size_t>(place - first) : ORTHOLAN_NO_PLACE;
   return {reason, met, expected, offset};
 }
 

@@ -22,7 +22,7 @@ ortholan_reason ReadOptions(const ortholan_rfc4514_options* given, TextOptions* 
     if (!IsDescriptor(View(own.name))) return ORTHOLAN_REASON_TYPE_NAME;
     if (!IsIdentifier(View(own.oid))) return ORTHOLAN_REASON_OID;
   }
-  options->order = static_cast<RdnOrder>(given->order);
+  options->order = static_cast<TextOrder>(given->order);
   options->strings = static_cast<StringPolicy>(given->strings);
   options->long_names = given->long_names != 0;
   options->exact = given->exact != 0;

@@ -84,7 +84,7 @@ class Editor {
       first -= count;
       if (!PutRdn(rdn, rdn_number, first, count)) return false;
     }
-    name_.End(RdnOrder::kReversed);
+    name_.End(TextOrder::kReversed);
     return true;
   }
 
@@ -160,7 +160,7 @@ bool BuildName(const NewAttribute* attributes, size_t count, StringPolicy policy
     if (!PutNew(attributes[i], policy, &name, fault)) return false;
     begins = attributes[i].begins_rdn;
   }
-  name.End(RdnOrder::kReversed);
+  name.End(TextOrder::kReversed);
   return true;
 }
 

@@ -71,7 +71,7 @@ bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out
                    Refusal* refusal) {
   Decoder decoder(options, out, refusal);
   Element rdn;
-  if (options.order == RdnOrder::kAsEncoded) {
+  if (options.order == TextOrder::kAsEncoded) {
     for (ByteView rest = name.rdns(); NextRdn(&rest, &rdn);) {
       if (!decoder.PutRdn(rdn.content)) return false;
     }

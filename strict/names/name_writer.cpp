@@ -63,10 +63,10 @@ void NameWriter::PutRdn(ByteView bytes) {
   out_->Put(bytes);
 }
 
-void NameWriter::End(RdnOrder order) {
+void NameWriter::End(TextOrder order) {
   EndRdn();
   const size_t size = out_->size();
-  if (order == RdnOrder::kAsEncoded && out_->fits()) ReverseElements(out_->front(), size);
+  if (order == TextOrder::kAsEncoded && out_->fits()) ReverseElements(out_->front(), size);
   out_->PutHeader(kSequence, size);
 }
 

@@ -5,7 +5,7 @@
 //   name.BeginRdn();
 //   uint8_t* value = name.TakeValue(5);     // null where the room ends
 //   name.EndAttribute(kPrintableString, type);
-//   name.End(RdnOrder::kReversed);
+//   name.End(TextOrder::kReversed);
 #ifndef ORTHOLAN_STRICT_NAMES_NAME_WRITER_H_
 #define ORTHOLAN_STRICT_NAMES_NAME_WRITER_H_
 
@@ -33,7 +33,7 @@ class NameWriter {
 
   // kAsEncoded turns what was put last into the first RDN of the encoding back into the last.
   // Throws std::bad_alloc where a SET has to be sorted.
-  void End(RdnOrder order);
+  void End(TextOrder order);
 
  private:
   void EndRdn();

@@ -12,7 +12,7 @@ namespace Ortholan::strict {
 namespace {
 
 // How much of the text a refusal is about.
-enum class Extent : uint8_t { kCharacter, kPair, kPart };
+enum class Extent : uint8_t { kCharacter, kEscaped, kPair, kPart };
 
 struct Row {
   ortholan_reason reason;
@@ -51,7 +51,7 @@ constexpr Row kRows[] = {
     {ORTHOLAN_REASON_TEXT_BEHIND_QUOTE, Extent::kPart,
      "a comma, plus or the end behind the closing quote; a quote of the value has a backslash "
      "before it"},
-    {ORTHOLAN_REASON_TEXT_ALPHABET, Extent::kCharacter, ""},
+    {ORTHOLAN_REASON_TEXT_ALPHABET, Extent::kEscaped, ""},
     {ORTHOLAN_REASON_TEXT_NO_STRING, Extent::kPart,
      "\"#\" and the hexadecimal digits of the value's encoding, because values of this type are no "
      "strings"},
@@ -109,6 +109,8 @@ size_t MetSize(std::string_view text, Extent extent) {
       return PartSize(text);
     case Extent::kPair:
       return PairSize(text);
+    case Extent::kEscaped:
+      return !text.empty() && text[0] == '\\' ? PairSize(text) : CharacterSize(text);
     default:
       return CharacterSize(text);
   }
@@ -122,10 +124,12 @@ void PutMet(std::string_view met, Output* out) {
   for (size_t count = 0; shown < met.size() && count < kMost; ++count) {
     shown += CharacterSize(met.substr(shown));
   }
+  const size_t before = out->size();
   out->Put('"');
   if (!PutVisible(AsBytes(met.data(), shown), out)) {
+    out->Rewind(before);
     out->Put("octet ");
-    PutHex(AsBytes(met.data(), 1), out);
+    return PutHex(AsBytes(met.data(), 1), out);
   }
   if (shown < met.size()) out->Put("...");
   out->Put('"');

@@ -12,7 +12,7 @@
 
 namespace Ortholan::strict {
 
-enum class RdnOrder : int32_t {
+enum class TextOrder : int32_t {
   kReversed = ORTHOLAN_RDNS_REVERSED,
   kAsEncoded = ORTHOLAN_RDNS_AS_ENCODED,
 };
@@ -24,7 +24,7 @@ enum class StringPolicy : int32_t {
 };
 
 struct TextOptions {
-  RdnOrder order = RdnOrder::kReversed;
+  TextOrder order = TextOrder::kReversed;
   StringPolicy strings = StringPolicy::kPrintableOrUtf8;
   bool long_names = false;
   bool exact = false;
