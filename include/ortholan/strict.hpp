@@ -11,12 +11,5 @@
 #include <ortholan/strict/matching.hpp>
 #include <ortholan/strict/name_edit.hpp>
 #include <ortholan/strict/names.hpp>
-<<<<<<< HEAD
-#include <ortholan/strict/general_names.hpp>
-#include <ortholan/strict/identity.hpp>
-#include <ortholan/strict/matching.hpp>
-#include <ortholan/strict/names.hpp>
-=======
->>>>>>> refs/heads/names
 
 #endif  // ORTHOLAN_STRICT_HPP_
