@@ -73,7 +73,9 @@ TEST(Identify, TellsWhy) {
     const char* const kVerdicts[] = {"cannot tell", "yes", "no"};
     EXPECT_EQ(kVerdicts[static_cast<int>(identity->verdict())], row.text("verdict"));
     EXPECT_EQ(ReasonName(identity->refusal().reason), row.text("reason"));
-    if (row.has("why")) EXPECT_EQ(Explanation(*identity), row.text("why"));
+    if (row.has("why")) {
+      EXPECT_EQ(Explanation(*identity), row.text("why"));
+    }
     // The place lies in the certificate, which was asked.
     if (identity->verdict() == ortholan::Verdict::kCannotTell) {
       EXPECT_LE(identity->refusal().offset, certificate.size());
