@@ -1,10 +1,10 @@
 #include "strict/constraints/finding_text.h"
 
 #include "strict/der/refusal.h"
-#include "strict/der/string_value.h"
-#include "strict/general_names/general_name_view.h"
+#include "strict/general_names/escaped_text.h"
+#include "strict/general_names/general_name_text.h"
 #include "strict/general_names/ip_address.h"
-#include "strict/names/shown.h"
+#include "strict/names/name_to_text.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -15,21 +15,16 @@ constexpr std::string_view kKinds[] = {
     "URI",           "IP address",     "registered identifier",
 };
 
-// Characters that can be seen as they are, others as "\" and two hexadecimal digits an octet.
-void PutVisible(ByteView text, Output* out) {
-  while (!text.empty()) {
-    uint32_t scalar;
-    const size_t count = ReadUtf8Scalar(text, &scalar);
-    const ByteView octets = text.First(count != 0 ? count : 1);
-    if (count != 0 && scalar != '\\' && IsShown(scalar)) {
-      out->Put(octets);
-    } else {
-      for (const uint8_t octet : octets) {
-        out->Put('\\');
-        PutHex({&octet, 1}, out);
-      }
-    }
-    text = text.From(octets.size);
+void PutCharacters(ByteView text, Output* out) {
+  PutEscapedText(AsText(text), Characters::kAscii, {}, out);
+}
+
+void PutDirectory(ByteView der, Output* out) {
+  NameView name;
+  if (!NameView::Read(der, Leniency::kStructure, &name, nullptr) ||
+      !PutTextOfName(name, {}, out, nullptr)) {
+    out->Put('#');
+    PutHex(der, out);
   }
 }
 
@@ -38,14 +33,15 @@ void PutValue(const GeneralNameView& name, Output* out) {
     case GeneralNameKind::kMail:
     case GeneralNameKind::kDns:
     case GeneralNameKind::kUri:
-      return PutVisible(name.content, out);
+      return PutCharacters(name.content, out);
     case GeneralNameKind::kAddress:
-      if (PutIpName(name.content, out)) return;
-      break;
+      if (!PutIpName(name.content, out)) PutHex(name.content, out);
+      return;
+    case GeneralNameKind::kDirectory:
+      return PutDirectory(name.content, out);
     default:
-      break;
+      return PutTextOfGeneralName(name, out);
   }
-  PutHex(name.content, out);
 }
 
 bool ReadName(ortholan_octets octets, GeneralNameView* name) {
@@ -62,10 +58,11 @@ void PutNameOf(const ortholan_finding& finding, Output* out) {
   GeneralNameView name;
   switch (finding.place) {
     case ORTHOLAN_NAME_SUBJECT:
-      return out->Put("the subject");
+      out->Put("the subject ");
+      return PutDirectory({finding.name.data, finding.name.size}, out);
     case ORTHOLAN_NAME_EMAIL:
       out->Put("the subject's e-mail address ");
-      return PutVisible({finding.name.data, finding.name.size}, out);
+      return PutCharacters({finding.name.data, finding.name.size}, out);
     default:
       break;
   }
@@ -82,11 +79,10 @@ void PutAuthority(const ortholan_finding& finding, Output* out) {
   GeneralNameView base;
   if (!ReadName(finding.subtree, &base)) return;
   out->Put(" (");
-  if (base.content.empty()) {
-    out->Put("everything");
-  } else {
-    PutValue(base, out);
-  }
+  const size_t before = out->size();
+  PutValue(base, out);
+  // An empty host, or the name without RDNs.
+  if (out->size() == before) out->Put("everything");
   if (finding.subtree_count > 1) {
     out->Put(", and ");
     PutDecimal(finding.subtree_count - 1, out);

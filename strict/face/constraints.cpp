@@ -72,6 +72,10 @@ ortholan_reason ortholan_finding_sentence(const ortholan_finding* finding, char*
                                           size_t* size) {
   if (finding == nullptr || (out == nullptr && room != 0)) return ORTHOLAN_REASON_ARGUMENT;
   Output text(out, room);
-  PutFinding(*finding, &text);
+  try {
+    PutFinding(*finding, &text);
+  } catch (const std::bad_alloc&) {
+    return ORTHOLAN_REASON_MEMORY;
+  }
   return Finish(text, size);
 }
