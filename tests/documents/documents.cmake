@@ -13,6 +13,7 @@ foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs
   ortholan_document_programs(${document})
 endforeach()
 
-ortholan_test(document_tests SHARED documents/page.cpp documents/tables_test.cpp)
+ortholan_test(document_tests SHARED documents/page.cpp documents/tables_test.cpp
+  documents/constraints_table_test.cpp support/certificates.cpp)
 get_filename_component(root "${ORTHOLAN_TEST_ROOT}" DIRECTORY)
 target_compile_definitions(document_tests PRIVATE ORTHOLAN_TEST_SOURCES="${root}")
