@@ -21,6 +21,11 @@ uint64_t HashOf(std::string_view host) {
   return hash;
 }
 
+// Hosts of another role or form stand elsewhere.
+uint64_t KeyOf(uint64_t hash, NameForm form, unsigned role) {
+  return hash + (static_cast<uint64_t>(form) * 8 + role) * 0x9E3779B97F4A7C15;
+}
+
 // The first address of a range.
 struct FirstAddress {
   uint8_t octets[kIPv6Octets] = {};
@@ -59,7 +64,8 @@ SubtreeIndex::SubtreeIndex(const Subtree* begin, const Subtree* end) {
 
 void SubtreeIndex::AddHost(NameForm form, Role role, std::string_view host,
                            const Subtree* subtree) {
-  hosts_.push_back({HashOf(host), form, role, host, subtree});
+  hosts_.push_back(
+      {KeyOf(HashOf(host), form, static_cast<unsigned>(role)), form, role, host, subtree});
 }
 
 void SubtreeIndex::AddHosts(const Subtree& subtree) {
@@ -83,10 +89,10 @@ void SubtreeIndex::AddHosts(const Subtree& subtree) {
   }
 }
 
-// Rows of one hash stand in the order of the list.
+// Rows of one key stand in the order of the list.
 void SubtreeIndex::SortHosts() {
   std::sort(hosts_.begin(), hosts_.end(), [](const HostRow& a, const HostRow& b) {
-    return std::tie(a.hash, a.subtree) < std::tie(b.hash, b.subtree);
+    return std::tie(a.key, a.subtree) < std::tie(b.key, b.subtree);
   });
 }
 
@@ -109,9 +115,10 @@ void SubtreeIndex::SortRanges() {
 
 const Subtree* SubtreeIndex::FindRow(NameForm form, Role role, std::string_view host, uint64_t hash,
                                      Budget* budget) const {
-  auto row = std::lower_bound(hosts_.begin(), hosts_.end(), hash,
-                              [](const HostRow& each, uint64_t key) { return each.hash < key; });
-  for (; row != hosts_.end() && row->hash == hash && budget->Take(); ++row) {
+  const uint64_t key = KeyOf(hash, form, static_cast<unsigned>(role));
+  auto row = std::lower_bound(hosts_.begin(), hosts_.end(), key,
+                              [](const HostRow& each, uint64_t value) { return each.key < value; });
+  for (; row != hosts_.end() && row->key == key && budget->Take(); ++row) {
     if (row->form == form && row->role == role && SameWithoutCase(row->host, host)) {
       return row->subtree;
     }

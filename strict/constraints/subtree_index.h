@@ -24,7 +24,7 @@ class SubtreeIndex {
   enum class Role : uint8_t { kTree, kBelow, kHost, kParentOfTree, kMailHost };
 
   struct HostRow {
-    uint64_t hash;
+    uint64_t key;  // of host, form and role
     NameForm form;
     Role role;
     std::string_view host;
