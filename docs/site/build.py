@@ -17,7 +17,7 @@ import chart
 
 # In the order that they are read in; a page that nobody named follows.
 GUIDES = ["docs/getting-started", "docs/recipes", "docs/x509name", "docs/c-interface"]
-NAMES = ["docs/options", "docs/name-text", "docs/der", "docs/status-codes"]
+NAMES = ["docs/options", "docs/name-text", "docs/der", "docs/structures", "docs/status-codes"]
 LINK = re.compile(r"\[([^\]\n]*)\]\(([^)\s]+)\)")
 
 

@@ -63,7 +63,8 @@ UnitWriter PutUnits(const Element& text, UnitWriter out) {
   if (text.tag == kTagUtf8String) return FromUtf8(content.data, content.size, out).sink;
   const std::size_t width = text.tag == kTagBmpString ? kUnitSize : 1;
   for (std::size_t i = 0; i < content.size; i += width) {
-    out.PutUnit(width == 1 ? content[i] : content[i] << 8 | content[i + 1]);
+    const std::uint32_t octet = content[i];
+    out.PutUnit(width == 1 ? octet : octet << 8 | content[i + 1]);
   }
   return out;
 }
