@@ -39,6 +39,7 @@ constexpr TargetRow kTargets[] = {
     {"conversion", FuzzConversion},
     {"format", FuzzFormat},
     {"c_interface", FuzzCInterface, "general-names.txt"},
+    {"matching", FuzzMatching},
 };
 
 // Longer samples are cut, and not spoiled as well.

@@ -14,6 +14,7 @@ void FuzzStructuredEncode(const uint8_t* data, size_t size);
 void FuzzGeneralName(const uint8_t* data, size_t size);
 void FuzzExtension(const uint8_t* data, size_t size);
 void FuzzConversion(const uint8_t* data, size_t size);
+void FuzzMatching(const uint8_t* data, size_t size);
 void FuzzFormat(const uint8_t* data, size_t size);
 void FuzzCInterface(const uint8_t* data, size_t size);
 
