@@ -5,6 +5,7 @@
 #define ORTHOLAN_STRICT_HPP_
 
 #include <ortholan/strict/base.hpp>
+#include <ortholan/strict/certificates.hpp>
 #include <ortholan/strict/constraints.hpp>
 #include <ortholan/strict/general_names.hpp>
 #include <ortholan/strict/identity.hpp>

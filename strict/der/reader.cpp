@@ -60,6 +60,21 @@ bool Reader::ReadLong(Element* element) {
   if (rest_.empty()) return RefuseHere(ORTHOLAN_REASON_TRUNCATED);
   size_t header = 1;
   size_t length = 0;
+  // One identifier octet and a length of two or three, in the shortest form and all there.
+  if (rest_.size > 4 && (rest_[0] & kLongTag) != kLongTag) {
+    if (rest_[1] == 0x81 && rest_[2] >= 0x80) {
+      header = 3;
+      length = rest_[2];
+    } else if (rest_[1] == 0x82 && rest_[2] != 0) {
+      header = 4;
+      length = size_t{rest_[2]} << 8 | rest_[3];
+    }
+    if (header != 1 && length <= rest_.size - header) {
+      Take(header, length, element);
+      return true;
+    }
+    header = 1;
+  }
   if ((rest_[0] & kLongTag) == kLongTag && !ReadTag(&header)) return false;
   if (!ReadLength(&header, &length)) return false;
   if (length > rest_.size - header) return RefuseAt(ORTHOLAN_REASON_TRUNCATED, rest_.end());

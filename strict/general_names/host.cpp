@@ -5,10 +5,26 @@
 namespace Ortholan::strict {
 namespace {
 
+// What stands in labels; bits of kLabelCharacters.
+enum : uint8_t { kLetterDigitHyphen = 1, kUnderscore = 2 };
+
+struct CharacterTable {
+  uint8_t bits[256];
+};
+
+constexpr CharacterTable MakeCharacters() {
+  CharacterTable table = {};
+  for (int c = 0; c < 0x80; ++c) {
+    if (IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-') table.bits[c] = kLetterDigitHyphen;
+  }
+  table.bits[static_cast<int>('_')] = kUnderscore;
+  return table;
+}
+
+constexpr CharacterTable kLabelCharacters = MakeCharacters();
+
 // Why a character cannot stand in a label.
-ortholan_reason FaultOfCharacter(char c, uint32_t choices) {
-  if (IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-') return ORTHOLAN_REASON_NONE;
-  if (c == '_' && (choices & kUnderscores) != 0) return ORTHOLAN_REASON_NONE;
+ortholan_reason FaultOfCharacter(char c) {
   if (c == '_') return ORTHOLAN_REASON_HOST_UNDERSCORE;
   if (c == '*') return ORTHOLAN_REASON_HOST_WILDCARD;
   if (static_cast<uint8_t>(c) >= 0x80) return ORTHOLAN_REASON_HOST_UNICODE;
@@ -44,9 +60,11 @@ class HostChecker {
  private:
   bool CheckLabel(size_t start, size_t end) {
     if (start == end) return RefuseAt(ORTHOLAN_REASON_HOST_EMPTY_LABEL, start);
+    const int allowed = kLetterDigitHyphen | ((choices_ & kUnderscores) != 0 ? kUnderscore : 0);
     for (size_t i = start; i < end; ++i) {
-      const ortholan_reason fault = FaultOfCharacter(host_[i], choices_);
-      if (fault != ORTHOLAN_REASON_NONE) return RefuseAt(fault, i);
+      if ((kLabelCharacters.bits[static_cast<uint8_t>(host_[i])] & allowed) == 0) {
+        return RefuseAt(FaultOfCharacter(host_[i]), i);
+      }
     }
     if (end - start > kMaxLabelOctets) {
       return RefuseAt(ORTHOLAN_REASON_HOST_LONG_LABEL, start + kMaxLabelOctets);

@@ -15,11 +15,11 @@ bool RefuseText(Refusal* refusal, ortholan_reason reason, std::string_view text)
 // The name asked for may be absolute, with a dot at its end (RFC 1034 3.1), and hosts with hyphens
 // at the edges of labels are asked for below wildcards.
 bool ReadHost(std::string_view text, uint32_t choices, NameParts* parts, Refusal* refusal) {
-  IpAddress address;
-  if (ReadIpAddress(text, &address)) {
-    return RefuseText(refusal, ORTHOLAN_REASON_HOST_IS_ADDRESS, text);
+  if (!CheckHost(text, choices | kTrailingDot | kEdgeHyphens, refusal)) {
+    IpAddress address;
+    if (ReadIpAddress(text, &address)) RefuseText(refusal, ORTHOLAN_REASON_HOST_IS_ADDRESS, text);
+    return false;
   }
-  if (!CheckHost(text, choices | kTrailingDot | kEdgeHyphens, refusal)) return false;
   parts->host = WithoutTrailingDot(text);
   return true;
 }

@@ -1,0 +1,114 @@
+// Certificates, requests and CRLs in C++17, and PEM text that holds them.
+//
+//   for (const ortholan::PemBlock& block : ortholan::ReadPem(text).value()) {
+//     const auto certificate = ortholan::Certificate::Read(block.octets);
+//     if (certificate) use(certificate->AlternativeNames());
+//   }
+#ifndef ORTHOLAN_STRICT_CERTIFICATES_HPP_
+#define ORTHOLAN_STRICT_CERTIFICATES_HPP_
+
+#include <ortholan/strict/base.hpp>
+#include <ortholan/strict/certificates.h>
+#include <ortholan/strict/general_names.hpp>
+
+namespace ortholan {
+
+enum class CertificateKind : int32_t {
+  kCertificate = ORTHOLAN_CERTIFICATE,
+  kRequest = ORTHOLAN_CERTIFICATE_REQUEST,
+  kRevocationList = ORTHOLAN_REVOCATION_LIST,
+};
+
+// One extension: views into the encoding.
+struct Extension {
+  Octets oid;  // content octets of the identifier
+  Octets value;
+  bool critical = false;
+};
+
+// A certificate, a request or a CRL over borrowed octets.
+class Certificate {
+ public:
+  // Reads what is the whole of `der`, whichever of the three it is.
+  static Result<Certificate> Read(Octets der, Reading reading = Reading::kDer) {
+    Certificate certificate;
+    Refusal refusal;
+    const ortholan_reason reason = ortholan_certificate_view_read(
+        der, static_cast<int32_t>(reading), &certificate.view_, &refusal);
+    if (reason != ORTHOLAN_REASON_NONE) return refusal;
+    return certificate;
+  }
+
+  CertificateKind kind() const { return static_cast<CertificateKind>(view_.kind); }
+  // Whole Names; empty where the kind has none.
+  Octets subject() const { return view_.subject; }
+  Octets issuer() const { return view_.issuer; }
+  // Content of the INTEGER.
+  Octets serial() const { return view_.serial; }
+  // "2026-11-21T22:05:00Z"; refused where the time is malformed or not there.
+  Result<std::string> NotBefore() const { return TimeText(view_.not_before); }
+  Result<std::string> NotAfter() const { return TimeText(view_.not_after); }
+
+  // The one extension of a type, by the content octets of its identifier. Refused with NOT_FOUND
+  // where there is none, with DUPLICATE_EXTENSION where there are several.
+  Result<Extension> Find(Octets oid) const {
+    ortholan_extension_view found;
+    Refusal refusal;
+    if (ortholan_certificate_view_extension(&view_, oid, &found, &refusal) != 0) return refusal;
+    return Extension{found.oid, found.value, found.critical != 0};
+  }
+  std::vector<Extension> Extensions() const {
+    std::vector<Extension> extensions;
+    ortholan_extension_view found;
+    for (size_t offset = 0;
+         ortholan_certificate_view_next_extension(&view_, &offset, &found) == 0;) {
+      extensions.push_back({found.oid, found.value, found.critical != 0});
+    }
+    return extensions;
+  }
+  // The subject alternative names; an empty list where there are none.
+  Result<GeneralNames> AlternativeNames(Reading reading = Reading::kDer) const {
+    static constexpr uint8_t kType[] = {0x55, 0x1D, 0x11};
+    const Result<Extension> extension = Find({kType, sizeof kType});
+    if (extension) return GeneralNames::Read(extension->value, reading);
+    if (extension.refusal().reason == ORTHOLAN_REASON_NOT_FOUND) return GeneralNames();
+    return extension.refusal();
+  }
+
+ private:
+  static Result<std::string> TimeText(Octets time) {
+    std::string text;
+    const ortholan_reason reason = WithRoom(&text, [time](char* out, size_t room, size_t* size) {
+      return ortholan_time_to_text(time, out, room, size);
+    });
+    if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
+    return text;
+  }
+
+  ortholan_certificate_view view_{};
+};
+
+struct PemBlock {
+  std::string_view label;  // a view into the text
+  std::vector<uint8_t> octets;
+};
+
+// All blocks of PEM text, whatever stands between them.
+inline Result<std::vector<PemBlock>> ReadPem(std::string_view text) {
+  std::vector<PemBlock> blocks;
+  ortholan_pem_block block;
+  Refusal refusal;
+  for (size_t offset = 0; ortholan_pem_next(ToText(text), &offset, &block, &refusal) == 0;) {
+    PemBlock next{{block.label.data, block.label.size}, {}};
+    WithRoom(&next.octets, [&block](uint8_t* out, size_t room, size_t* size) {
+      return ortholan_pem_octets(&block, out, room, size);
+    });
+    blocks.push_back(std::move(next));
+  }
+  if (refusal.reason != ORTHOLAN_REASON_NOT_FOUND) return refusal;
+  return blocks;
+}
+
+}  // namespace ortholan
+
+#endif  // ORTHOLAN_STRICT_CERTIFICATES_HPP_
