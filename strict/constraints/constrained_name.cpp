@@ -62,6 +62,14 @@ void ReadOther(ByteView content, ConstrainedName* name) {
   ReadMail(AsText(other.value.content), Mailbox::kUtf8, name);
 }
 
+void ReadOctets(const GeneralNameView& general, ConstrainedName* name) {
+  Refusal refusal;
+  if (!general.Check(Leniency::kStructure, false, &refusal)) return SetFault(refusal, name);
+  name->address = general.content;
+  if (general.kind == GeneralNameKind::kDirectory) ReadDirectory(general.content, name);
+  if (general.kind == GeneralNameKind::kOther) ReadOther(general.content, name);
+}
+
 }  // namespace
 
 ConstrainedName ConstrainedName::OfSubject(const NameView& subject) {
@@ -93,12 +101,8 @@ ConstrainedName ConstrainedName::Of(const GeneralNameView& general, NameForm for
   name.form = form;
   name.place = ORTHOLAN_NAME_ALTERNATIVE;
   name.bytes = general.bytes;
-  Refusal refusal;
-  if (!general.Check(Leniency::kStructure, false, &refusal)) {
-    SetFault(refusal, &name);
-    return name;
-  }
   switch (general.kind) {
+    // Their own rules leave no control character and nothing beyond ASCII.
     case GeneralNameKind::kDns:
       ReadDns(AsText(general.content), &name);
       break;
@@ -108,16 +112,8 @@ ConstrainedName ConstrainedName::Of(const GeneralNameView& general, NameForm for
     case GeneralNameKind::kUri:
       ReadUri(AsText(general.content), &name);
       break;
-    case GeneralNameKind::kDirectory:
-      ReadDirectory(general.content, &name);
-      break;
-    case GeneralNameKind::kAddress:
-      name.address = general.content;
-      break;
-    case GeneralNameKind::kOther:
-      ReadOther(general.content, &name);
-      break;
     default:
+      ReadOctets(general, &name);
       break;
   }
   return name;

@@ -162,7 +162,7 @@ struct Link {
   CertificateView certificate;
   NamesOfCertificate names;
   bool is_readable;
-  bool is_self_issued;  // of those above the leaf
+  bool is_self_issued;  // asked of those between leaf and top
 };
 
 // False for a certificate whose names cannot be read.
@@ -201,7 +201,8 @@ class Chain {
       Refusal refusal;
       Link* const link = links_.Extend(1);
       const bool is_read = ReadLink(chain[i], link, &refusal);
-      link->is_self_issued = i != 0 && link->is_readable && IsSelfIssued(link->certificate);
+      link->is_self_issued =
+          i != 0 && i + 1 < size && link->is_readable && IsSelfIssued(link->certificate);
       if (is_read) continue;
       Note(i, i, link->is_readable ? ORTHOLAN_NAME_LIST : ORTHOLAN_NAME_NONE, refusal.reason);
     }

@@ -45,7 +45,7 @@ struct ConstrainedName {
   ortholan_reason fault = ORTHOLAN_REASON_NONE;  // why it cannot be compared
   ByteView bytes;                                // for the finding
   NameView directory;
-  ByteView address;
+  ByteView address;       // of an address
   std::string_view host;  // behind "*." where it has a wildcard; empty for a mailbox at an address
   std::string_view local;
   std::string_view service;

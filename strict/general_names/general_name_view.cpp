@@ -2,6 +2,8 @@
 
 #include <ortholan/strict/general_names.h>
 
+#include <algorithm>
+
 #include "strict/der/identifier.h"
 #include "strict/names/name_view.h"
 
@@ -35,13 +37,18 @@ bool CheckOtherName(ByteView content, Leniency leniency, Refusal* refusal) {
   return value.Read(&element) && value.End() && CheckNested(element, leniency, refusal);
 }
 
+constexpr bool IsControlOrBeyond(uint8_t octet) {
+  return static_cast<uint8_t>(octet - kFirstControl) >= kDelete - kFirstControl;
+}
+
+// All octets at once, and where one is at fault from the front.
 bool CheckCharacters(ByteView content, Refusal* refusal) {
-  for (size_t i = 0; i < content.size; ++i) {
-    if (content[i] < kFirstControl || content[i] >= kDelete) {
-      return Refuse(refusal, ORTHOLAN_REASON_NAME_CHARACTER, content.data + i, content.size - i);
-    }
-  }
-  return true;
+  bool is_bad = false;
+  for (const uint8_t octet : content) is_bad |= IsControlOrBeyond(octet);
+  if (!is_bad) return true;
+  const uint8_t* const at = std::find_if(content.begin(), content.end(), IsControlOrBeyond);
+  return Refuse(refusal, ORTHOLAN_REASON_NAME_CHARACTER, at,
+                static_cast<size_t>(content.end() - at));
 }
 
 bool CheckAddress(ByteView content, bool hasMask, Refusal* refusal) {

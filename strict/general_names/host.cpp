@@ -6,7 +6,7 @@ namespace Ortholan::strict {
 namespace {
 
 // What stands in labels; bits of kLabelCharacters.
-enum : uint8_t { kLetterDigitHyphen = 1, kUnderscore = 2 };
+enum : uint8_t { kLetterDigitHyphen = 1, kUnderscore = 2, kOther = 4 };
 
 struct CharacterTable {
   uint8_t bits[256];
@@ -18,6 +18,8 @@ constexpr CharacterTable MakeCharacters() {
     if (IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-') table.bits[c] = kLetterDigitHyphen;
   }
   table.bits[static_cast<int>('_')] = kUnderscore;
+  for (uint8_t& bits : table.bits) bits = bits != 0 ? bits : uint8_t{kOther};
+  table.bits[static_cast<int>('.')] = 0;
   return table;
 }
 
@@ -84,10 +86,26 @@ class HostChecker {
   Refusal* refusal_;
 };
 
+// Whether the host is one, without a word about what is wrong, as nearly every host is.
+bool IsInOrder(std::string_view host, uint32_t choices) {
+  const uint8_t wrong = (choices & kUnderscores) != 0 ? kOther : kOther | kUnderscore;
+  uint8_t seen = 0;
+  for (const char c : host) seen |= kLabelCharacters.bits[static_cast<uint8_t>(c)];
+  if ((seen & wrong) != 0 || host.size() > kMaxHostOctets) return false;
+  for (;;) {
+    const size_t size = std::min(host.find('.'), host.size());
+    if (size == 0 || size > kMaxLabelOctets || host[0] == '-' || host[size - 1] == '-')
+      return false;
+    if (size == host.size()) break;
+    host.remove_prefix(size + 1);
+  }
+  return !IsAsciiDigit(host.back());
+}
+
 }  // namespace
 
 bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal) {
-  return HostChecker(host, choices, refusal).Check();
+  return IsInOrder(host, choices) || HostChecker(host, choices, refusal).Check();
 }
 
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal) {
