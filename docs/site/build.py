@@ -16,7 +16,7 @@ import sys
 import chart
 
 # In the order that they are read in; a page that nobody named follows.
-GUIDES = ["docs/getting-started", "docs/recipes", "docs/x509name", "docs/c-interface"]
+GUIDES = ["docs/getting-started", "docs/recipes", "docs/matching", "docs/x509name", "docs/c-interface"]
 NAMES = ["docs/options", "docs/name-text", "docs/der", "docs/status-codes"]
 LINK = re.compile(r"\[([^\]\n]*)\]\(([^)\s]+)\)")
 
