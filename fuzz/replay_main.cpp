@@ -39,6 +39,7 @@ constexpr TargetRow kTargets[] = {
     {"conversion", FuzzConversion},
     {"format", FuzzFormat},
     {"c_interface", FuzzCInterface, "general-names.txt"},
+    {"rfc4514", FuzzRfc4514, "names.txt"},
 };
 
 // Longer samples are cut, and not spoiled as well.

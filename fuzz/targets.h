@@ -16,6 +16,7 @@ void FuzzExtension(const uint8_t* data, size_t size);
 void FuzzConversion(const uint8_t* data, size_t size);
 void FuzzFormat(const uint8_t* data, size_t size);
 void FuzzCInterface(const uint8_t* data, size_t size);
+void FuzzRfc4514(const uint8_t* data, size_t size);
 
 }  // namespace Ortholan::fuzzing
 

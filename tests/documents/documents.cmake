@@ -8,7 +8,7 @@ if(TARGET ortholan_c_library)
   set(c_library "${ORTHOLAN_C_LIBRARY}")
 endif()
 
-foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/name-text.md
+foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/name-text.md docs/rfc4514.md
     docs/c-interface.md)
   ortholan_document_programs(${document})
 endforeach()
