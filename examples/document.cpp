@@ -74,7 +74,8 @@ Signed ReadRevocationList(std::string_view content) {
 void AddName(Document& document, const char* role, std::string_view name) {
   if (name.empty()) return;
   const Ortholan::IdentObj octets = Copy(name);
-  document.names.push_back({role, ReadNameText(octets), ReadNameTree(octets)});
+  document.names.push_back(
+      {role, ReadNameText(octets), ReadNameTree(octets), ReadStrictName(name)});
   const NameText& text = document.names.back().text;
   if (text.accepted || text.isMultiValued) return;
   document.faults.push_back(std::string(role) + " cannot be decoded: " + text.reason);

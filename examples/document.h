@@ -11,6 +11,7 @@
 #include "examples/kinds.h"
 #include "examples/name_text.h"
 #include "examples/name_tree.h"
+#include "examples/strict_names.h"
 #include "examples/value.h"
 
 namespace Example {
@@ -26,6 +27,7 @@ struct NameReading {
   const char* role;  // "subject", "issuer"
   NameText text;
   NameTree tree;
+  StrictName strict;
 };
 
 struct Document {

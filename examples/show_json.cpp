@@ -47,7 +47,9 @@ std::string NameJson(const NameReading& name) {
     object.AddText("text", name.text.text);
   } else {
     object.AddText("refused", name.text.reason);
+    if (!name.strict.text.empty()) object.AddText("rfc4514", name.strict.text);
   }
+  if (!name.strict.refusal.empty()) object.AddText("notDer", name.strict.refusal);
   return object.Add("rdns", ArrayOf(name.tree.rdns, RdnJson)).End();
 }
 

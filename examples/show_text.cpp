@@ -52,9 +52,13 @@ std::string TreeText(const NameTree& tree, const std::string& indent) {
 }
 
 std::string NameLines(const NameReading& name) {
-  const std::string text =
-      name.text.accepted ? Visible(ToUtf8(name.text.text)) : Faulty("refused: " + name.text.reason);
-  return "  " + Paint(Colour::kHeading, name.role) + ": " + text + "\n" +
+  std::string text = name.strict.text;
+  if (name.text.accepted) text = Visible(ToUtf8(name.text.text));
+  // The strict reader takes RDNs of several attributes.
+  if (text.empty() && !name.text.accepted) text = Faulty("refused: " + name.text.reason);
+  const std::string refusal =
+      name.strict.refusal.empty() ? "" : "    " + Faulty("no DER: " + name.strict.refusal) + "\n";
+  return "  " + Paint(Colour::kHeading, name.role) + ": " + text + "\n" + refusal +
          TreeText(name.tree, "    ");
 }
 

@@ -101,6 +101,14 @@ const Option kExactOption = {"--exact", nullptr,
 const Option kLongNamesOption = {"--long-names", nullptr,
                                  "with --rfc4514: commonName in place of CN"};
 
+StrictName ReadStrictName(std::string_view der) {
+  const auto name = ortholan::NameView::Read(der);
+  if (!name) return {{}, name.refusal().Sentence()};
+  const ortholan::Result<std::string> text = name->ToText();
+  if (!text) return {{}, text.refusal().Sentence()};
+  return {*text, {}};
+}
+
 void RequireRfc4514(const Arguments& arguments) {
   for (const Option& option : {kExactOption, kLongNamesOption}) {
     if (arguments.Has(option.name)) throw UsageError{std::string(option.name) + " needs --rfc4514"};

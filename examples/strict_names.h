@@ -2,6 +2,9 @@
 #ifndef ORTHOLAN_EXAMPLES_STRICT_NAMES_H_
 #define ORTHOLAN_EXAMPLES_STRICT_NAMES_H_
 
+#include <string>
+#include <string_view>
+
 #include "examples/arguments.h"
 
 namespace Example {
@@ -11,6 +14,13 @@ extern const Option kEncodeRfc4514Option;
 extern const Option kDecodeRfc4514Option;
 extern const Option kExactOption;
 extern const Option kLongNamesOption;
+
+// What the strict reader says of a name.
+struct StrictName {
+  std::string text;     // of RFC 4514; empty where it is refused
+  std::string refusal;  // why it is no name in DER; empty where it is one
+};
+StrictName ReadStrictName(std::string_view der);
 
 // UsageError where one of the last two is given without the first.
 void RequireRfc4514(const Arguments& arguments);

@@ -40,6 +40,8 @@ constexpr TargetRow kTargets[] = {
     {"format", FuzzFormat},
     {"c_interface", FuzzCInterface, "general-names.txt"},
     {"matching", FuzzMatching},
+    {"rfc4514", FuzzRfc4514, "names.txt"},
+    {"name_constraints", FuzzNameConstraints, "general-names.txt"},
 };
 
 // Longer samples are cut, and not spoiled as well.

@@ -17,6 +17,8 @@ void FuzzConversion(const uint8_t* data, size_t size);
 void FuzzMatching(const uint8_t* data, size_t size);
 void FuzzFormat(const uint8_t* data, size_t size);
 void FuzzCInterface(const uint8_t* data, size_t size);
+void FuzzRfc4514(const uint8_t* data, size_t size);
+void FuzzNameConstraints(const uint8_t* data, size_t size);
 
 }  // namespace Ortholan::fuzzing
 

@@ -97,9 +97,9 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   bool GetSimpleRDN(const char* oid, std::wstring& out) const;
 
   // Replaces that value and encodes the whole name anew: the other values may change their string
-  // type, an IA5String of a DC into a UTF8String. ortholan_name_set keeps them octet for octet. False
-  // where there is no such RDN, and with last error 1358 where the bytes are no name. A value that
-  // cannot be encoded fails as SetBy does. The name is unchanged then.
+  // type, an IA5String of a DC into a UTF8String. ortholan_name_set keeps them octet for octet.
+  // False where there is no such RDN, and with last error 1358 where the bytes are no name. A value
+  // that cannot be encoded fails as SetBy does. The name is unchanged then.
   bool SetSimpleRDN(const char* oid, const char* value);
   bool SetSimpleRDN(const SimpleRDN& rdn);
 

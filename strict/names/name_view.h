@@ -92,7 +92,7 @@ class NameView {
 };
 
 // The RDNs from the last to the first. Most names need no memory for it; throws std::bad_alloc for
-// more than 32 RDNs.
+// more than 12 RDNs.
 class BackwardRdns {
  public:
   explicit BackwardRdns(const NameView& name);
@@ -103,7 +103,7 @@ class BackwardRdns {
   }
 
  private:
-  static constexpr size_t kFew = 32;
+  static constexpr size_t kFew = 12;
 
   size_t count_;
   Element few_[kFew];

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <list>
+#include <ortholan/strict.hpp>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -180,6 +181,51 @@ void CheckMade(const std::vector<Cell>& cells) {
   EXPECT_EQ(HexOf(Made(cells[0].Value(), cells[1].Value()).DerEncode()), cells[2].Value());
 }
 
+std::string Rfc4514Text(const std::string& text, const ortholan::Rfc4514& options) {
+  return ortholan::Name::FromText(text).value().ToText(options).value();
+}
+
+void CheckRfc4514(const std::vector<Cell>& cells) {
+  ortholan::Rfc4514 exact;
+  exact.exact = true;
+  EXPECT_EQ(Rfc4514Text(cells[0].Value(), {}), cells[1].Value());
+  EXPECT_EQ(Rfc4514Text(cells[0].Value(), exact), cells[2].Value());
+}
+
+void CheckRfc4514Refusal(const std::vector<Cell>& cells) {
+  const auto name = ortholan::Name::FromText(cells[0].Value());
+  EXPECT_EQ(name.refusal().reason, std::stoi(cells[1].text));
+  EXPECT_EQ(ortholan::ExplainNameText(cells[0].Value(), name.refusal()).message, cells[2].Value());
+}
+
+// The string type that a value of digits gets under each policy.
+void CheckRfc4514Type(const std::vector<Cell>& cells) {
+  const struct {
+    const char* told;
+    uint32_t chosen;
+    uint32_t by_utf8;
+  } kTypes[] = {{"free text", 0x13, 0x0C},  {"PrintableString", 0x13, 0x13},
+                {"IA5String", 0x16, 0x16},  {"NumericString", 0x12, 0x12},
+                {"UTF8String", 0x0C, 0x0C}, {"IA5String or UTF8String", 0x16, 0x16},
+                {"none, # alone", 0, 0}};
+  ortholan::Rfc4514 utf8;
+  utf8.strings = ortholan::StringPolicy::kUtf8;
+  for (std::string names = cells[1].text + ", "; !names.empty();
+       names.erase(0, names.find(", ") + 2)) {
+    const std::string text = names.substr(0, names.find(", ")) + "=1";
+    const auto first = ortholan::Name::FromText(text);
+    const auto second = ortholan::Name::FromText(text, utf8);
+    for (const auto& type : kTypes) {
+      if (cells[2].text != type.told) continue;
+      ASSERT_EQ(first.has_value(), type.chosen != 0) << text;
+      if (!first) continue;
+      EXPECT_EQ(first->view().begin()->identifier(), type.chosen) << text;
+      EXPECT_EQ(second->view().begin()->identifier(), type.by_utf8) << text;
+      EXPECT_EQ(ortholan::OidToText(first->view().begin()->type()).value(), cells[0].text);
+    }
+  }
+}
+
 const Table kTables[] = {
     {"first examples", "README.md", "Text | DER | Rendered", CheckFirstExamples},
     {"encoder options", "docs/options.md", "Options | Text | DER", CheckEncoding},
@@ -191,6 +237,12 @@ const Table kTables[] = {
      [](const std::vector<Cell>& cells) {
        if (cells[1].text != "any other") CheckAttributeType(cells);
      }},
+    {"RFC 4514 texts", "docs/rfc4514.md", "Text of RFC 4514 | Written back | Exactly",
+     CheckRfc4514},
+    {"RFC 4514 refusals", "docs/rfc4514.md", "Refused text of RFC 4514 | Reason | Sentence",
+     CheckRfc4514Refusal},
+    {"RFC 4514 types", "docs/rfc4514.md", "Identifier | Names | String type | Bound",
+     CheckRfc4514Type},
     {"status codes", "docs/status-codes.md", "Status | Meaning | Last error", CheckStatus},
     {"names", "docs/der.md", "Name | DER", CheckName},
     {"extensions", "docs/der.md", "Identifier | Critical | Value | Record", CheckExtension},
