@@ -79,9 +79,13 @@ check_debian() {
   libraries=$(dirname "$(find "$root" -name 'libortholan.so.?')")
   [[ $(LD_LIBRARY_PATH=$libraries "$root/usr/bin/x509name" encode CN=Alpha) == 3010310E* ]] ||
     fail "x509name does not run"
-  LD_LIBRARY_PATH=$libraries tests/cli/completion.sh \
-    "$root/usr/share/bash-completion/completions/x509name" "$root/usr/bin/x509name" >"$scratch/log" ||
-    fail "the completion does not work"
+  # Where each shell looks for what belongs to a command.
+  local shell
+  for shell in bash:bash-completion/completions/x509name zsh:zsh/vendor-completions/_x509name \
+    fish:fish/vendor_completions.d/x509name.fish; do
+    cmp -s "examples/x509name.${shell%%:*}" "$root/usr/share/${shell#*:}" ||
+      fail "no completion for ${shell%%:*}"
+  done
   zcat "$root/usr/share/man/man1/x509name.1.gz" | cmp -s - examples/x509name.1 ||
     fail "the manual page is not there"
   check_debugger "$root" "$libraries"
