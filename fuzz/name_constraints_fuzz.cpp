@@ -17,8 +17,8 @@ ortholan_octets OctetsOf(const std::string& octets) {
 
 std::string Der(uint8_t identifier, const std::string& content) {
   std::string element = {static_cast<char>(identifier)};
-  if (content.size() >= 0x80) element += '\x82';
-  if (content.size() >= 0x80) element += static_cast<char>(content.size() >> 8);
+  if (content.size() >= 0x80) element += content.size() > 0xFF ? '\x82' : '\x81';
+  if (content.size() > 0xFF) element += static_cast<char>(content.size() >> 8);
   return element + static_cast<char>(content.size()) + content;
 }
 
