@@ -23,7 +23,7 @@ constexpr size_t Base128Size(uint64_t value) {
 }
 
 // Writes Base128Size(value) octets and returns their end.
-inline uint8_t* WriteBase128(uint8_t* out, uint64_t value) {
+constexpr uint8_t* WriteBase128(uint8_t* out, uint64_t value) {
   for (size_t group = Base128Size(value) - 1; group != 0; --group) {
     *out++ = static_cast<uint8_t>(kMoreGroups | (value >> (7 * group)));
   }

@@ -13,6 +13,7 @@
 #include "foundation/oid_text.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/encoder/name_assembler.h"
+#include "names/encoder/rdn_writer.h"
 #include "strict/names/attribute_types.h"
 
 namespace Ortholan::capi {
@@ -50,10 +51,10 @@ Outcome Divide(const X509Name& name, const AttributeType* type, Parts* parts) {
 Outcome Join(const Parts& parts, ByteView rdn, X509Name* name) {
   IdentObj der;
   const uint64_t content = static_cast<uint64_t>(parts.before.size) + rdn.size + parts.after.size;
-  if (!AllocateName(content, &der)) {
+  BYTE* out = nullptr;
+  if (!AllocateName(content, &der, &out)) {
     return RefusedByLastError(ORTHOLAN_ERROR_MEMORY, Status::kNoMemory);
   }
-  BYTE* out = WriteHeader(der.pbData, kSequenceOctet, content);
   out = WriteBytes(out, parts.before);
   out = WriteBytes(out, rdn);
   WriteBytes(out, parts.after);

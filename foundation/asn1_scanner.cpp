@@ -2,7 +2,7 @@
 #include <ortholan/asn1.h>
 
 #include "foundation/element_header.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 
@@ -23,7 +23,7 @@ DWORD CASNTBaseRecord::ReadASNInfo(const void* data, DWORD size, DWORD* status) 
 DWORD ASNTGetStructInfo(ASNT_ASN_STRUCT_INFO& info, const void* data, DWORD size) noexcept {
   ElementHeader header = {};
   const Status status = ReadHeader(AsBytes(data, size), &header);
-  info = header;
+  info = {header.cls, header.constructed, header.tag, header.length, header.content};
   return ToCode(status);
 }
 

@@ -10,7 +10,7 @@
 #include "foundation/code_page.h"
 #include "foundation/element_header.h"
 #include "foundation/oid_text.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 namespace {
@@ -23,6 +23,10 @@ constexpr const char* kStringOfWrongType =
 
 constexpr DWORD kStringTags[] = {kTagUtf8String,    kTagNumericString, kTagPrintableString,
                                  kTagTeletexString, kTagIA5String,     kTagVisibleString};
+
+bool IsString(DWORD tag) {
+  return std::find(std::begin(kStringTags), std::end(kStringTags), tag) != std::end(kStringTags);
+}
 
 ElementHeader HeaderOf(const IdentObj& element, const char* where) {
   ElementHeader header;
@@ -78,19 +82,18 @@ bool IsUniversal(const IdentObj& element) {
   return HeaderOf(element, "DerHelper::GetTag").cls == kUniversal;
 }
 
-bool IsStringTag(const ASNT_ASN_STRUCT_INFO& info) noexcept {
-  return std::find(std::begin(kStringTags), std::end(kStringTags), info.tag) !=
-         std::end(kStringTags);
-}
+bool IsStringTag(const ASNT_ASN_STRUCT_INFO& info) noexcept { return IsString(info.tag); }
 
 std::string DecodeOid(const IdentObj& oid, bool anyTag) {
   constexpr const char* kWhere = "DerHelper::DecodeOid";
-  ElementHeader header = HeaderOf(oid, kWhere);
+  const ElementHeader header = HeaderOf(oid, kWhere);
   if (!anyTag && header.tag != kTagOid) Throw({Status::kWrongType, kOidOfWrongType});
   // An implicit tag hides the type; what stands here is an identifier.
-  if (anyTag && header.cls != kUniversal) header.tag = kTagOid;
+  const DWORD tag = anyTag && header.cls != kUniversal ? DWORD{kTagOid} : header.tag;
+  const ASNT_ASN_STRUCT_INFO info = {header.cls, header.constructed, tag, header.length,
+                                     header.content};
   IdentObj value;
-  Check(ASNTGetElement(header, ViewOf(oid).end(), value), kWhere);
+  Check(ASNTGetElement(info, ViewOf(oid).end(), value), kWhere);
   return std::string(AsText(ViewOf(value)));
 }
 
@@ -120,7 +123,7 @@ IdentObj EncodeIA5String(const std::wstring& text, size_t maxLength) {
 std::wstring DecodeUtf8String(const IdentObj& value, bool anyTag) {
   constexpr const char* kWhere = "DerHelper::DecodeUtf8String";
   const ElementHeader header = HeaderOf(value, kWhere);
-  if (!anyTag && !IsStringTag(header)) Throw({Status::kWrongType, kStringOfWrongType});
+  if (!anyTag && !IsString(header.tag)) Throw({Status::kWrongType, kStringOfWrongType});
   ByteView content;
   const Status status = BoundedContent(header, ViewOf(value).end(), &content);
   if (status != Status::kOk) Throw({status, kWhere});

@@ -9,7 +9,7 @@
 #include "bytes/der_tag.h"
 #include "foundation/element_header.h"
 #include "foundation/oid_text.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 #include "foundation/time_text.h"
 
 namespace Ortholan {

@@ -7,13 +7,13 @@ namespace Ortholan {
 namespace {
 
 // Reads the number of a high tag, whose groups begin at `*position`.
-Status ReadHighTag(ByteView in, size_t* position, DWORD* tag) {
+Status ReadHighTag(ByteView in, size_t* position, uint32_t* tag) {
   uint64_t number = 0;
   if (ReadBase128(in, std::numeric_limits<uint32_t>::max(), position, &number) !=
       Base128Result::kDone) {
     return Status::kBadTag;
   }
-  *tag = static_cast<DWORD>(number);
+  *tag = static_cast<uint32_t>(number);
   return Status::kOk;
 }
 
@@ -23,7 +23,7 @@ bool CountToZeroPair(ByteView content, size_t* count) {
   while (position + 2 <= content.size) {
     const void* zero = std::memchr(content.data + position, 0, content.size - position - 1);
     if (zero == nullptr) return false;
-    position = static_cast<size_t>(static_cast<const BYTE*>(zero) - content.data);
+    position = static_cast<size_t>(static_cast<const uint8_t*>(zero) - content.data);
     if (content[position + 1] == 0) {
       *count = position;
       return true;
@@ -38,7 +38,7 @@ bool CountToZeroPair(ByteView content, size_t* count) {
 Status FillLength(ByteView in, size_t position, ElementHeader* header) {
   Length length;
   if (!ReadLength(in, &position, &length)) return Status::kCorrupt;
-  size_t octets = static_cast<DWORD>(length.octets);
+  size_t octets = static_cast<uint32_t>(length.octets);
   header->indefinite = length.indefinite;
   if (length.indefinite && header->constructed == 0 &&
       !CountToZeroPair(in.From(position), &octets)) {
@@ -47,7 +47,7 @@ Status FillLength(ByteView in, size_t position, ElementHeader* header) {
   const bool is_open = length.indefinite && header->constructed != 0;
   // 0xFFFFFFFF stands for the indefinite form in the header's description.
   if (octets >= kIndefiniteLength) return Status::kCorrupt;
-  header->length = is_open ? kIndefiniteLength : static_cast<DWORD>(octets);
+  header->length = is_open ? kIndefiniteLength : static_cast<uint32_t>(octets);
   header->content = in.data + position;
   return Status::kOk;
 }
@@ -62,7 +62,7 @@ Fault MeasurePrimitive(ByteView rest, size_t* length) {
     *length = rest.size;
     return {};
   }
-  const size_t position = static_cast<size_t>(static_cast<const BYTE*>(zero) - rest.data);
+  const size_t position = static_cast<size_t>(static_cast<const uint8_t*>(zero) - rest.data);
   if (!StartsWithZeroPair(rest.From(position))) return {Status::kCorrupt, kMeasureFault};
   *length = position + 2;
   return {};
@@ -95,11 +95,11 @@ Status ReadAnyHeader(ByteView in, ElementHeader* header) {
   return FillLength(in, position, header);
 }
 
-Status BoundedContent(const ASNT_ASN_STRUCT_INFO& info, const BYTE* end, ByteView* content) {
-  if (info.content == nullptr || info.length == kIndefiniteLength) return Status::kCorrupt;
-  if (end == nullptr || end < info.content) return Status::kCorrupt;
-  if (info.length > static_cast<size_t>(end - info.content)) return Status::kCorrupt;
-  *content = {info.content, info.length};
+Status BoundedContent(const uint8_t* content, uint32_t length, const uint8_t* end, ByteView* out) {
+  if (content == nullptr || length == kIndefiniteLength) return Status::kCorrupt;
+  if (end == nullptr || end < content) return Status::kCorrupt;
+  if (length > static_cast<size_t>(end - content)) return Status::kCorrupt;
+  *out = {content, length};
   return Status::kOk;
 }
 

@@ -2,8 +2,6 @@
 #ifndef ORTHOLAN_FOUNDATION_ELEMENT_HEADER_H_
 #define ORTHOLAN_FOUNDATION_ELEMENT_HEADER_H_
 
-#include <ortholan/asn1.h>
-
 #include "bytes/byte_view.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
@@ -11,14 +9,19 @@
 
 namespace Ortholan {
 
-constexpr DWORD kIndefiniteLength = 0xFFFFFFFF;
+constexpr uint32_t kIndefiniteLength = 0xFFFFFFFF;
 
 constexpr const char* kHeaderFault = "CASNTBaseRecord::ReadASNInfo";
 constexpr const char* kMeasureFault = "ASNTGetIndefiniteLength";
 
-struct ElementHeader : ASNT_ASN_STRUCT_INFO {
-  // Written in the indefinite form, also where `length` was counted.
-  bool indefinite;
+// Field by field what ASNT_ASN_STRUCT_INFO has, and the form of the length.
+struct ElementHeader {
+  uint8_t cls;
+  uint8_t constructed;  // kConstructed or 0
+  uint32_t tag;
+  uint32_t length;         // of the content; kIndefiniteLength: constructed, indefinite form
+  const uint8_t* content;  // its first octet
+  bool indefinite;         // written in the indefinite form, also where `length` was counted
 };
 
 // The whole rule, every form.
@@ -39,8 +42,13 @@ inline Status ReadHeader(ByteView in, ElementHeader* header) {
 }
 
 // The content octets, where they are known to lie before `end`: kCorrupt for content that is
-// missing, in the indefinite form, or passes `end`.
-Status BoundedContent(const ASNT_ASN_STRUCT_INFO& info, const BYTE* end, ByteView* content);
+// missing, in the indefinite form, or passes `end`. `header` may be the public
+// ASNT_ASN_STRUCT_INFO.
+Status BoundedContent(const uint8_t* content, uint32_t length, const uint8_t* end, ByteView* out);
+template <class Header>
+Status BoundedContent(const Header& header, const uint8_t* end, ByteView* out) {
+  return BoundedContent(header.content, static_cast<uint32_t>(header.length), end, out);
+}
 
 // Measures content in the indefinite form, end-of-contents octets included; all of `rest` where
 // there are none. A terminator is a pair of zero octets.

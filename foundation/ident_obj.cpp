@@ -8,7 +8,7 @@
 
 #include "bytes/byte_view.h"
 #include "foundation/blob_view.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 namespace {

@@ -59,7 +59,7 @@ Status FormatOid(ByteView content, OidText* text) {
   }
 }
 
-Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* content) {
+Status ParseOid(std::string_view dotted, SmallBuffer<uint8_t, kMaxOidContent>* content) {
   const char* at = dotted.data();
   const char* const end = at + dotted.size();
   uint32_t first = 0;
@@ -67,9 +67,9 @@ Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* cont
   if (!ReadArc(&at, end, &first) || !SkipDot(&at, end) || !ReadArc(&at, end, &second)) {
     return Status::kNotEncodable;
   }
-  BYTE* const octets = content->Take(kMaxOidContent);
-  BYTE* out = octets;
-  *out++ = static_cast<BYTE>(first * kSecondArcs + second);
+  uint8_t* const octets = content->Take(kMaxOidContent);
+  uint8_t* out = octets;
+  *out++ = static_cast<uint8_t>(first * kSecondArcs + second);
   while (at != end) {
     uint32_t arc = 0;
     if (!SkipDot(&at, end) || !ReadArc(&at, end, &arc)) return Status::kNotEncodable;

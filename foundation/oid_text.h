@@ -26,7 +26,7 @@ Status FormatOid(ByteView content, OidText* text);
 
 // Content octets for two or more decimal arcs joined by single dots. kNotEncodable for anything
 // else, an arc above 32 bits, and content of more than kMaxOidContent octets.
-Status ParseOid(std::string_view dotted, SmallBuffer<BYTE, kMaxOidContent>* content);
+Status ParseOid(std::string_view dotted, SmallBuffer<uint8_t, kMaxOidContent>* content);
 
 }  // namespace Ortholan
 

@@ -10,7 +10,7 @@
 #include "foundation/blob_view.h"
 #include "foundation/element_header.h"
 #include "foundation/element_reader.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 namespace {

@@ -1,6 +1,6 @@
 #include <ortholan/status.h>
 
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 

@@ -1,18 +1,33 @@
-// Results inside the library: a code to test, turned into an exception, a reported code or a
-// last-error code only at the operation that promises one of these.
+// Results inside the library: a code to test. report.h turns it into what an operation promises.
 #ifndef ORTHOLAN_FOUNDATION_STATUS_CODE_H_
 #define ORTHOLAN_FOUNDATION_STATUS_CODE_H_
 
-#include <ortholan/platform.h>
+#include <cstdint>
 
 namespace Ortholan {
 
-enum class [[nodiscard]] Status : DWORD{
-    kOk = 0,          kNotEncodable = 1, kNoMemory = 16, kBadArgument = 28,
-    kWrongType = 131, kBadTag = 205,     kCorrupt = 206,
+// The numbers are those that XZEPStatus and `DWORD* status` show.
+enum class [[nodiscard]] Status : uint32_t{
+    kOk = 0,
+    // What a caller wants written has no encoding: an identifier that is no dotted one, a time out
+    // of range, a type without a form. Never for what is read.
+    kNotEncodable = 1,
+    // An allocation failed, or a size passes the 32 bits that blobs and the platform's calls have.
+    kNoMemory = 16,
+    // An argument that no input makes right: a null text, an empty list, a tag of no such
+    // structure.
+    kBadArgument = 28,
+    // Well-formed DER of another type than the operation is for.
+    kWrongType = 131,
+    // The identifier octets are at fault: a tag number that never ends or passes 32 bits, a type
+    // that has no plain value, an element that is primitive where its children are wanted.
+    kBadTag = 205,
+    // Any other fault of DER: octets missing, a child outside its parent, content that its type
+    // does not have.
+    kCorrupt = 206,
 };
 
-inline DWORD ToCode(Status status) { return static_cast<DWORD>(status); }
+inline uint32_t ToCode(Status status) { return static_cast<uint32_t>(status); }
 
 // A failure, or kOk, with the operation that it is reported under.
 struct [[nodiscard]] Fault {
@@ -21,16 +36,6 @@ struct [[nodiscard]] Fault {
 
   explicit operator bool() const { return status != Status::kOk; }
 };
-
-[[noreturn]] void Throw(const Fault& fault);
-[[noreturn]] void ThrowNoMemory();
-
-// Stores the code where the caller gave a place for it; otherwise a failure is thrown.
-void ReportOrThrow(const Fault& fault, DWORD* status);
-
-// Sets the thread's last-error code to the platform's code for `status`. Returns false, so that a
-// refusal is one statement.
-bool FailWith(Status status);
 
 }  // namespace Ortholan
 

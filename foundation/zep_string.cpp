@@ -11,9 +11,9 @@
 
 #include "bytes/ascii.h"
 #include "foundation/message_loader.h"
+#include "foundation/report.h"
 #include "foundation/required_text.h"
 #include "foundation/standard_format.h"
-#include "foundation/status_code.h"
 
 namespace Ortholan {
 

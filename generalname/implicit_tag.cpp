@@ -6,7 +6,7 @@
 #include "bytes/der_tag.h"
 #include "foundation/blob_view.h"
 #include "foundation/element_header.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 IdentObj WithContextTag(const IdentObj& element, DWORD tag) {

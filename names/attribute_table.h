@@ -4,9 +4,11 @@
 
 #include <ortholan/platform.h>
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
+#include "bytes/base128.h"
 #include "bytes/byte_view.h"
 
 namespace Ortholan {
@@ -35,6 +37,9 @@ struct alignas(128) AttributeRow {
   int rank;
   // What the decoder calls the type where the platform has no name; empty: it has none.
   std::wstring_view key;
+  // How the type is written in a name text, in upper case; "" for none. All are listed: g++ 12
+  // takes an array that it has to complete for no constant.
+  std::array<std::string_view, 2> keywords;
   ValueRule rule = ValueRule::kFreeText;
   // Values are written as a SEQUENCE of one string a line.
   bool lines = false;
@@ -59,11 +64,7 @@ constexpr OidDer::OidDer(std::string_view dotted) {
   size = 2;
   bytes[size++] = static_cast<BYTE>(arcs[0] * 40 + arcs[1]);
   for (size_t i = 2; i < count; ++i) {
-    unsigned shift = 0;
-    while ((arcs[i] >> shift) >= 0x80) shift += 7;
-    for (; shift != 0; shift -= 7)
-      bytes[size++] = static_cast<BYTE>(0x80 | (arcs[i] >> shift & 0x7F));
-    bytes[size++] = static_cast<BYTE>(arcs[i] & 0x7F);
+    size = static_cast<size_t>(WriteBase128(bytes + size, arcs[i]) - bytes);
   }
   bytes[0] = 6;
   bytes[1] = static_cast<BYTE>(size - 2);
@@ -71,19 +72,24 @@ constexpr OidDer::OidDer(std::string_view dotted) {
 
 #define ORTHOLAN_OID(dotted) dotted, L##dotted, OidDer(dotted)
 inline constexpr AttributeRow kAttributes[] = {
-    {ORTHOLAN_OID("2.5.4.3"), 0, L"cn"},
-    {ORTHOLAN_OID("2.5.4.65"), 0, L"pseudonym"},
-    {ORTHOLAN_OID("2.5.4.12"), 1, L"t"},
-    {ORTHOLAN_OID("2.5.4.11"), 2, L"ou"},
-    {ORTHOLAN_OID("2.5.4.10"), 3, L"o"},
-    {ORTHOLAN_OID("1.2.840.113549.1.9.1"), 4, L"e", ValueRule::kIA5},
-    {ORTHOLAN_OID("1.2.840.113556.1.2.141"), 5, L"department"},
-    {ORTHOLAN_OID("2.5.4.5"), 6, L"serialNumber", ValueRule::kPrintable},
-    {ORTHOLAN_OID("2.5.4.16"), 7, L"postalAddress", ValueRule::kFreeText, true},
-    {ORTHOLAN_OID("2.5.4.8"), 8, L"st"},
-    {ORTHOLAN_OID("2.5.4.7"), 9, L"l"},
-    {ORTHOLAN_OID("2.5.4.6"), 10, L"c", ValueRule::kPrintable},
-    {ORTHOLAN_OID("1.2.840.113549.1.9.2"), 11, L""},
+    {ORTHOLAN_OID("2.5.4.3"), 0, L"cn", {{"CN", ""}}},
+    {ORTHOLAN_OID("2.5.4.65"), 0, L"pseudonym", {{"PSEUDONYM", ""}}},
+    {ORTHOLAN_OID("2.5.4.12"), 1, L"t", {{"T", "TITLE"}}},
+    {ORTHOLAN_OID("2.5.4.11"), 2, L"ou", {{"OU", ""}}},
+    {ORTHOLAN_OID("2.5.4.10"), 3, L"o", {{"O", ""}}},
+    {ORTHOLAN_OID("1.2.840.113549.1.9.1"), 4, L"e", {{"E", "EMAIL"}}, ValueRule::kIA5},
+    {ORTHOLAN_OID("1.2.840.113556.1.2.141"), 5, L"department", {{"DEPARTMENT", ""}}},
+    {ORTHOLAN_OID("2.5.4.5"), 6, L"serialNumber", {{"SERIALNUMBER", ""}}, ValueRule::kPrintable},
+    {ORTHOLAN_OID("2.5.4.16"),
+     7,
+     L"postalAddress",
+     {{"POSTALADDRESS", ""}},
+     ValueRule::kFreeText,
+     true},
+    {ORTHOLAN_OID("2.5.4.8"), 8, L"st", {{"S", ""}}},
+    {ORTHOLAN_OID("2.5.4.7"), 9, L"l", {{"L", ""}}},
+    {ORTHOLAN_OID("2.5.4.6"), 10, L"c", {{"C", ""}}, ValueRule::kPrintable},
+    {ORTHOLAN_OID("1.2.840.113549.1.9.2"), 11, L"", {{"", ""}}},
 };
 #undef ORTHOLAN_OID
 

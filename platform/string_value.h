@@ -12,11 +12,12 @@
 namespace Ortholan {
 
 // Writes one string: `count` characters, all in the type's alphabet, as CERT_RDN_PRINTABLE_STRING,
-// _IA5_STRING (ASCII), _BMP_STRING or _UTF8_STRING. `out` has room for exactly `size` octets, the
-// size of the encoding with a definite, minimal length. False with the last error set where the
-// platform refuses; nothing behind `size` octets is written then either.
-bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t size);
-bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out, size_t size);
+// _IA5_STRING (ASCII), _BMP_STRING or _UTF8_STRING. Its content takes `content` octets, and `out`
+// has room for them and a header with a definite, minimal length. False with the last error set
+// where the platform refuses; nothing behind the encoding is written then either.
+bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t content);
+bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out,
+                       size_t content);
 
 // The content of one string element.
 class StringValue {

@@ -20,7 +20,7 @@ bool ReadChildren(ByteView element, size_t wanted, Element* children, Status* st
 }
 
 // An element with a one-octet tag and length, `size` octets in all.
-void SetPlain(const BYTE* start, size_t size, Element* element) {
+void SetPlain(const uint8_t* start, size_t size, Element* element) {
   element->bytes = {start, size};
   element->header.cls = start[0] & kClassMask;
   element->header.constructed = start[0] & kConstructed;
@@ -35,28 +35,19 @@ void SetPlain(const BYTE* start, size_t size, Element* element) {
 bool SplitPlainRdn(ByteView rdn, PlainAttribute* out) {
   constexpr size_t kTypeAt = 2 * kPlainHeader;
   if (rdn.size < kTypeAt + 2 * kPlainHeader || rdn.size >= kPlainHeader + kLongForm) return false;
-  const BYTE* const set = rdn.data;
-  const BYTE* const attribute = set + kPlainHeader;
-  const BYTE* const type = set + kTypeAt;
+  const uint8_t* const set = rdn.data;
+  const uint8_t* const attribute = set + kPlainHeader;
+  const uint8_t* const type = set + kTypeAt;
   if (set[0] != kSetOctet || set[1] != rdn.size - kPlainHeader) return false;
   if (attribute[0] != kSequenceOctet || attribute[1] != rdn.size - 2 * kPlainHeader) return false;
   if (type[0] != kTagOid || type[1] + kTypeAt + 2 * kPlainHeader > rdn.size) return false;
-  const BYTE* const value = type + kPlainHeader + type[1];
+  const uint8_t* const value = type + kPlainHeader + type[1];
   const size_t value_size = static_cast<size_t>(rdn.end() - value);
-  const BYTE tag = value[0] & kTagMask;
+  const uint8_t tag = value[0] & kTagMask;
   if (tag == kHighTagNumber || tag == kTagOid || value[1] != value_size - kPlainHeader)
     return false;
   out->type = {type + kPlainHeader, type[1]};
   SetPlain(value, value_size, &out->value);
-  return true;
-}
-
-bool SplitRdn(ByteView rdn, AttributeElements* out, Status* status) {
-  *status = Status::kOk;
-  PlainAttribute plain;
-  if (!SplitPlainRdn(rdn, &plain)) return SplitAnyRdn(rdn, out, status);
-  SetPlain(plain.type.data - kPlainHeader, plain.type.size + kPlainHeader, &out->child[0]);
-  out->child[1] = plain.value;
   return true;
 }
 

@@ -25,10 +25,9 @@ struct PlainAttribute {
 // any other, well-formed or not.
 bool SplitPlainRdn(ByteView rdn, PlainAttribute* out);
 
-// Splits an RDN. False with a status for bytes that are no such structure, false with kOk for an
-// RDN without exactly one attribute and an attribute without exactly one type and one value.
-bool SplitRdn(ByteView rdn, AttributeElements* out, Status* status);
-// The same without trying the plain shape first: what SplitPlainRdn must agree with.
+// Splits an RDN of any shape. False with a status for bytes that are no such structure, false with
+// kOk for an RDN without exactly one attribute and an attribute without exactly one type and one
+// value. Where SplitPlainRdn takes the RDN, both agree.
 bool SplitAnyRdn(ByteView rdn, AttributeElements* out, Status* status);
 
 // Whether the child can be read from its own bytes. A primitive element in the indefinite form

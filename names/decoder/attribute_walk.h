@@ -1,5 +1,10 @@
-// The attributes of a name, one an RDN, with their types decoded: what the structured decoders and
-// the name model are built on.
+// The attributes of a name, whose RDNs have one each, with their types decoded: what the name
+// model, the comparison and the C interface read names by.
+//
+//   ForEachAttribute(ViewOf(name), [&](const DecodedAttribute& attribute) {
+//     types.emplace_back(attribute.type().dotted());
+//     return true;
+//   });
 #ifndef ORTHOLAN_NAMES_DECODER_ATTRIBUTE_WALK_H_
 #define ORTHOLAN_NAMES_DECODER_ATTRIBUTE_WALK_H_
 

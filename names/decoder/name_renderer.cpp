@@ -5,8 +5,9 @@
 
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 #include "names/decoder/quoting.h"
+#include "names/decoder/rdn_reader.h"
 #include "names/decoder/short_key.h"
 #include "names/decoder/type_name.h"
 #include "names/decoder/value_text.h"
@@ -63,26 +64,10 @@ void AppendTo(std::string_view text, SmallBuffer<char, N>* out) {
   for (const char c : text) *to++ = c;
 }
 
-// Takes an RDN apart whose type comes first, as a long value's does too.
-bool SplitTypeFirst(ByteView rdn, PlainAttribute* out) {
-  if (SplitPlainRdn(rdn, out)) return true;
-  Status status = Status::kOk;
-  AttributeElements any;
-  if (!SplitAnyRdn(rdn, &any, &status) || !IsType(any.child[0])) return false;
-  const Element& type = any.child[0];
-  out->value = any.child[1];
-  return StandsAlone(type) == Status::kOk && StandsAlone(out->value) == Status::kOk &&
-         BoundedContent(type.header, type.bytes.end(), &out->type) == Status::kOk;
-}
-
-bool QuotesAnEnd(char c) {
-  return (kQuoteClasses[static_cast<unsigned char>(c)] & kQuotedAtEnds) != 0;
-}
-
 }  // namespace
 
-NameRenderer::NameRenderer(DWORD style, DWORD options, bool wide)
-    : style_(style), separator_(SeparatorFor(options, style)), is_wide_(wide) {}
+NameRenderer::NameRenderer(DWORD style, DWORD options)
+    : style_(style), separator_(SeparatorFor(options, style)) {}
 
 // In one pass: a fault of the sequence itself, also one behind an RDN that cannot be rendered,
 // counts before everything else and leaves no text.
@@ -136,12 +121,18 @@ void NameRenderer::SwitchToWide() {
 // it is left to RenderWide, failures included.
 bool NameRenderer::RenderAscii(ByteView rdn) {
   const size_t before = ascii_.size();
-  PlainAttribute attribute;
-  if (!SplitTypeFirst(rdn, &attribute)) return false;
-  if (before != 0) AppendTo(separator_, &ascii_);
-  if (AppendAsciiType(attribute.type) && AppendAsciiValue(attribute.value)) return true;
-  ascii_.Truncate(before);
-  return false;
+  bool has_type = false;
+  Status dropped = Status::kOk;
+  const bool rendered = ReadRdn(
+      rdn, &dropped,
+      [&](ByteView type) {
+        if (before != 0) AppendTo(separator_, &ascii_);
+        has_type = AppendAsciiType(type);
+        return has_type;
+      },
+      [&](const Element& value) { return has_type && AppendAsciiValue(value); });
+  if (!rendered) ascii_.Truncate(before);
+  return rendered;
 }
 
 bool NameRenderer::AppendAsciiType(ByteView content) {
@@ -190,53 +181,46 @@ bool NameRenderer::AppendAsciiValue(const Element& child) {
   if (!CopyAscii(reinterpret_cast<const char*>(decoded.data()), size, value, &classes)) {
     return false;
   }
-  const bool plain = size != 0 && (classes & kQuotedAnywhere) == 0 && !QuotesAnEnd(value[0]) &&
-                     !QuotesAnEnd(value[size - 1]);
-  if (!plain) {
-    ascii_.Extend(QuotedSize(value, size) - size);
-    QuoteAttr(ascii_.data() + start, size);
+  if (CallsForQuotes(std::string_view(value, size), classes)) {
+    const size_t quoted = QuotedSize(value, size);
+    ascii_.Extend(quoted - size);
+    QuoteInPlace(ascii_.data() + start, size, quoted);
   }
   return true;
 }
 
+// A value that comes first is kept until the type stands in front of it.
 bool NameRenderer::RenderWide(ByteView rdn) {
   const size_t before = wide_.size();
+  bool has_type = false;
+  std::wstring kept;
   Status dropped = Status::kOk;
-  AttributeElements attribute;
-  bool rendered = SplitRdn(rdn, &attribute, &dropped);
-  if (rendered && before != 0) AppendAscii(separator_, &wide_);
-  rendered = rendered && AppendWideAttribute(attribute);
+  const bool rendered = ReadRdn(
+      rdn, &dropped,
+      [&](ByteView type) {
+        if (before != 0) AppendAscii(separator_, &wide_);
+        has_type = AppendWideType(type);
+        wide_.append(kept);
+        return has_type;
+      },
+      [&](const Element& value) { return AppendWideValue(value, has_type ? &wide_ : &kept); });
   if (!rendered) wide_.resize(before);
   return rendered;
 }
 
-// Children are decoded in the order in which they stand, so that the first failure is told.
-bool NameRenderer::AppendWideAttribute(const AttributeElements& attribute) {
-  const Element& first = attribute.child[0];
-  const Element& second = attribute.child[1];
-  if (IsType(first)) return AppendWideType(first) && AppendWideValue(second);
-  std::wstring value;
-  wide_.swap(value);
-  const bool read = AppendWideValue(first);
-  wide_.swap(value);
-  if (!read || !AppendWideType(second)) return false;
-  wide_.append(value);
-  return true;
-}
-
-bool NameRenderer::AppendWideType(const Element& child) {
+bool NameRenderer::AppendWideType(ByteView content) {
   TypeText type;
-  if (StandsAlone(child) != Status::kOk || !DecodeAttrOid(child, &type)) return false;
+  if (!DecodeAttrOid(content, &type)) return false;
   if (style_ == kStyleValuesOnly) return true;
   AppendType(type, style_, &wide_);
   wide_.push_back(L'=');
   return true;
 }
 
-bool NameRenderer::AppendWideValue(const Element& child) {
-  const size_t start = wide_.size();
-  if (StandsAlone(child) != Status::kOk || !DecodeAttrData(child, &wide_)) return false;
-  EscapeAttrAuxSym(start, &wide_);
+bool NameRenderer::AppendWideValue(const Element& child, std::wstring* text) {
+  const size_t start = text->size();
+  if (!DecodeAttrData(child, text)) return false;
+  EscapeAttrAuxSym(start, text);
   return true;
 }
 

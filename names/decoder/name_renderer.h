@@ -19,9 +19,8 @@ namespace Ortholan {
 // give the same text, results and last-error codes.
 class NameRenderer {
  public:
-  // `style` is what is shown of a type, `options` chooses the separator. With `wide` all text is
-  // kept in wide characters from the start.
-  NameRenderer(DWORD style, DWORD options, bool wide = false);
+  // `style` is what is shown of a type, `options` chooses the separator.
+  NameRenderer(DWORD style, DWORD options);
 
   // False with the last error set for bytes that are no sequence, and where an RDN cannot be
   // rendered: the text then holds the RDNs before it.
@@ -40,14 +39,13 @@ class NameRenderer {
   bool AppendAsciiType(ByteView content);
   bool AppendLongType(const TypeText& type);
   bool AppendAsciiValue(const Element& child);
-  bool AppendWideType(const Element& child);
-  bool AppendWideValue(const Element& child);
-  bool AppendWideAttribute(const AttributeElements& attribute);
+  bool AppendWideType(ByteView content);
+  bool AppendWideValue(const Element& child, std::wstring* text);
   void SwitchToWide();
 
   DWORD style_;
   std::string_view separator_;
-  bool is_wide_;
+  bool is_wide_ = false;
   size_t left_ = 0;  // octets of the name behind the RDN that is rendered
   SmallBuffer<char, 1024> ascii_;
   std::wstring wide_;

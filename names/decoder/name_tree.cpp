@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "foundation/blob_view.h"
-#include "foundation/status_code.h"
 #include "names/decoder/attribute_chain.h"
 #include "names/decoder/attribute_elements.h"
+#include "names/decoder/rdn_reader.h"
 #include "names/decoder/structured_value.h"
 #include "names/decoder/type_name.h"
 
@@ -15,10 +15,9 @@ namespace {
 
 using Attribute = AttributeChain::Link;
 
-template <typename Identifier>
-bool FillType(const Identifier& identifier, Attribute* attr) {
+bool FillType(ByteView content, Attribute* attr) {
   TypeText type;
-  if (!DecodeAttrOid(identifier, &type)) return false;
+  if (!DecodeAttrOid(content, &type)) return false;
   attr->identifier = new char[type.dotted().size() + 1];
   *std::copy(type.dotted().begin(), type.dotted().end(), attr->identifier) = '\0';
   return true;
@@ -35,22 +34,9 @@ bool FillValue(const Element& child, StructuredValue* value, Attribute* attr) {
 
 // What stands before the child that fails stays in the tree.
 bool DecodeElem(ByteView rdn, StructuredValue* value, Attribute* attr) {
-  PlainAttribute plain;
-  if (SplitPlainRdn(rdn, &plain)) {
-    return FillType(plain.type, attr) && FillValue(plain.value, value, attr);
-  }
-  Status status = Status::kOk;
-  AttributeElements attribute;
-  if (!SplitAnyRdn(rdn, &attribute, &status)) {
-    return status != Status::kOk ? FailWith(status) : false;
-  }
-  for (const Element& child : attribute.child) {
-    status = StandsAlone(child);
-    if (status != Status::kOk) return FailWith(status);
-    const bool filled = IsType(child) ? FillType(child, attr) : FillValue(child, value, attr);
-    if (!filled) return false;
-  }
-  return true;
+  return ReadRdn(
+      rdn, [attr](ByteView type) { return FillType(type, attr); },
+      [value, attr](const Element& child) { return FillValue(child, value, attr); });
 }
 
 // Gives each of the chain's attributes an RDN.

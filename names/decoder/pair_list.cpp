@@ -6,8 +6,8 @@
 #include "bytes/ascii.h"
 #include "foundation/blob_view.h"
 #include "foundation/code_page.h"
-#include "foundation/status_code.h"
-#include "names/decoder/attribute_elements.h"
+#include "foundation/report.h"
+#include "names/decoder/rdn_reader.h"
 #include "names/decoder/type_name.h"
 #include "names/decoder/value_text.h"
 
@@ -26,45 +26,34 @@ Values* AddPair(const TypeText& type, DWORD style, Pairs* pairs) {
   return &pair.second;
 }
 
-// The usual shape with a text in ASCII. One object serves many RDNs.
-class AsciiElem {
+// One attribute after the other: one object serves many RDNs.
+class PairReader {
  public:
-  // False for any other, `pairs` unchanged.
-  bool Decode(ByteView rdn, DWORD style, Pairs* pairs) {
-    if (!SplitPlainRdn(rdn, &plain_) || !DecodeAttrOid(plain_.type, &type_)) return false;
-    if (!value_.Decode(plain_.value)) return false;
-    Values* const values = AddPair(type_, style, pairs);
-    const std::string_view text = value_.text();
-    if (!text.empty()) values->emplace_back(text.begin(), text.end());
+  PairReader(DWORD style, Pairs* pairs) : style_(style), pairs_(pairs) {}
+
+  bool Read(ByteView rdn) {
+    Values values;
+    const bool read = ReadRdn(
+        rdn, [this](ByteView type) { return DecodeAttrOid(type, &type_); },
+        [this, &values](const Element& value) {
+          is_ascii_ = ascii_.Decode(value);
+          return is_ascii_ || DecodeAttrData(value, &values);
+        });
+    if (!read) return false;
+    Values* const kept = AddPair(type_, style_, pairs_);
+    const std::string_view text = is_ascii_ ? ascii_.text() : std::string_view();
+    if (!text.empty()) kept->emplace_back(text.begin(), text.end());
+    if (!is_ascii_) kept->swap(values);
     return true;
   }
 
  private:
-  PlainAttribute plain_;
+  DWORD style_;
+  Pairs* pairs_;
   TypeText type_;
-  AsciiValue value_;
+  AsciiValue ascii_;
+  bool is_ascii_ = false;
 };
-
-// Any shape. Children are decoded in the order in which they stand, so that the first failure is
-// told.
-bool DecodeElem(ByteView rdn, DWORD style, Pairs* pairs) {
-  Status status = Status::kOk;
-  AttributeElements attribute;
-  if (!SplitRdn(rdn, &attribute, &status)) {
-    return status != Status::kOk ? FailWith(status) : false;
-  }
-  TypeText type;
-  Values values;
-  for (const Element& child : attribute.child) {
-    status = StandsAlone(child);
-    if (status != Status::kOk) return FailWith(status);
-    const bool decoded =
-        IsType(child) ? DecodeAttrOid(child, &type) : DecodeAttrData(child, &values);
-    if (!decoded) return false;
-  }
-  AddPair(type, style, pairs)->swap(values);
-  return true;
-}
 
 }  // namespace
 
@@ -76,11 +65,10 @@ bool X500NameDecoder::Decode(const IdentObj& name,
   pairs.clear();
   nameStyle_ = style;
   bool decoded = true;
-  AsciiElem ascii;
+  PairReader attribute(style, &pairs);
   ElementReader reader(bytes);
   for (Element rdn; reader.Next(&rdn);) {
-    decoded =
-        decoded && (ascii.Decode(rdn.bytes, style, &pairs) || DecodeElem(rdn.bytes, style, &pairs));
+    decoded = decoded && attribute.Read(rdn.bytes);
   }
   if (!reader.fault()) return decoded;
   // A fault of the sequence itself counts before everything else and leaves no pairs.

@@ -1,10 +1,18 @@
-// Values in double quotes, where their characters call for them.
+// Values in double quotes: which call for them, and how they are put.
+//
+//   std::wstring text = L"CN=";
+//   text += L"a, b";
+//   EscapeAttrAuxSym(3, &text);  // CN="a, b"
 #ifndef ORTHOLAN_NAMES_DECODER_QUOTING_H_
 #define ORTHOLAN_NAMES_DECODER_QUOTING_H_
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
+
+#include "names/quote.h"
 
 namespace Ortholan {
 
@@ -24,17 +32,23 @@ constexpr std::array<unsigned char, 0x80> MakeQuoteClasses() {
 }
 inline constexpr std::array<unsigned char, 0x80> kQuoteClasses = MakeQuoteClasses();
 
-// Quotes the value that `text` holds from `start` to its end, unless it is plain: not empty, free
-// of apostrophes and of the characters of X500NameDecoder::AuxSymbols, and without white space at
-// either end.
+inline unsigned QuoteClassesOf(char ascii) {
+  return kQuoteClasses.begin()[static_cast<unsigned char>(ascii)];
+}
+// Beyond ASCII the white space of Unicode that both platforms agree on, whatever the locale.
+unsigned QuoteClassesOf(wchar_t c);
+
+// Whether a value is put in quotes: unless it is not empty, free of apostrophes and of
+// X500NameDecoder::AuxSymbols, and without white space at either end. `seen` has the classes of all
+// its characters.
+template <class Char>
+bool CallsForQuotes(std::basic_string_view<Char> value, unsigned seen) {
+  if (value.empty() || (seen & kQuotedAnywhere) != 0) return true;
+  return ((QuoteClassesOf(value.front()) | QuoteClassesOf(value.back())) & kQuotedAtEnds) != 0;
+}
+
+// Quotes the value that `text` holds from `start` to its end where it calls for that.
 void EscapeAttrAuxSym(size_t start, std::wstring* text);
-
-// Doubles the double quotes of that value and puts one at either end.
-void QuoteAttr(size_t start, std::wstring* text);
-
-// Quotes the `size` characters at `value`, which has room for as many as QuotedSize tells.
-size_t QuotedSize(const char* value, size_t size);
-void QuoteAttr(char* value, size_t size);
 
 }  // namespace Ortholan
 

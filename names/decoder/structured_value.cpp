@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "bytes/utf16.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 
 namespace Ortholan {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 #include "platform/calls.h"
 
 namespace Ortholan {
@@ -14,12 +14,6 @@ bool TypeText::Format(ByteView content) {
   formatted_.push_back('\0');
   dotted_ = {formatted_.data(), length};
   return true;
-}
-
-bool DecodeAttrOid(const Element& element, TypeText* type) {
-  ByteView content;
-  const Status status = BoundedContent(element.header, element.bytes.end(), &content);
-  return status == Status::kOk ? DecodeAttrOid(content, type) : FailWith(status);
 }
 
 std::wstring_view GetX500KeyFromOid(const TypeText& type) {

@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/element_reader.h"
 #include "foundation/oid_text.h"
 #include "names/attribute_table.h"
 
@@ -34,7 +33,6 @@ inline bool DecodeAttrOid(ByteView content, TypeText* type) {
   type->dotted_ = type->row_->oid;
   return true;
 }
-bool DecodeAttrOid(const Element& element, TypeText* type);
 
 // The platform's name of the type, otherwise the table's key; empty where neither has one, and the
 // dotted text is shown. Valid for the life of the process.

@@ -4,7 +4,7 @@
 #include "bytes/byte_view.h"
 #include "bytes/utf16.h"
 #include "foundation/code_page.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/hex_text.h"
 

@@ -1,27 +1,13 @@
 #include "names/encoder/name_assembler.h"
 
-#include <ortholan/status.h>
-
-#include <limits>
-
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
 #include "foundation/oid_text.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
+#include "names/encoder/rdn_writer.h"
 #include "names/encoder/value_type.h"
 
 namespace Ortholan {
-
-bool AllocateName(uint64_t content, IdentObj* name) {
-  const uint64_t size = ElementSize(content);
-  if (size > std::numeric_limits<DWORD>::max()) return FailWith(Status::kNoMemory);
-  try {
-    name->Allocate(static_cast<DWORD>(size));
-  } catch (const XZEPStatus&) {
-    return FailWith(Status::kNoMemory);
-  }
-  return true;
-}
 
 bool NameAssembler::EncodeElem(std::string_view type, const Characters& value, ValueRule rule) {
   SmallBuffer<BYTE, kMaxOidContent> content;
@@ -33,15 +19,14 @@ bool NameAssembler::EncodeElem(std::string_view type, const Characters& value, V
   if (row != nullptr) rule = row->rule;
   const bool lines = row != nullptr && row->lines;
   DWORD value_type = 0;
-  if (value.size == 0 || !DetermineTargetType(rule, CommonClasses(value), options_, &value_type)) {
+  if (!DetermineTargetType(rule, value.size, CommonClasses(value), options_, &value_type)) {
     return false;
   }
-  const uint64_t size = MeasureValue(value, value_type, lines);
   const uint64_t oid_size = row != nullptr ? row->der.size : ElementSize(content.size());
   Plan* const plan = plans_.Extend(1);
   plan->row = row;
   plan->oid_offset = oids_.size();
-  plan->value = {value, value_type, lines, size};
+  plan->value = {value, value_type, lines, ValueContent(value, value_type, lines)};
   plan->oid_size = static_cast<uint16_t>(oid_size);
   plan->ends_rdn = false;
   if (row != nullptr) return true;
@@ -62,7 +47,7 @@ uint64_t NameAssembler::RdnContent(const Plan* first, const Plan** next) const {
   uint64_t content = 0;
   const Plan* plan = first;
   do {
-    if (plan->oid_size != 0) content += ElementSize(plan->content());
+    if (plan->oid_size != 0) content += AttributeSize(plan->content());
   } while (!plan++->ends_rdn);
   *next = plan;
   return content;
@@ -71,11 +56,11 @@ uint64_t NameAssembler::RdnContent(const Plan* first, const Plan** next) const {
 bool NameAssembler::Write(IdentObj* der) {
   uint64_t content = 0;
   for (const Plan* plan = plans_.begin(); plan != plans_.end();) {
-    content += ElementSize(RdnContent(plan, &plan));
+    content += RdnSize(RdnContent(plan, &plan));
   }
   IdentObj name;
-  if (!AllocateName(content, &name)) return false;
-  if (!WriteRdns(WriteHeader(name.pbData, kSequenceOctet, content))) return false;
+  BYTE* out = nullptr;
+  if (!AllocateName(content, &name, &out) || !WriteRdns(out)) return false;
   *der = std::move(name);
   return true;
 }
@@ -83,7 +68,7 @@ bool NameAssembler::Write(IdentObj* der) {
 bool NameAssembler::WriteRdns(BYTE* out) {
   for (const Plan* plan = plans_.begin(); plan != plans_.end();) {
     const Plan* next = plan;
-    out = WriteHeader(out, kSetOctet, RdnContent(plan, &next));
+    out = WriteRdnHeader(out, RdnContent(plan, &next));
     for (; plan != next; ++plan) {
       if (plan->oid_size == 0) continue;
       out = WriteAttribute(*plan, out);
@@ -95,12 +80,12 @@ bool NameAssembler::WriteRdns(BYTE* out) {
 
 // Returns the end of what was written, null where the platform refused the value.
 BYTE* NameAssembler::WriteAttribute(const Plan& plan, BYTE* out) {
-  out = WriteHeader(out, kSequenceOctet, plan.content());
+  out = WriteAttributeHeader(out, plan.content());
   const ByteView oid = plan.row != nullptr
                            ? plan.row->oid_der()
                            : ByteView(oids_.data() + plan.oid_offset, plan.oid_size);
   out = WriteBytes(out, oid);
-  return EncodeElemData(plan.value, out) ? out + plan.value.size : nullptr;
+  return EncodeElemData(plan.value, out) ? out + plan.value.size() : nullptr;
 }
 
 }  // namespace Ortholan

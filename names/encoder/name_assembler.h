@@ -1,8 +1,9 @@
-// Attributes to the DER encoding of a Name (RFC 5280 4.1.2.4), planned first and written once:
+// Structures of any shape to a name: attributes are planned first and written once by rdn_writer.h.
 //
-//   SEQUENCE {                     the RDNs in the order given
-//     SET {                        the RDN's attributes in the order given, never re-sorted
-//       SEQUENCE { OBJECT IDENTIFIER, value } ... } ... }
+//   NameAssembler assembler(options);
+//   if (!assembler.EncodeElem("2.5.4.3", Characters("Alpha"))) return false;
+//   assembler.EndRdn();
+//   return assembler.Write(&der);
 #ifndef ORTHOLAN_NAMES_ENCODER_NAME_ASSEMBLER_H_
 #define ORTHOLAN_NAMES_ENCODER_NAME_ASSEMBLER_H_
 
@@ -18,11 +19,7 @@
 
 namespace Ortholan {
 
-// Room for a name whose RDNs take `content` octets in all; its header is not written yet. False
-// with last error 8 where memory runs out or the name passes 4 GiB.
-bool AllocateName(uint64_t content, IdentObj* name);
-
-// Structures of any shape. Attributes are added in order; values must stay where they are until
+// Attributes are added in order; values must stay where they are until
 // Write returns.
 class NameAssembler {
  public:
@@ -51,7 +48,7 @@ class NameAssembler {
     uint16_t oid_size;  // octets of the whole identifier element
     bool ends_rdn;
 
-    uint64_t content() const { return oid_size + value.size; }
+    uint64_t content() const { return oid_size + value.size(); }
   };
 
   uint64_t RdnContent(const Plan* first, const Plan** next) const;

@@ -4,11 +4,10 @@
 #include <functional>
 
 #include "names/encoder/trim.h"
+#include "names/quote.h"
 
 namespace Ortholan {
 namespace {
-
-constexpr char kQuote = '"';
 
 template <typename Char>
 bool HasDoubledQuote(std::basic_string_view<Char> text, size_t quote) {

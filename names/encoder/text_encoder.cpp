@@ -8,9 +8,9 @@
 #include "bytes/ascii.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
-#include "foundation/status_code.h"
-#include "names/encoder/name_assembler.h"
+#include "foundation/report.h"
 #include "names/encoder/name_parser.h"
+#include "names/encoder/rdn_writer.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/value_encoder.h"
 #include "names/encoder/value_type.h"
@@ -68,19 +68,15 @@ class RankPlaces {
   BYTE* next_[kCount];
 };
 
-// Octets of an RDN of one attribute with so much content.
-constexpr uint64_t RdnSize(uint64_t content) { return ElementSize(ElementSize(content)); }
-
 // Chooses the value's string type and tells the octets of its encoding, which are not kept:
 // measuring twice costs less than the room.
 template <typename Elem>
 inline bool PlanElement(DWORD options, const AttributeRow& row, Elem* elem, uint64_t* size) {
   const auto value = elem->value();
   DWORD type = 0;
-  if (value.empty() || !DetermineTargetType(row.rule, elem->classes(), options, &type))
-    return false;
+  if (!DetermineTargetType(row.rule, value.size(), elem->classes(), options, &type)) return false;
   elem->Plan(type);
-  *size = MeasureValue(value, type, row.lines);
+  *size = ElementSize(ValueContent(value, type, row.lines));
   return true;
 }
 
@@ -95,33 +91,10 @@ bool PlanElements(DWORD options, Elems* elems, Places* places) {
     uint64_t size = 0;
     planned = planned && PlanElement(options, *row, &elem, &size);
     if (!planned) return Places::kSorted;
-    places->Add(*row, RdnSize(row->der.size + size));
+    places->Add(*row, RdnSize(AttributeSize(row->der.size + size)));
     return true;
   });
   return typed && planned;
-}
-
-// A copy of fixed size where there is room for it before `end`: what is too much is written over.
-inline BYTE* WriteOid(const OidDer& der, BYTE* out, const BYTE* end) {
-  if (static_cast<size_t>(end - out) >= sizeof(der.bytes)) {
-    std::memcpy(out, der.bytes, sizeof(der.bytes));
-  } else {
-    std::memcpy(out, der.bytes, der.size);
-  }
-  return out + der.size;
-}
-
-// The headers of an RDN and of its one attribute, which has so much content.
-inline BYTE* WriteRdnHeaders(BYTE* out, uint64_t content) {
-  if (content >= kLongForm - 2) {
-    out = WriteHeader(out, kSetOctet, ElementSize(content));
-    return WriteHeader(out, kSequenceOctet, content);
-  }
-  *out++ = kSetOctet;
-  *out++ = static_cast<BYTE>(content + 2);
-  *out++ = kSequenceOctet;
-  *out++ = static_cast<BYTE>(content);
-  return out;
 }
 
 // One attribute an RDN. Behind `*out` nothing was written yet, to `end`, or where that is null to
@@ -130,13 +103,13 @@ template <typename Elem>
 inline bool WriteElement(const Elem& elem, const AttributeRow& row, const BYTE* end, BYTE** out) {
   const auto value = elem.value();
   const DWORD type = elem.type();
-  const uint64_t size = MeasureValue(value, type, row.lines);
-  const uint64_t content = row.der.size + size;
-  BYTE* at = WriteRdnHeaders(*out, content);
+  const uint64_t octets = ValueContent(value, type, row.lines);
+  const uint64_t content = row.der.size + ElementSize(octets);
+  BYTE* at = WriteSingleHeaders(*out, content);
   *out = at + content;
-  at = WriteOid(row.der, at, end != nullptr ? end : *out);
-  if (row.lines) return EncodeElemData({value, type, true, size}, at);
-  return EncodeStringValue(type, value.data(), value.size(), at, static_cast<size_t>(size));
+  at = WriteType(at, row.der, end != nullptr ? end : *out);
+  if (row.lines) return EncodeElemData({value, type, true, octets}, at);
+  return EncodeStringValue(type, value.data(), value.size(), at, static_cast<size_t>(octets));
 }
 
 template <typename Places, typename Elems>
@@ -145,8 +118,9 @@ bool EncodeElements(DWORD options, Elems* elems, IdentObj* der) {
   if (!PlanElements(options, elems, &places)) return false;
   const uint64_t content = places.Total();
   IdentObj name;
-  if (!AllocateName(content, &name)) return false;
-  places.Lay(WriteHeader(name.pbData, kSequenceOctet, content));
+  BYTE* rdns = nullptr;
+  if (!AllocateName(content, &name, &rdns)) return false;
+  places.Lay(rdns);
   const BYTE* const end = Places::kSorted ? nullptr : name.pbData + name.cbData;
   const bool written = elems->ForEach([&](const auto& elem) {
     const AttributeRow& row = *elem.row();
@@ -188,11 +162,6 @@ bool EncodeNameText(std::wstring_view text, DWORD options, bool sortByPriority,
 bool EncodeNameText(std::string_view ascii, DWORD options, bool sortByPriority,
                     const AttributeRow** unfinished, IdentObj* der) {
   return Encode(Trimmed(ascii), options, sortByPriority, unfinished, der);
-}
-
-bool EncodeWideNameText(std::wstring_view text, DWORD options, bool sortByPriority,
-                        const AttributeRow** unfinished, IdentObj* der) {
-  return Encode(Trimmed(text), options, sortByPriority, unfinished, der);
 }
 
 }  // namespace Ortholan

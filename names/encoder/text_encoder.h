@@ -19,9 +19,6 @@ bool EncodeNameText(std::wstring_view text, DWORD options, bool sortByPriority,
 // The same for text in ASCII.
 bool EncodeNameText(std::string_view ascii, DWORD options, bool sortByPriority,
                     const AttributeRow** unfinished, IdentObj* der);
-// The same in wide characters all the way, ASCII or not: what the other two must agree with.
-bool EncodeWideNameText(std::wstring_view text, DWORD options, bool sortByPriority,
-                        const AttributeRow** unfinished, IdentObj* der);
 
 }  // namespace Ortholan
 

@@ -13,34 +13,45 @@ namespace {
 constexpr size_t kTypeTextLimit = 270;
 constexpr std::string_view kBarePrefix = "OID.";
 
-constexpr const AttributeRow* RowOf(std::string_view oid) {
-  for (const AttributeRow& row : kAttributes) {
-    if (row.oid == oid) return &row;
-  }
-  return nullptr;
-}
-
 struct Keyword {
   std::string_view text;
-  const AttributeRow* row;
+  const AttributeRow* row = nullptr;
 };
 
-constexpr Keyword kKeywords[] = {
-    {"C", RowOf("2.5.4.6")},
-    {"E", RowOf("1.2.840.113549.1.9.1")},
-    {"L", RowOf("2.5.4.7")},
-    {"O", RowOf("2.5.4.10")},
-    {"S", RowOf("2.5.4.8")},
-    {"T", RowOf("2.5.4.12")},
-    {"CN", RowOf("2.5.4.3")},
-    {"OU", RowOf("2.5.4.11")},
-    {"EMAIL", RowOf("1.2.840.113549.1.9.1")},
-    {"TITLE", RowOf("2.5.4.12")},
-    {"PSEUDONYM", RowOf("2.5.4.65")},
-    {"DEPARTMENT", RowOf("1.2.840.113556.1.2.141")},
-    {"SERIALNUMBER", RowOf("2.5.4.5")},
-    {"POSTALADDRESS", RowOf("2.5.4.16")},
+constexpr size_t CountKeywords() {
+  size_t count = 0;
+  for (const AttributeRow& row : kAttributes) {
+    for (const std::string_view keyword : row.keywords) count += keyword.empty() ? 0u : 1u;
+  }
+  return count;
+}
+
+constexpr bool IsInFront(std::string_view a, std::string_view b) {
+  return a.size() != b.size() ? a.size() < b.size() : a < b;
+}
+
+// The keywords of the attribute table, short ones first.
+struct Keywords {
+  Keyword rows[CountKeywords()] = {};
+
+  constexpr Keywords() {
+    size_t count = 0;
+    for (const AttributeRow& row : kAttributes) {
+      for (const std::string_view text : row.keywords) {
+        if (!text.empty()) Insert({text, &row}, count++);
+      }
+    }
+  }
+  constexpr void Insert(Keyword keyword, size_t place) {
+    for (; place != 0 && IsInFront(keyword.text, rows[place - 1].text); --place) {
+      rows[place] = rows[place - 1];
+    }
+    rows[place] = keyword;
+  }
+  constexpr const Keyword* begin() const { return rows; }
+  constexpr const Keyword* end() const { return rows + CountKeywords(); }
 };
+constexpr Keywords kKeywords;
 
 // A bit for each length that some form has: text of such a length is left unresolved where it is
 // no form, text of another length is refused.

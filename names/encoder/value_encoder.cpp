@@ -15,32 +15,32 @@ bool ForEachLine(const Characters& text, Use use) {
 
 }  // namespace
 
-uint64_t MeasureString(std::wstring_view text, DWORD type) {
+uint64_t StringContent(std::wstring_view text, DWORD type) {
   switch (type) {
     case CERT_RDN_BMP_STRING:
-      return ElementSize(2 * CountUnits(text));
+      return 2 * CountUnits(text);
     case CERT_RDN_UTF8_STRING:
-      return ElementSize(CountUtf8(text));
+      return CountUtf8(text);
     default:
-      return ElementSize(text.size());
+      return text.size();
   }
 }
 
-uint64_t MeasureLines(const Characters& text, DWORD type) {
+uint64_t LinesContent(const Characters& text, DWORD type) {
   uint64_t size = 0;
   ForEachLine(text, [&](const Characters& line) {
-    size += MeasureString(line, type);
+    size += ElementSize(StringContent(line, type));
     return true;
   });
   return size;
 }
 
 bool EncodeLines(const ValuePlan& plan, BYTE* out) {
-  out = WriteHeader(out, kSequenceOctet, MeasureLines(plan.text, plan.type));
+  out = WriteHeader(out, kSequenceOctet, plan.content);
   return ForEachLine(plan.text, [&](const Characters& line) {
-    const uint64_t size = MeasureString(line, plan.type);
-    if (!EncodeString(line, plan.type, size, out)) return false;
-    out += size;
+    const uint64_t content = StringContent(line, plan.type);
+    if (!EncodeString(line, plan.type, content, out)) return false;
+    out += ElementSize(content);
     return true;
   });
 }

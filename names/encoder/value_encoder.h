@@ -31,41 +31,46 @@ inline unsigned CommonClasses(const Characters& text) {
 
 // The value of one attribute, ready to be written.
 struct ValuePlan {
-  Characters text;  // in the type's alphabet
-  DWORD type;       // CERT_RDN_*: 4, 7, 12 or 13
-  bool lines;       // a SEQUENCE of one string a line
-  uint64_t size;    // octets of the whole encoding
+  Characters text;   // in the type's alphabet
+  DWORD type;        // CERT_RDN_*: 4, 7, 12 or 13
+  bool lines;        // a SEQUENCE of one string a line
+  uint64_t content;  // octets behind the header
+
+  // Octets of the whole encoding.
+  uint64_t size() const { return ElementSize(content); }
 };
 
-// Octets of one string. Sized here rather than by a query of the platform: the content is the text
-// in the type's encoding, and the length field is definite and minimal.
-inline uint64_t MeasureString(std::string_view ascii, DWORD type) {
-  return ElementSize(type == CERT_RDN_BMP_STRING ? 2 * ascii.size() : ascii.size());
+// Content octets of one string: the text in the type's encoding. Sized here rather than by a query
+// of the platform.
+inline uint64_t StringContent(std::string_view ascii, DWORD type) {
+  return type == CERT_RDN_BMP_STRING ? 2 * ascii.size() : ascii.size();
 }
-uint64_t MeasureString(std::wstring_view text, DWORD type);
-inline uint64_t MeasureString(const Characters& text, DWORD type) {
-  return text.ascii != nullptr ? MeasureString(std::string_view(text.ascii, text.size), type)
-                               : MeasureString(std::wstring_view(text.wide, text.size), type);
+uint64_t StringContent(std::wstring_view text, DWORD type);
+inline uint64_t StringContent(const Characters& text, DWORD type) {
+  return text.ascii != nullptr ? StringContent(std::string_view(text.ascii, text.size), type)
+                               : StringContent(std::wstring_view(text.wide, text.size), type);
 }
-uint64_t MeasureLines(const Characters& text, DWORD type);
+// Of a SEQUENCE of one string a line.
+uint64_t LinesContent(const Characters& text, DWORD type);
 
-// Octets of a value in any of the forms above.
+// Content octets of a value in any of the forms above.
 template <typename Text>
-uint64_t MeasureValue(const Text& text, DWORD type, bool lines) {
-  return lines ? ElementSize(MeasureLines(text, type)) : MeasureString(text, type);
+uint64_t ValueContent(const Text& text, DWORD type, bool lines) {
+  return lines ? LinesContent(text, type) : StringContent(text, type);
 }
 
-inline bool EncodeString(const Characters& text, DWORD type, uint64_t size, BYTE* out) {
-  const size_t octets = static_cast<size_t>(size);
+inline bool EncodeString(const Characters& text, DWORD type, uint64_t content, BYTE* out) {
+  const size_t octets = static_cast<size_t>(content);
   if (text.ascii != nullptr) return EncodeStringValue(type, text.ascii, text.size, out, octets);
   return EncodeStringValue(type, text.wide, text.size, out, octets);
 }
 bool EncodeLines(const ValuePlan& plan, BYTE* out);
 
-// Writes plan.size octets to `out` with the platform's codec. False where the platform refuses; its
-// last error stands.
+// Writes plan.size() octets to `out` with the platform's codec. False where the platform refuses;
+// its last error stands.
 inline bool EncodeElemData(const ValuePlan& plan, BYTE* out) {
-  return plan.lines ? EncodeLines(plan, out) : EncodeString(plan.text, plan.type, plan.size, out);
+  return plan.lines ? EncodeLines(plan, out)
+                    : EncodeString(plan.text, plan.type, plan.content, out);
 }
 
 }  // namespace Ortholan

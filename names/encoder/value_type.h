@@ -1,4 +1,4 @@
-// Which string type carries a value, and whether the value is in that type's alphabet.
+// Which values are refused, and which string type carries one that is not.
 #ifndef ORTHOLAN_NAMES_ENCODER_VALUE_TYPE_H_
 #define ORTHOLAN_NAMES_ENCODER_VALUE_TYPE_H_
 
@@ -15,14 +15,26 @@ constexpr unsigned PrescribedAlphabet(ValueRule rule) { return static_cast<unsig
 static_assert(PrescribedAlphabet(ValueRule::kPrintable) == kInPrintable);
 static_assert(PrescribedAlphabet(ValueRule::kIA5) == kInIA5);
 
-// The platform's number of the string type that a value of these character classes is written in:
-// CERT_RDN_PRINTABLE_STRING, _IA5_STRING, _BMP_STRING or _UTF8_STRING. False for a value outside
-// the alphabet of the type that the attribute prescribes.
-inline bool DetermineTargetType(ValueRule rule, unsigned classes, DWORD options, DWORD* valueType) {
+enum class ValueFault { kNone, kEmpty, kOutsideAlphabet };
+
+// Why a value of `size` characters, which have these classes in common, is refused.
+inline ValueFault CheckValue(ValueRule rule, size_t size, unsigned classes) {
+  if (size == 0) return ValueFault::kEmpty;
+  const unsigned alphabet = PrescribedAlphabet(rule);
+  return alphabet == 0 || (classes & alphabet) != 0 ? ValueFault::kNone
+                                                    : ValueFault::kOutsideAlphabet;
+}
+
+// The platform's number of the string type that such a value is written in:
+// CERT_RDN_PRINTABLE_STRING, _IA5_STRING, _BMP_STRING or _UTF8_STRING. False for one that is
+// refused.
+inline bool DetermineTargetType(ValueRule rule, size_t size, unsigned classes, DWORD options,
+                                DWORD* valueType) {
+  if (CheckValue(rule, size, classes) != ValueFault::kNone) return false;
   const unsigned alphabet = PrescribedAlphabet(rule);
   if (alphabet != 0) {
     *valueType = alphabet == kInIA5 ? CERT_RDN_IA5_STRING : CERT_RDN_PRINTABLE_STRING;
-    return (classes & alphabet) != 0;
+    return true;
   }
   const bool printable = (classes & kInPrintable) != 0;
   const bool utf8 = (options & kOptionUtf8) != 0;

@@ -5,7 +5,7 @@
 
 #include "bytes/arena.h"
 #include "foundation/code_page.h"
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 #include "names/encoder/attribute_source.h"
 #include "names/encoder/char_class.h"
 #include "names/encoder/name_assembler.h"

@@ -9,23 +9,20 @@
 #include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
 #include "names/model/name_text.h"
+#include "names/quote.h"
 
 namespace Ortholan {
 namespace {
 
-constexpr char kQuote = '"';
 // A bit that the encoder keeps and does not act on.
 constexpr unsigned long kAttributeOptions = 0x2;
 
 std::string_view TextOf(const char* text) { return text != nullptr ? text : ""; }
 
 void AppendQuoted(std::string_view source, std::string* out) {
-  out->push_back(kQuote);
-  for (const char c : source) {
-    if (c == kQuote) out->push_back(kQuote);
-    out->push_back(c);
-  }
-  out->push_back(kQuote);
+  const size_t start = out->size();
+  out->append(source);
+  QuoteFrom(start, out);
 }
 
 std::string Unquoted(std::string_view source) {

@@ -13,41 +13,33 @@ namespace {
 
 using posix::Fail;
 
-constexpr BYTE kUtf8Tag = 0x0C;
-constexpr BYTE kBmpTag = 0x1E;
-
 constexpr BYTE TagOf(DWORD valueType) {
   switch (valueType) {
     case CERT_RDN_PRINTABLE_STRING:
-      return 0x13;
+      return kTagPrintableString;
     case CERT_RDN_IA5_STRING:
-      return 0x16;
+      return kTagIA5String;
     case CERT_RDN_BMP_STRING:
-      return kBmpTag;
+      return kTagBmpString;
     default:
-      return kUtf8Tag;
+      return kTagUtf8String;
   }
 }
 
 constexpr bool IsEightBitTag(BYTE tag) {
-  return tag == 0x13 || tag == 0x14 || tag == 0x16 || tag == 0x1A;
-}
-
-// Content octets of an element of `size` octets in all.
-size_t ContentSize(size_t size) {
-  for (size_t header = 2;; ++header) {
-    if (ElementSize(size - header) == size) return size - header;
-  }
+  return tag == kTagPrintableString || tag == kTagTeletexString || tag == kTagIA5String ||
+         tag == kTagVisibleString;
 }
 
 }  // namespace
 
-bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t) {
+bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out,
+                       size_t content) {
+  out = WriteHeader(out, TagOf(valueType), content);
   if (valueType != CERT_RDN_BMP_STRING) {
-    std::memcpy(WriteHeader(out, TagOf(valueType), count), ascii, count);
+    std::memcpy(out, ascii, count);
     return true;
   }
-  out = WriteHeader(out, kBmpTag, 2 * count);
   for (size_t i = 0; i < count; ++i) {
     *out++ = 0;
     *out++ = static_cast<BYTE>(ascii[i]);
@@ -55,8 +47,8 @@ bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* o
   return true;
 }
 
-bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out, size_t size) {
-  const size_t content = ContentSize(size);
+bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out,
+                       size_t content) {
   out = WriteHeader(out, TagOf(valueType), content);
   if (valueType == CERT_RDN_BMP_STRING) {
     WriteUtf16Be({text, count}, out);
@@ -71,20 +63,20 @@ bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE*
 bool StringValue::Decode(const BYTE* element, size_t size) {
   if (size == 0) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
   const BYTE tag = element[0];
-  if (!IsEightBitTag(tag) && tag != kUtf8Tag && tag != kBmpTag) {
+  if (!IsEightBitTag(tag) && tag != kTagUtf8String && tag != kTagBmpString) {
     return Fail(CRYPT_E_ASN1_BADTAG) != FALSE;
   }
   posix::Element read;
   if (!posix::ReadElement({element, size}, &read)) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
   const ByteView content = read.content;
   // UTF-8 of ASCII alone is 8-bit text in every code page.
-  is_utf16_ = tag == kBmpTag || (tag == kUtf8Tag && !IsAscii(AsText(content)));
+  is_utf16_ = tag == kTagBmpString || (tag == kTagUtf8String && !IsAscii(AsText(content)));
   if (!is_utf16_) {
     data_ = content.data;
     size_ = content.size;
     return true;
   }
-  const bool is_bmp = tag == kBmpTag;
+  const bool is_bmp = tag == kTagBmpString;
   if (is_bmp && content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
   BYTE* const units = Take(is_bmp ? content.size : 2 * content.size);
   data_ = units;

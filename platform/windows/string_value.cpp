@@ -4,6 +4,8 @@
 #include <limits>
 #include <vector>
 
+#include "bytes/der_length.h"
+
 namespace Ortholan {
 namespace {
 
@@ -33,13 +35,14 @@ bool IsEightBit(DWORD valueType) {
   return valueType == CERT_RDN_PRINTABLE_STRING || valueType == CERT_RDN_IA5_STRING;
 }
 
-bool Encode(DWORD valueType, const BYTE* bytes, size_t count, BYTE* out, size_t size) {
+bool Encode(DWORD valueType, const BYTE* bytes, size_t count, BYTE* out, size_t content) {
   if (count > std::numeric_limits<DWORD>::max()) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return false;
   }
   // The platform takes a pointer that could be written through, and does not.
   const CERT_NAME_VALUE value = {valueType, {static_cast<DWORD>(count), const_cast<BYTE*>(bytes)}};
+  const uint64_t size = ElementSize(content);
   DWORD written = static_cast<DWORD>(size);
   return CryptEncodeObject(kEncodings, X509_NAME_VALUE, &value, out, &written) && written == size;
 }
@@ -52,20 +55,22 @@ bool IsPrimitiveString(BYTE tag) {
 
 }  // namespace
 
-bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out, size_t size) {
+bool EncodeStringValue(DWORD valueType, const char* ascii, size_t count, BYTE* out,
+                       size_t content) {
   if (IsEightBit(valueType)) {
-    return Encode(valueType, reinterpret_cast<const BYTE*>(ascii), count, out, size);
+    return Encode(valueType, reinterpret_cast<const BYTE*>(ascii), count, out, content);
   }
   CharacterBytes bytes;
-  return Encode(valueType, bytes.Convert<wchar_t>(ascii, count), 2 * count, out, size);
+  return Encode(valueType, bytes.Convert<wchar_t>(ascii, count), 2 * count, out, content);
 }
 
-bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out, size_t size) {
+bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE* out,
+                       size_t content) {
   if (!IsEightBit(valueType)) {
-    return Encode(valueType, reinterpret_cast<const BYTE*>(text), 2 * count, out, size);
+    return Encode(valueType, reinterpret_cast<const BYTE*>(text), 2 * count, out, content);
   }
   CharacterBytes bytes;
-  return Encode(valueType, bytes.Convert<char>(text, count), count, out, size);
+  return Encode(valueType, bytes.Convert<char>(text, count), count, out, content);
 }
 
 bool StringValue::Decode(const BYTE* element, size_t size) {

@@ -4,7 +4,7 @@
 #include <sstream>
 #include <string>
 
-#include "foundation/status_code.h"
+#include "foundation/report.h"
 #include "tests/support/thrown.h"
 
 namespace Ortholan::testing {

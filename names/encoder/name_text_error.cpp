@@ -56,13 +56,14 @@ const wchar_t* FindOutside(std::wstring_view value, unsigned alphabet) {
 Found CheckElem(const Elem& elem, const Parser& parser, std::wstring_view text) {
   if (elem.row() == nullptr) return {NameTextFault::kUnknownType, parser.last_type()};
   const std::wstring_view value = elem.value();
-  if (value.empty()) {
+  const ValueFault fault = CheckValue(elem.row()->rule, value.size(), elem.classes());
+  if (fault == ValueFault::kNone) return {};
+  if (fault == ValueFault::kEmpty) {
     const wchar_t* const end = text.data() + text.size();
     const wchar_t* const at = value.data() != nullptr ? parser.Origin(value.data()) : end;
     return {NameTextFault::kMissingValue, {at, 0}};
   }
   const unsigned alphabet = PrescribedAlphabet(elem.row()->rule);
-  if (alphabet == 0 || (elem.classes() & alphabet) != 0) return {};
   const wchar_t* const wrong = parser.Origin(FindOutside(value, alphabet));
   return {NameTextFault::kWrongCharacter, {wrong, 1}, elem.row()};
 }
