@@ -58,8 +58,8 @@ class TimeText {
   explicit TimeText(ByteView text) : text_(text) {}
 
   bool empty() const { return text_.empty(); }
-  bool StartsWithDigit() const { return !empty() && IsDigit(text_[0]); }
-  // 0 where fewer digits follow; the text is then refused.
+  bool StartsWithDigit() const { return !broken_ && !empty() && IsDigit(text_[0]); }
+  // 0 where fewer digits follow; the text is then refused, and nothing more is taken as digits.
   WORD Take(unsigned digits) {
     WORD number = 0;
     for (; digits != 0; --digits) {
