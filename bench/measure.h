@@ -90,6 +90,7 @@ inline constexpr char kTextToDer[] = "text to DER";
 inline constexpr char kDerToText[] = "DER to text";
 inline constexpr char kDerToStrings[] = "DER to (type, value) strings";
 inline constexpr char kCompare[] = "parse two names and compare";
+inline constexpr char kCompareDisguised[] = "same name, other case and blanks";
 inline constexpr char kLargeToDer[] = "value of 1 MB, text to DER";
 inline constexpr char kLargeToText[] = "value of 1 MB, DER to text";
 inline constexpr char kManyToDer[] = "10,000 attributes, text to DER";

@@ -89,6 +89,35 @@ std::string OidElement(std::string_view dotted) {
   return Element(0x06, content);
 }
 
+Attributes Disguised(Attributes attributes) {
+  for (Attribute& attribute : attributes) {
+    if (attribute.oid == kCountryOid) continue;
+    std::string value;
+    for (const char c : attribute.value) {
+      value += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+      if (c == ' ') value += c;
+    }
+    attribute.value = value;
+  }
+  return attributes;
+}
+
+Attributes CyrillicAttributes() {
+  const char* const values[] = {"Москва", "Москва", "Примерная организация",
+                                "Отдел имён и названий", "Иван Петров"};
+  Attributes attributes = SixAttributes();
+  for (size_t i = 0; i < 5; ++i) attributes[i + 1].value = values[i];
+  return attributes;
+}
+
+Attributes CyrillicInCapitals() {
+  const char* const values[] = {"МОСКВА", "МОСКВА", "ПРИМЕРНАЯ ОРГАНИЗАЦИЯ",
+                                "ОТДЕЛ ИМЁН И НАЗВАНИЙ", "ИВАН ПЕТРОВ"};
+  Attributes attributes = SixAttributes();
+  for (size_t i = 0; i < 5; ++i) attributes[i + 1].value = values[i];
+  return attributes;
+}
+
 std::string ToDer(const Attributes& attributes, char tag) {
   std::string rdns;
   for (const Attribute& attribute : attributes) {

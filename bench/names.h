@@ -20,6 +20,11 @@ using Attributes = std::vector<Attribute>;
 
 // C=RU, S=Moscow, L=Moscow, O=Example Organisation, OU=Department of Names, CN=Ivan Petrov
 Attributes SixAttributes();
+// The same with capital letters and with two blanks for each, countries as they are.
+Attributes Disguised(Attributes attributes);
+// Six values of as many characters in Cyrillic, and the same in capital letters.
+Attributes CyrillicAttributes();
+Attributes CyrillicInCapitals();
 // The six over and over, with a number of six digits in each value but the country's; below a
 // million.
 Attributes ManyAttributes(size_t count);

@@ -1,7 +1,8 @@
 # The program that measures the library beside its peers, each of them where it is installed.
 find_package(benchmark REQUIRED)
 ortholan_bench_program(bench_names
-  main.cpp measure.cpp names.cpp allocations.cpp ortholan.cpp strict_names.cpp growth.cpp)
+  main.cpp measure.cpp names.cpp allocations.cpp ortholan.cpp strict_names.cpp strict_matching.cpp
+  growth.cpp)
 target_link_libraries(bench_names PRIVATE benchmark::benchmark)
 
 # ortholan_bench_peer(<name> <header> <library>...)

@@ -84,6 +84,9 @@ void AddNames() {
       [=] { return DerToStrings(der); });
   Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
       [=] { return Equal(der, utf8); });
+  const auto disguised = ToOctets(ToDer(Disguised(six)));
+  const auto same = [=] { return Equal(der, disguised); };
+  Add({kCompareDisguised, kSubject, same}, same);
 }
 
 std::string GeneralNameText(const Botan::GeneralName& name) {

@@ -152,6 +152,9 @@ void AddNames() {
       [=] { return DerToStrings(der); });
   Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
       [=] { return Equal(der, utf8); });
+  const auto disguised = ToDer(Disguised(six));
+  const auto same = [=] { return Equal(der, disguised); };
+  Add({kCompareDisguised, kSubject, same}, same);
 }
 
 // Writes what stands ready in the library's own form, the identifier already encoded.

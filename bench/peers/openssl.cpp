@@ -150,6 +150,9 @@ void AddNames() {
       [=] { return DerToStrings(der); });
   Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
       [=] { return Equal(der, utf8); });
+  const auto disguised = ToDer(Disguised(six));
+  const auto same = [=] { return Equal(der, disguised); };
+  Add({kCompareDisguised, kSubject, same}, same);
 }
 
 void AddGeneralNames() {
