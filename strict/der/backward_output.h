@@ -34,14 +34,11 @@ class BackwardOutput {
   }
   // Identifier and length of the `length` octets that were put last.
   void PutHeader(uint8_t identifier, size_t length) {
-    if (length >= 0x80) {
-      uint8_t octets = 0;
-      for (size_t rest = length; rest != 0; rest >>= 8, ++octets) Put(static_cast<uint8_t>(rest));
-      Put(static_cast<uint8_t>(0x80 | octets));
-    } else {
-      Put(static_cast<uint8_t>(length));
-    }
-    Put(identifier);
+    if (length >= 0x80) return PutLongHeader(identifier, length);
+    uint8_t* const place = Take(2);
+    if (place == nullptr) return;
+    place[0] = identifier;
+    place[1] = static_cast<uint8_t>(length);
   }
 
   size_t size() const { return size_; }
@@ -56,6 +53,13 @@ class BackwardOutput {
   }
 
  private:
+  void PutLongHeader(uint8_t identifier, size_t length) {
+    uint8_t octets = 0;
+    for (size_t rest = length; rest != 0; rest >>= 8, ++octets) Put(static_cast<uint8_t>(rest));
+    Put(static_cast<uint8_t>(0x80 | octets));
+    Put(identifier);
+  }
+
   uint8_t* out_;
   size_t room_;
   size_t size_ = 0;

@@ -53,6 +53,10 @@ constexpr StringTypes kTypes = MakeTypes();
 const StringType& TypeOf(uint8_t identifier) { return kTypes.rows[identifier & 0x1F]; }
 
 StringFault FindOutside(ByteView content, uint8_t alphabet) {
+  // Nearly always all of them are in it: no branch a character.
+  uint8_t common = alphabet;
+  for (const uint8_t octet : content) common &= kAlphabet.bits[octet];
+  if (common != 0) return {};
   for (size_t i = 0; i < content.size; ++i) {
     if ((kAlphabet.bits[content[i]] & alphabet) == 0) return {ORTHOLAN_REASON_ALPHABET, i};
   }

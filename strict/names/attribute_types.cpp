@@ -216,8 +216,60 @@ constexpr auto MakeIdentifiers() {
   return slots;
 }
 
+// Names of one letter or two, by their letters: the most frequent ones.
+constexpr size_t kLetters = 27;
+
+constexpr size_t LetterOf(char c) {
+  const uint8_t folded = Folded(c);
+  return folded >= 'a' && folded <= 'z' ? folded - size_t{'a'} + 1 : 0;
+}
+
+// 0 where it is no such name; the names that are found have letters alone.
+constexpr size_t ShortPlace(std::string_view name) {
+  if (name.empty() || name.size() > 2 || LetterOf(name[0]) == 0) return 0;
+  if (name.size() == 1) return LetterOf(name[0]) * kLetters;
+  return LetterOf(name[1]) == 0 ? 0 : LetterOf(name[0]) * kLetters + LetterOf(name[1]);
+}
+
+// Rows by a key that is their place, made by the compiler.
+template <size_t kSize>
+struct Direct {
+  uint8_t row[kSize] = {};
+  constexpr Direct() {
+    for (uint8_t& each : row) each = kNone;
+  }
+};
+
+constexpr auto MakeShortNames() {
+  Direct<kLetters * kLetters> direct;
+  for (size_t i = 0; i < std::size(kTypes); ++i) {
+    EachName(kTypes[i], [&](std::string_view name) {
+      if (ShortPlace(name) != 0) direct.row[ShortPlace(name)] = static_cast<uint8_t>(i);
+    });
+  }
+  return direct;
+}
+
+// 2.5.4.n, by n.
+constexpr bool IsX520(ByteView oid) {
+  return oid.size == 3 && oid[0] == 0x55 && oid[1] == 0x04 && oid[2] < 0x80;
+}
+
+constexpr auto MakeX520() {
+  Direct<0x80> direct;
+  for (size_t i = 0; i < std::size(kTypes); ++i) {
+    const ByteView oid = kTypes[i].oid.view();
+    if (IsX520(oid)) direct.row[oid[2]] = static_cast<uint8_t>(i);
+  }
+  return direct;
+}
+
+constexpr auto kShortNames = MakeShortNames();
+constexpr auto kX520 = MakeX520();
 constexpr auto kNames = MakeNames();
 constexpr auto kIdentifiers = MakeIdentifiers();
+
+const AttributeType* RowAt(uint8_t row) { return row != kNone ? &kTypes[row] : nullptr; }
 
 template <size_t kSize, class Matches>
 const AttributeType* Find(const Slots<kSize>& slots, uint32_t hash, Matches matches) {
@@ -231,11 +283,13 @@ const AttributeType* Find(const Slots<kSize>& slots, uint32_t hash, Matches matc
 }  // namespace
 
 const AttributeType* FindTypeByName(std::string_view name) {
+  if (const size_t place = ShortPlace(name)) return RowAt(kShortNames.row[place]);
   return Find(kNames, Hash(name),
               [name](const AttributeType& type) { return HasName(type, name); });
 }
 
 const AttributeType* FindType(ByteView oid) {
+  if (IsX520(oid)) return RowAt(kX520.row[oid[2]]);
   return Find(kIdentifiers, Hash(oid),
               [oid](const AttributeType& type) { return Same(type.oid.view(), oid); });
 }

@@ -51,9 +51,9 @@ void PutScalar(uint32_t scalar, Output* out) {
 }
 
 size_t PlainRun(ByteView utf8) {
-  size_t count = 0;
-  while (count < utf8.size && MannerOf(utf8[count]) == kPlain) ++count;
-  return count;
+  const uint8_t* at = utf8.begin();
+  while (at != utf8.end() && MannerOf(*at) == kPlain) ++at;
+  return static_cast<size_t>(at - utf8.begin());
 }
 
 bool PutMiddle(uint8_t identifier, ByteView content, Output* out) {

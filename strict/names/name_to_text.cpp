@@ -14,6 +14,28 @@ bool ComesBack(const Element& value, ValueSyntax syntax, StringPolicy policy) {
   return choice.reason == ORTHOLAN_REASON_NONE && choice.identifier == value.identifier;
 }
 
+bool IsFree(ValueSyntax syntax) {
+  return syntax == ValueSyntax::kDirectoryString || syntax == ValueSyntax::kUtf8 ||
+         syntax == ValueSyntax::kIA5OrUtf8;
+}
+
+// Whether the plain text of a string would be read as a value of the type at all.
+bool IsReadable(const Element& value, ValueSyntax syntax) {
+  if (IsFree(syntax)) return true;
+  if (value.identifier == kUtf8String || IsAsciiString(value.identifier)) {
+    return ChooseString(value.content, syntax, {}).reason == ORTHOLAN_REASON_NONE;
+  }
+  ScalarReader scalars(value.identifier, value.content);
+  uint8_t octet = 0;
+  for (uint32_t scalar; scalars.Next(&scalar);) {
+    octet = static_cast<uint8_t>(scalar);
+    if (scalar >= 0x80 || ChooseString({&octet, 1}, syntax, {}).reason != ORTHOLAN_REASON_NONE) {
+      return false;
+    }
+  }
+  return ChooseString({}, syntax, {}).reason == ORTHOLAN_REASON_NONE;
+}
+
 class Decoder {
  public:
   Decoder(const TextOptions& options, Output* out, Refusal* refusal)
@@ -38,7 +60,8 @@ class Decoder {
     out_->Put('=');
     const Element& value = attribute.value;
     const bool plain = IsString(value.identifier) &&
-                       (!options_.exact || ComesBack(value, type.syntax, options_.strings)) &&
+                       (options_.exact ? ComesBack(value, type.syntax, options_.strings)
+                                       : IsReadable(value, type.syntax)) &&
                        PutEscaped(value.identifier, value.content, out_);
     if (!plain) PutElement(value);
     return true;

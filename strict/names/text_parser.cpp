@@ -29,6 +29,13 @@ constexpr RoleTable kRoles = MakeRoles();
 
 Role RoleOf(char c) { return static_cast<Role>(kRoles.roles[static_cast<uint8_t>(c)]); }
 
+size_t OrdinaryRun(std::string_view text) {
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  while (at != end && RoleOf(*at) == kOrdinary) ++at;
+  return static_cast<size_t>(at - text.data());
+}
+
 // What may follow a backslash as itself.
 bool IsSpecial(char c) { return c != '\0' && std::strchr("\\\"+,;<> #=", c) != nullptr; }
 
@@ -149,8 +156,9 @@ bool TextParser::ReadPlain(TextAttribute* attribute) {
   size_t pairs_end = start;
   size_t saved = 0;  // octets that pairs take in the text above those that they stand for
   for (; position_ < text_.size(); ++position_) {
+    position_ += OrdinaryRun(text_.substr(position_));
+    if (AtEnd()) break;
     const Role role = RoleOf(text_[position_]);
-    if (role == kOrdinary) continue;
     if (role == kSeparator) break;
     if (role == kForbidden) return RefuseAt(ORTHOLAN_REASON_TEXT_UNESCAPED, position_);
     const size_t pair = position_;

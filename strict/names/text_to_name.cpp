@@ -61,6 +61,8 @@ class Encoder {
     }
     if (attribute.form == ValueForm::kHex) {
       ReadHexDigits(attribute.value, place);
+    } else if (attribute.octets == attribute.value.size()) {
+      WriteBytes(place, AsBytes(attribute.value.data(), attribute.octets));
     } else {
       Unescape(attribute.value, place);
     }
