@@ -47,7 +47,7 @@ row "UTF8String" 0 '~      O \(2\.5\.4\.10\) UTF8String: ООО "Ромашка"
   show cyrillic.pem
 row "BMPString" 0 '~      CN \(2\.5\.4\.3\) BMPString: Альфа' "" show bmp.pem
 row "several attributes in one RDN, text" 0 \
-  '~  subject: OU=Unit\+O=Org' "" show multi_valued.pem
+  '~  subject: CN=Beta,O=Org\+OU=Unit,C=RU' "" show multi_valued.pem
 row "several attributes in one RDN, tree" 0 '~      OU \(2\.5\.4\.11\) UTF8String: Unit' "" \
   show multi_valued.pem
 
