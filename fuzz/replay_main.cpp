@@ -42,6 +42,7 @@ constexpr TargetRow kTargets[] = {
     {"matching", FuzzMatching},
     {"rfc4514", FuzzRfc4514, "names.txt"},
     {"name_constraints", FuzzNameConstraints, "general-names.txt"},
+    {"identity", FuzzIdentity},
 };
 
 // Longer samples are cut, and not spoiled as well.

@@ -25,8 +25,9 @@ size_t UnitAt(std::string_view text, char* octet) {
   if (text.size() < 3) return 0;
   const int high = HexDigitValue(text[1]);
   const int low = HexDigitValue(text[2]);
+  if (high < 0 || low < 0) return 0;
   *octet = static_cast<char>(high << 4 | low);
-  return high >= 0 && low >= 0 ? 3 : 0;
+  return 3;
 }
 
 }  // namespace

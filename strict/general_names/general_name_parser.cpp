@@ -1,7 +1,6 @@
 #include "strict/general_names/general_name_parser.h"
 
 #include <ortholan/strict/general_names.h>
-#include <ortholan/strict/identity.h>
 
 #include <algorithm>
 #include <string>
@@ -340,13 +339,6 @@ class NameParser {
   static bool CheckMailbox(std::string_view text, Refusal* refusal) {
     Mailbox mailbox;
     return Mailbox::Read(text, Mailbox::kAscii, &mailbox, refusal);
-  }
-  static bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal) {
-    Mailbox mailbox;
-    if (!Mailbox::Read(text, Mailbox::kUtf8, &mailbox, refusal)) return false;
-    const ByteView octets = AsBytes(text.data(), text.size());
-    return !mailbox.is_ascii ||
-           Refuse(refusal, ORTHOLAN_REASON_ASCII_LOCAL_PART, octets.data, octets.size);
   }
   static bool CheckUri(std::string_view text, Refusal* refusal) {
     Uri uri;

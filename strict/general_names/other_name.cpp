@@ -1,8 +1,11 @@
 #include "strict/general_names/other_name.h"
 
+#include <ortholan/strict/identity.h>
+
 #include "strict/der/identifier.h"
 #include "strict/general_names/guid.h"
 #include "strict/general_names/host.h"
+#include "strict/general_names/mailbox.h"
 #include "strict/general_names/name_characters.h"
 
 namespace Ortholan::strict {
@@ -110,6 +113,11 @@ bool ReadService(Reader* value, OtherName* name) {
          SplitService(name->text, &service, &host, value->refusal());
 }
 
+bool ReadUtf8Mailbox(Reader* value, OtherName* name) {
+  return ReadText(value, kUtf8String, &name->text) &&
+         CheckUtf8Mailbox(name->text, value->refusal());
+}
+
 struct Row {
   OtherNameKind kind;
   size_t type_size;
@@ -122,7 +130,7 @@ constexpr Row kRows[] = {
     {OtherNameKind::kUpn, 10, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 20, 2, 3}, ReadString<kUtf8String>},
     // id-on, 1.3.6.1.5.5.7.8
     {OtherNameKind::kService, 8, {0x2B, 6, 1, 5, 5, 7, 8, 7}, ReadService},
-    {OtherNameKind::kUtf8Mailbox, 8, {0x2B, 6, 1, 5, 5, 7, 8, 9}, ReadString<kUtf8String>},
+    {OtherNameKind::kUtf8Mailbox, 8, {0x2B, 6, 1, 5, 5, 7, 8, 9}, ReadUtf8Mailbox},
     {OtherNameKind::kXmpp, 8, {0x2B, 6, 1, 5, 5, 7, 8, 5}, ReadString<kUtf8String>},
     {OtherNameKind::kPermanentId, 8, {0x2B, 6, 1, 5, 5, 7, 8, 3}, ReadPermanentId},
     {OtherNameKind::kHardwareModule, 8, {0x2B, 6, 1, 5, 5, 7, 8, 4}, ReadHardwareModule},
@@ -173,6 +181,13 @@ bool OtherName::Read(ByteView content, Leniency leniency, OtherName* name, Refus
   }
   *name = read;
   return true;
+}
+
+bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal) {
+  Mailbox mailbox;
+  if (!Mailbox::Read(text, Mailbox::kUtf8, &mailbox, refusal)) return false;
+  return !mailbox.is_ascii || Refuse(refusal, ORTHOLAN_REASON_ASCII_LOCAL_PART,
+                                     reinterpret_cast<const uint8_t*>(text.data()), text.size());
 }
 
 bool SplitService(std::string_view text, std::string_view* service, std::string_view* host,

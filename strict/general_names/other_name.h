@@ -48,6 +48,9 @@ OtherNameKind KindOfOtherName(ByteView type);
 // The content octets of a known kind's identifier.
 ByteView TypeOfOtherName(OtherNameKind kind);
 
+// Whether a text is a mailbox whose local part has characters beyond ASCII (RFC 9598 3).
+bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal);
+
 // Takes a service name apart: "_imaps.example.org" (RFC 4985 2). False where it is none.
 bool SplitService(std::string_view text, std::string_view* service, std::string_view* host,
                   Refusal* refusal);

@@ -44,7 +44,6 @@ ortholan_reason CompareMailboxes(std::string_view presented, bool isUtf8,
   NameParts parts;
   Refusal refusal;
   if (!ReadMailboxParts(presented, isUtf8, &parts, &refusal)) return refusal.reason;
-  if (isUtf8 && parts.is_ascii) return ORTHOLAN_REASON_ASCII_LOCAL_PART;
   if (parts.qualifier != reference.parts.qualifier) return ORTHOLAN_REASON_OTHER_LOCAL_PART;
   return ComparePlaces(parts, reference.parts);
 }

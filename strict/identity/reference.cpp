@@ -41,7 +41,7 @@ bool ReadMailboxParts(std::string_view text, bool isUtf8, NameParts* parts, Refu
   if (!Mailbox::Read(text, isUtf8 ? Mailbox::kUtf8 : Mailbox::kAscii, &mailbox, refusal)) {
     return false;
   }
-  *parts = {mailbox.host, mailbox.local, mailbox.address, mailbox.is_ascii};
+  *parts = {mailbox.host, mailbox.local, mailbox.address};
   return true;
 }
 

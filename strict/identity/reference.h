@@ -28,7 +28,6 @@ struct NameParts {
   std::string_view host;       // empty where an address stands
   std::string_view qualifier;  // local part, scheme, or service with its underscore
   IpAddress address;
-  bool is_ascii = true;  // the local part of a mailbox
 };
 
 // These take names apart and refuse those that cannot be compared. `choices` are what hosts may

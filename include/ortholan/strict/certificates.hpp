@@ -7,8 +7,9 @@
 #ifndef ORTHOLAN_STRICT_CERTIFICATES_HPP_
 #define ORTHOLAN_STRICT_CERTIFICATES_HPP_
 
-#include <ortholan/strict/base.hpp>
 #include <ortholan/strict/certificates.h>
+
+#include <ortholan/strict/base.hpp>
 #include <ortholan/strict/general_names.hpp>
 
 namespace ortholan {
