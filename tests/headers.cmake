@@ -8,7 +8,12 @@ list(APPEND headers ortholan/version.h)
 
 # Standard headers come first, because theirs is another matter; g++'s undefine the macros.
 set(surroundings "#include <algorithm>
+#include <functional>
+#include <iterator>
 #include <list>
+#include <memory>
+#include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 ")
