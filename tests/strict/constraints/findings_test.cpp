@@ -55,7 +55,7 @@ TEST(NameConstraints, TellsWhichNameWhichRuleWhichSubtree) {
       {"what cannot be seen",
        Der(0x86, "urn:\x1B\\"),
        Der(0xA1, Subtree(0x86, "a.org")),
-       {"certificate 1: URI urn:\\1B\\5C cannot be held against the constraints of certificate 2: "
+       {"certificate 1: URI urn:\\1B\\\\ cannot be held against the constraints of certificate 2: "
         "a character stands there that the part of the URI cannot have"}},
       {"constraints without lists",
        Der(0x82, "a.org"),
