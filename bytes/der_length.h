@@ -49,7 +49,15 @@ struct Length {
 };
 
 // The rule for all but the short form: `first` is the octet before `*position`.
-bool ReadLongLength(ByteView in, uint8_t first, size_t* position, Length* length);
+// Whole in the header: the readers of single elements keep all of it in registers then.
+inline bool ReadLongLength(ByteView in, uint8_t first, size_t* position, Length* length) {
+  constexpr size_t kMostOctets = 8;
+  const size_t octets = first - size_t{kLongForm};
+  *length = {0, octets == 0};
+  if (octets > kMostOctets || octets > in.size - *position) return false;
+  for (size_t i = 0; i < octets; ++i) length->octets = length->octets << 8 | in[(*position)++];
+  return true;
+}
 
 // Reads the length at `*position`, which moves past it. False where it is not all there or has more
 // than eight octets. Content need not be there.

@@ -1,5 +1,7 @@
 #include "capi/attribute_type.h"
 
+#include <ortholan/name_options.h>
+
 #include <algorithm>
 
 #include "bytes/ascii.h"

@@ -14,23 +14,22 @@
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/decoder/name_renderer.h"
-#include "names/encoder/encoder_options.h"
 #include "names/encoder/text_encoder.h"
 
 namespace Ortholan::capi {
 namespace {
 
-static_assert(ORTHOLAN_ENCODE_COMMA == kOptionCommaOnly);
-static_assert(ORTHOLAN_ENCODE_SEMICOLON == kOptionSemicolonOnly);
-static_assert(ORTHOLAN_ENCODE_CRLF == kOptionCrLfOnly);
-static_assert(ORTHOLAN_ENCODE_UTF8 == kOptionUtf8);
-static_assert(ORTHOLAN_ENCODE_ALWAYS == kOptionAlways);
-static_assert(ORTHOLAN_STYLE_VALUES == kStyleValuesOnly);
+static_assert(ORTHOLAN_ENCODE_COMMA == kEncodeComma);
+static_assert(ORTHOLAN_ENCODE_SEMICOLON == kEncodeSemicolon);
+static_assert(ORTHOLAN_ENCODE_CRLF == kEncodeCrLf);
+static_assert(ORTHOLAN_ENCODE_UTF8 == kEncodeUtf8);
+static_assert(ORTHOLAN_ENCODE_ALWAYS == kEncodeAlways);
+static_assert(ORTHOLAN_STYLE_VALUES == kStyleValues);
+static_assert(ORTHOLAN_STYLE_OIDS == kStyleOids);
 static_assert(ORTHOLAN_STYLE_KEYS == kStyleKeys);
-static_assert(ORTHOLAN_SEPARATE_SEMICOLON == kOptionSemicolonOnly);
-static_assert(ORTHOLAN_SEPARATE_CRLF == kOptionCrLfOnly);
+static_assert(ORTHOLAN_SEPARATE_SEMICOLON == kSeparateSemicolon);
+static_assert(ORTHOLAN_SEPARATE_CRLF == kSeparateCrLf);
 
-constexpr DWORD kStyleMask = 0x0000FFFF;
 constexpr BYTE kNoRdns[] = {kSequenceOctet, 0};
 
 void GiveName(IdentObj&& der, ortholan_name** name) { *name = new ortholan_name{std::move(der)}; }

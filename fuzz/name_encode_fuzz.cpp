@@ -20,7 +20,6 @@
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
-#include "names/encoder/encoder_options.h"
 #include "names/encoder/name_parser.h"
 #include "names/encoder/text_encoder.h"
 #include "names/encoder/trim.h"
@@ -31,8 +30,8 @@ namespace {
 using Elements = std::list<X500NameEncoder::X500NAME_ELEM>;
 using Pairs = std::list<std::pair<std::wstring, std::list<std::wstring>>>;
 
-constexpr DWORD kOptionBits[] = {kOptionCommaOnly, kOptionSemicolonOnly, kOptionCrLfOnly,
-                                 kOptionUtf8, kOptionAlways};
+constexpr DWORD kOptionBits[] = {kEncodeComma, kEncodeSemicolon, kEncodeCrLf, kEncodeUtf8,
+                                 kEncodeAlways};
 
 bool AllAscii(const std::wstring& text) {
   return std::all_of(text.begin(), text.end(),
@@ -50,9 +49,9 @@ DWORD OptionsFrom(uint8_t bits) {
 
 // The decoder's option for a separator that the encoder under `options` splits at.
 DWORD SeparatorFor(DWORD options) {
-  if ((options & kOptionCommaOnly) != 0) return 0;
-  if ((options & kOptionSemicolonOnly) != 0) return kOptionSemicolonOnly;
-  return options & kOptionCrLfOnly;
+  if ((options & kEncodeComma) != 0) return 0;
+  if ((options & kEncodeSemicolon) != 0) return kEncodeSemicolon;
+  return options & kEncodeCrLf;
 }
 
 bool Encode(const std::wstring& text, DWORD options, bool sort, IdentObj* der) {
@@ -122,7 +121,7 @@ void CheckDescribed(const std::wstring& text, DWORD options, bool encoded) {
 void CheckModel(const std::wstring& text, DWORD options, bool sort) {
   if (text.find(L'\0') != std::wstring::npos) return;
   const std::string narrow = DerHelper::ToString(text, 0);
-  const DWORD used = (options & kOptionUtf8) != 0 ? options & kOptionAlways : options;
+  const DWORD used = (options & kEncodeUtf8) != 0 ? options & kEncodeAlways : options;
   IdentObj der;
   const auto encoded =
       Answer([&] { return Encode(DerHelper::ToWString(narrow, 0), used, sort, &der); });
@@ -190,7 +189,7 @@ void CheckQuoted(std::wstring value, DWORD options) {
   for (const wchar_t c : value) quoted.append(c == L'"' ? 2 : 1, c);
   std::wstring separator = L",";
   if (SeparatorFor(options) != 0) {
-    separator = SeparatorFor(options) == kOptionSemicolonOnly ? L";" : L"\r\n";
+    separator = SeparatorFor(options) == kEncodeSemicolon ? L";" : L"\r\n";
   }
   Elements elements;
   LAW(Divide(L"CN=\"" + quoted + L'"' + separator + L"ou=x", options, &elements));

@@ -8,6 +8,7 @@
 #include <list>
 #include <string_view>
 
+#include "bytes/ascii.h"
 #include "bytes/byte_view.h"
 #include "bytes/utf16.h"
 #include "foundation/blob_view.h"
@@ -85,7 +86,10 @@ std::wstring IpAddressText(const IdentObj& content) {
 }
 
 std::wstring RegisteredIdText(const IdentObj& content) {
-  return DerHelper::ToWString(DerHelper::DecodeOid(content, true), kCodePageAnsi);
+  const std::string text = DerHelper::DecodeOid(content, true);
+  // ASCII is itself in every code page; a text that is too long is left to the conversion.
+  const bool plain = text.size() <= kMaxConvertedText && IsAscii(text);
+  return plain ? FromAscii(text) : DerHelper::ToWString(text, kCodePageAnsi);
 }
 
 struct TextRow {

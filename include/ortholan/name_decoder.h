@@ -2,7 +2,8 @@
 //
 //   Ortholan::X500NameDecoder decoder;
 //   std::wstring text;
-//   if (!decoder.Decode(der, text, 3)) return GetLastError();   // "C=RU,O=Org,CN=Alpha"
+//   if (!decoder.Decode(der, text, Ortholan::kStyleKeys)) return GetLastError();   //
+//   "C=RU,O=Org,CN=Alpha"
 //
 // Every form takes names whose RDNs hold one attribute each; others are refused. Nothing outside
 // the blob is read.
@@ -11,6 +12,7 @@
 
 #include <ortholan/export.h>
 #include <ortholan/ident_obj.h>
+#include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 
 #include <list>
@@ -55,15 +57,13 @@ class ORTHOLAN_EXPORT X500NameDecoder {
   X500NameDecoder& operator=(const X500NameDecoder&) noexcept;
   virtual ~X500NameDecoder();
 
-  // Only the high 16 bits are kept: 0x08000000 separates RDNs by CR LF, otherwise 0x40000000 by
-  // ";", otherwise they are separated by ",".
+  // Only the high 16 bits are kept: kSeparateCrLf and kSeparateSemicolon of name_options.h.
   void SetDecoderOptions(DWORD options);
   // What was kept of them.
   DWORD GetDecoderOptions() const;
 
-  // Renders `name`. The low 16 bits of `options` are the name style from now on: 1 values alone
-  // (always separated by ","), 3 short keys, any other dotted identifiers. The RDNs before the one
-  // that fails stay in `text`.
+  // Renders `name`. The low 16 bits of `options` are the name style from now on:
+  // kStyleValues, kStyleOids or kStyleKeys. The RDNs before the one that fails stay in `text`.
   bool Decode(const IdentObj& name, std::wstring& text, DWORD options);
 
   // Fills the tree: one attribute an RDN, its value as UTF-16LE (CERT_RDN_UNICODE_STRING) with

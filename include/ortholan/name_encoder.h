@@ -1,7 +1,7 @@
 // Text and structures to the DER encoding of an X.501 Name.
 //
 //   Ortholan::X500NameEncoder encoder;
-//   encoder.SetEncoderOptions(0x00040000);
+//   encoder.SetEncoderOptions(Ortholan::kEncodeUtf8);
 //   Ortholan::IdentObj der;
 //   if (!encoder.Encode(L"CN=Alpha, O=Org, C=RU", der, true)) return GetLastError();
 //
@@ -9,17 +9,13 @@
 // or a dotted identifier; a value may stand in double quotes, a doubled quote being one quote.
 // There is no backslash escape, no "#" hex form and no "+": each element is an RDN of its own.
 //
-// Option bits (all others are kept and change nothing):
-//   0x04000000  elements are separated by "," only
-//   0x40000000  by ";" only          (the first of these three that is set wins;
-//   0x08000000  by CR and LF only     none: by any of the four)
-//   0x00040000  text that is not printable is written as UTF8String, not BMPString
-//   0x00100000  with 0x00040000: free text is written as UTF8String always
+// name_options.h has the option bits, by the names kEncode...
 #ifndef ORTHOLAN_NAME_ENCODER_H_
 #define ORTHOLAN_NAME_ENCODER_H_
 
 #include <ortholan/export.h>
 #include <ortholan/ident_obj.h>
+#include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 #include <ortholan/rdn.h>
 

@@ -9,6 +9,7 @@
 #include <ortholan/ident_obj.h>
 #include <ortholan/name_decoder.h>
 #include <ortholan/name_encoder.h>
+#include <ortholan/name_options.h>
 #include <ortholan/name_text_error.h>
 #include <ortholan/platform.h>
 #include <ortholan/rdn.h>

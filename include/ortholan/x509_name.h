@@ -3,7 +3,7 @@
 //   Ortholan::X509Name name;
 //   if (!name.TrySetBy("CN=Alpha, O=Org, C=RU", 0, true)) return GetLastError();
 //   std::wstring text;
-//   name.GetX500String(text, 3);            // "C=RU,O=Org,CN=Alpha"
+//   name.GetX500String(text, Ortholan::kStyleKeys);  // "C=RU,O=Org,CN=Alpha"
 //
 // Two families of operations do the same work and differ in how they refuse. The plain ones set
 // the last error to 1358 and throw an object that no type catches: only `catch (...)` sees it.
@@ -19,6 +19,7 @@
 
 #include <ortholan/export.h>
 #include <ortholan/ident_obj.h>
+#include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 #include <ortholan/rdn.h>
 #include <ortholan/zep_string.h>
@@ -67,8 +68,8 @@ class ORTHOLAN_EXPORT X509Name : public IdentObj {
   X509Name& operator=(const std::list<SimpleRDN>& list);
 
   // Encode another form into this name. With `flag` free text is written as UTF8String always.
-  // From a text: where `options` has 0x40000, all of it but 0x100000 is dropped; a text that is
-  // refused leaves the name empty. Refused: null, and 0x3FFFFFFF characters or more.
+  // From a text: where `options` has kEncodeUtf8, all of it but kEncodeAlways is dropped; a text
+  // that is refused leaves the name empty. Refused: null, and 0x3FFFFFFF characters or more.
   void SetBy(const CERT_NAME_INFO& info, bool flag);
   void SetBy(const std::list<std::list<RDNAttr>>& rdns, bool flag);
   void SetBy(const std::list<SimpleRDN>& list, bool flag, bool sort);

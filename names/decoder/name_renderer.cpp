@@ -1,5 +1,7 @@
 #include "names/decoder/name_renderer.h"
 
+#include <ortholan/name_options.h>
+
 #include <cstdint>
 #include <cstring>
 
@@ -22,13 +24,13 @@ struct SeparatorRow {
   std::string_view separator;
 };
 constexpr SeparatorRow kSeparators[] = {
-    {0x08000000, "\r\n"},
-    {0x40000000, ";"},
+    {kSeparateCrLf, "\r\n"},
+    {kSeparateSemicolon, ";"},
 };
 constexpr std::string_view kDefaultSeparator = ",";
 
 std::string_view SeparatorFor(DWORD options, DWORD style) {
-  if (style == kStyleValuesOnly) return kDefaultSeparator;
+  if (style == kStyleValues) return kDefaultSeparator;
   for (const SeparatorRow& row : kSeparators) {
     if ((options & row.option) != 0) return row.separator;
   }
@@ -138,7 +140,7 @@ bool NameRenderer::RenderAscii(ByteView rdn) {
 bool NameRenderer::AppendAsciiType(ByteView content) {
   TypeText type;
   if (!DecodeAttrOid(content, &type)) return false;
-  if (style_ == kStyleValuesOnly) return true;
+  if (style_ == kStyleValues) return true;
   const ShortKey key = style_ == kStyleKeys ? GetShortKey(type) : ShortKey();
   if (key.size() == 0) return AppendLongType(type);
   const size_t before = ascii_.size();
@@ -211,7 +213,7 @@ bool NameRenderer::RenderWide(ByteView rdn) {
 bool NameRenderer::AppendWideType(ByteView content) {
   TypeText type;
   if (!DecodeAttrOid(content, &type)) return false;
-  if (style_ == kStyleValuesOnly) return true;
+  if (style_ == kStyleValues) return true;
   AppendType(type, style_, &wide_);
   wide_.push_back(L'=');
   return true;

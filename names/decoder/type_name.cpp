@@ -1,5 +1,7 @@
 #include "names/decoder/type_name.h"
 
+#include <ortholan/name_options.h>
+
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "foundation/report.h"

@@ -38,10 +38,6 @@ inline bool DecodeAttrOid(ByteView content, TypeText* type) {
 // dotted text is shown. Valid for the life of the process.
 std::wstring_view GetX500KeyFromOid(const TypeText& type);
 
-// Name styles: what of a type is shown.
-constexpr unsigned kStyleValuesOnly = 1;
-constexpr unsigned kStyleKeys = 3;
-
 // The key that the style shows; empty where it shows the dotted identifier.
 std::wstring_view KeyFor(const TypeText& type, unsigned style);
 

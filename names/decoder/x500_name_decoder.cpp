@@ -1,23 +1,17 @@
 #include <ortholan/name_decoder.h>
+#include <ortholan/name_options.h>
 
 #include "foundation/blob_view.h"
 #include "names/decoder/name_renderer.h"
 #include "names/decoder/type_name.h"
 
 namespace Ortholan {
-namespace {
-
-constexpr DWORD kStyleMask = 0x0000FFFF;
-constexpr DWORD kOptionMask = 0xFFFF0000;
-
-}  // namespace
-
 X500NameDecoder::X500NameDecoder() noexcept : nameStyle_(kStyleKeys), decoderOptions_(0) {}
 X500NameDecoder::X500NameDecoder(const X500NameDecoder&) noexcept = default;
 X500NameDecoder& X500NameDecoder::operator=(const X500NameDecoder&) noexcept = default;
 X500NameDecoder::~X500NameDecoder() = default;
 
-void X500NameDecoder::SetDecoderOptions(DWORD options) { decoderOptions_ = options & kOptionMask; }
+void X500NameDecoder::SetDecoderOptions(DWORD options) { decoderOptions_ = options & ~kStyleMask; }
 
 DWORD X500NameDecoder::GetDecoderOptions() const { return decoderOptions_; }
 

@@ -7,7 +7,6 @@
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "names/encoder/char_class.h"
-#include "names/encoder/encoder_options.h"
 #include "names/encoder/name_parser.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/type_resolver.h"

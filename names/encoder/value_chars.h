@@ -3,6 +3,7 @@
 #ifndef ORTHOLAN_NAMES_ENCODER_VALUE_CHARS_H_
 #define ORTHOLAN_NAMES_ENCODER_VALUE_CHARS_H_
 
+#include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 #include <string_view>
 
 #include "names/encoder/char_class.h"
-#include "names/encoder/encoder_options.h"
 
 namespace Ortholan {
 
@@ -52,9 +52,9 @@ struct DelimiterRow {
 };
 // The first row whose option is set counts.
 inline constexpr DelimiterRow kDelimiters[] = {
-    {kOptionCommaOnly, ValueChars(",")},
-    {kOptionSemicolonOnly, ValueChars(";")},
-    {kOptionCrLfOnly, ValueChars("\r\n")},
+    {kEncodeComma, ValueChars(",")},
+    {kEncodeSemicolon, ValueChars(";")},
+    {kEncodeCrLf, ValueChars("\r\n")},
 };
 inline constexpr ValueChars kAllDelimiters(",;\r\n");
 

@@ -2,11 +2,11 @@
 #ifndef ORTHOLAN_NAMES_ENCODER_VALUE_TYPE_H_
 #define ORTHOLAN_NAMES_ENCODER_VALUE_TYPE_H_
 
+#include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 
 #include "names/attribute_table.h"
 #include "names/encoder/char_class.h"
-#include "names/encoder/encoder_options.h"
 
 namespace Ortholan {
 
@@ -37,8 +37,8 @@ inline bool DetermineTargetType(ValueRule rule, size_t size, unsigned classes, D
     return true;
   }
   const bool printable = (classes & kInPrintable) != 0;
-  const bool utf8 = (options & kOptionUtf8) != 0;
-  const bool always = utf8 && (options & kOptionAlways) != 0;
+  const bool utf8 = (options & kEncodeUtf8) != 0;
+  const bool always = utf8 && (options & kEncodeAlways) != 0;
   if (printable && !always) {
     *valueType = CERT_RDN_PRINTABLE_STRING;
   } else {

@@ -1,5 +1,6 @@
 #include <ortholan/name_decoder.h>
 #include <ortholan/name_encoder.h>
+#include <ortholan/name_options.h>
 #include <ortholan/x509_name.h>
 
 #include <cstring>
@@ -12,7 +13,6 @@
 #include "foundation/untyped_failure.h"
 #include "names/decoder/name_renderer.h"
 #include "names/decoder/structured_value.h"
-#include "names/encoder/encoder_options.h"
 #include "names/encoder/text_encoder.h"
 #include "names/model/name_text.h"
 
@@ -33,14 +33,12 @@ bool EncodeInto(X509Name* name, DWORD options, const Form&... form) {
   return true;
 }
 
-constexpr DWORD kNameStyleMask = 0x0000FFFF;
+DWORD StructureOptions(bool flag) { return flag ? kEncodeAlwaysUtf8 : 0; }
 
-DWORD StructureOptions(bool flag) { return flag ? kOptionAlwaysUtf8 : 0; }
-
-// With kOptionUtf8 everything else but kOptionAlways is dropped, kOptionUtf8 itself included.
+// With kEncodeUtf8 everything else but kEncodeAlways is dropped, kEncodeUtf8 itself included.
 DWORD TextOptions(unsigned long options) {
   const DWORD word = static_cast<DWORD>(options);
-  return (word & kOptionUtf8) != 0 ? word & kOptionAlways : word;
+  return (word & kEncodeUtf8) != 0 ? word & kEncodeAlways : word;
 }
 
 void Require(bool done) {
@@ -60,7 +58,7 @@ bool Render(const X509Name& name, unsigned long options, std::wstring* text) {
 // The 8-bit readers: `out` changes on success alone. ASCII needs no conversion.
 bool RenderNarrow(const X509Name& name, unsigned long options, std::string* out) {
   const DWORD word = static_cast<DWORD>(options);
-  NameRenderer renderer(word & kNameStyleMask, word);
+  NameRenderer renderer(word & kStyleMask, word);
   const ByteView bytes = ViewOf(name);
   if (name.cbData != 0 && (bytes.empty() || !renderer.Render(bytes))) return false;
   const std::string_view ascii = renderer.ascii();
