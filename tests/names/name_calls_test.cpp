@@ -141,7 +141,8 @@ std::string Refusals(const VectorRow& row) {
   CertNameInfoWrapper tree;
   SetLastError(kUntouched);
   const bool taken = X500NameDecoder().Decode(name, tree);
-  return text + " / " + Listed(name, 2) + " / " + (taken ? "taken" : Refusal());
+  const std::string tree_refusal = taken ? "taken" : Refusal();
+  return text + " / " + Listed(name, 2) + " / " + tree_refusal;
 }
 
 // The type as key and as dotted text, which the pair list has too.

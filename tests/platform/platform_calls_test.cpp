@@ -13,7 +13,6 @@ namespace Ortholan::testing {
 namespace {
 
 constexpr DWORD kEncoding = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
-constexpr UINT kUsAscii = 20127;
 
 UINT Type(const VectorRow& row) { return static_cast<UINT>(row.number("type")); }
 DWORD Flags(const VectorRow& row) { return static_cast<DWORD>(row.number("flags")); }

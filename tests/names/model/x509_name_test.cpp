@@ -24,8 +24,7 @@ constexpr char kOld[] = "30 0E 31 0C 30 0A 06 03 55 04 0A 0C 03 4F 6C 64";
 
 std::string Dotted(const X509Name& name) { return Rendered(name, kDotted); }
 
-// A common name of one character, written as these types.
-constexpr char kPrintableA[] = "30 0C 31 0A 30 08 06 03 55 04 03 13 01 61";
+// A common name of one character.
 constexpr char kUtf8A[] = "30 0C 31 0A 30 08 06 03 55 04 03 0C 01 61";
 
 // The tree of a caller; the arrays stay the caller's.
