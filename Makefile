@@ -18,7 +18,7 @@ help:
 	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
 	@echo '                  make bench-baseline records anew'
 	@echo 'make docs         the site: pages and public declarations, into build/release/docs/html'
-	@echo 'make abi          record the symbols that both libraries export in abi/'
+	@echo 'make abi          record the symbols that both libraries export in packaging/abi/'
 	@echo 'make format       format the sources'
 	@echo 'make deb          Debian packages into build/package/packages, unpacked and used'
 	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'

@@ -52,8 +52,8 @@ if(TARGET x509name)
 endif()
 
 install(FILES
-  "${PROJECT_SOURCE_DIR}/debug/ortholan.natvis"
-  "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py"
+  "${PROJECT_SOURCE_DIR}/packaging/debug/ortholan.natvis"
+  "${PROJECT_SOURCE_DIR}/packaging/debug/ortholan_gdb.py"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/ortholan" COMPONENT development)
 # GDB loads by itself what lies beside a library, or below its own data directory under the full
 # path of one that came with the system.
@@ -62,7 +62,7 @@ if(NOT WIN32)
   if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(ORTHOLAN_GDB_DIR "${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}")
   endif()
-  install(FILES "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py"
+  install(FILES "${PROJECT_SOURCE_DIR}/packaging/debug/ortholan_gdb.py"
     DESTINATION "${ORTHOLAN_GDB_DIR}"
     RENAME "libortholan.so.${PROJECT_VERSION}-gdb.py"
     COMPONENT development)

@@ -27,8 +27,8 @@ endif()
 
 # The names of the C interface, from which other compilers' tools make an import library.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
-  "${PROJECT_SOURCE_DIR}/abi/windows.txt")
-file(STRINGS "${PROJECT_SOURCE_DIR}/abi/windows.txt" names REGEX "^ortholan_")
+  "${PROJECT_SOURCE_DIR}/packaging/abi/windows.txt")
+file(STRINGS "${PROJECT_SOURCE_DIR}/packaging/abi/windows.txt" names REGEX "^ortholan_")
 list(JOIN names "\n  " names)
 set(ORTHOLAN_C_DEFINITIONS "${PROJECT_BINARY_DIR}/ortholan_c.def")
 file(GENERATE OUTPUT "${ORTHOLAN_C_DEFINITIONS}"

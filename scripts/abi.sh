@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The symbols that the built library exports, beside the recorded ones in abi/.
+# The symbols that the built library exports, beside the recorded ones in packaging/abi/.
 #
 #   abi.sh check  TOOL LIBRARY    fails where they differ, where something foreign is exported, and
 #                                 where the public headers mark something that is not
@@ -27,12 +27,12 @@ fault() {
 # Everything that the library exports, mangled.
 case $library in
   *.dll)
-    record=$root/abi/windows.txt
+    record=$root/packaging/abi/windows.txt
     exported=$("$tool" -p "$library" |
       sed -nE '/^\[Ordinal\/Name Pointer\] Table/,/^$/s/^[[:space:]]*\[ *[0-9]+\].*[[:space:]]([^[:space:]]+)$/\1/p')
     ;;
   *)
-    record=$root/abi/linux.txt
+    record=$root/packaging/abi/linux.txt
     exported=$("$tool" -D --defined-only "$library" | sed -nE 's/^.* ([^ ]+)@@.*$/\1/p')
     ;;
 esac

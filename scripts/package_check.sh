@@ -56,7 +56,7 @@ check_debugger() {
     -ex 'output names[0]' --args "$scratch/printed" "$scratch/names" 2>&1)
   [[ $said == *'C=RU,CN=Alpha' ]] || fail "GDB shows a name as '$said'"
   # Where GDB looks by itself for what belongs to a library.
-  cmp -s debug/ortholan_gdb.py \
+  cmp -s packaging/debug/ortholan_gdb.py \
     "$root/usr/share/gdb/auto-load${libraries#"$root"}/libortholan.so.$VERSION-gdb.py" ||
     fail "GDB would not find the printers"
 }

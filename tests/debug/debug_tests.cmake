@@ -8,11 +8,11 @@ ortholan_warnings(printed)
 # Without GDB the test fails.
 find_program(ORTHOLAN_GDB gdb)
 add_test(NAME gdb_printers COMMAND python3 "${debug}/printers_test.py" "${ORTHOLAN_GDB}"
-  "${PROJECT_SOURCE_DIR}/debug/ortholan_gdb.py" $<TARGET_FILE:printed>
+  "${PROJECT_SOURCE_DIR}/packaging/debug/ortholan_gdb.py" $<TARGET_FILE:printed>
   "${CMAKE_CURRENT_SOURCE_DIR}/data/names.txt" $<TARGET_FILE:ortholan> $<TARGET_FILE:x509name>
   "${CMAKE_COMMAND}" "${PROJECT_BINARY_DIR}")
 set_tests_properties(gdb_printers PROPERTIES TIMEOUT 600)
 
 add_test(NAME natvis COMMAND python3 "${debug}/natvis_test.py"
-  "${PROJECT_SOURCE_DIR}/debug/ortholan.natvis" "${PROJECT_SOURCE_DIR}")
+  "${PROJECT_SOURCE_DIR}/packaging/debug/ortholan.natvis" "${PROJECT_SOURCE_DIR}")
 set_tests_properties(natvis PROPERTIES TIMEOUT 600)

@@ -228,8 +228,8 @@ void CheckRfc4514Type(const std::vector<Cell>& cells) {
 
 const Table kTables[] = {
     {"first examples", "README.md", "Text | DER | Rendered", CheckFirstExamples},
-    {"encoder options", "docs/options.md", "Options | Text | DER", CheckEncoding},
-    {"decoder options", "docs/options.md", "Options | Name | Text", CheckRendering},
+    {"encoder options", "docs/name-text.md", "Options | Text | DER", CheckEncoding},
+    {"decoder options", "docs/name-text.md", "Options | Name | Text", CheckRendering},
     {"texts", "docs/name-text.md", "Text | Read as", CheckText},
     {"refusals", "docs/name-text.md", "Refused text | Fault | Message", CheckRefusal},
     {"attribute types", "docs/name-text.md",

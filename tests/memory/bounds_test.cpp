@@ -1,4 +1,4 @@
-// Time and memory for inputs at the edge of what is sane. Every row of docs/limits.md that has no
+// Time and memory for inputs at the edge of what is sane. Every row of SECURITY.md that has no
 // test of its own elsewhere is held here.
 
 #include <gtest/gtest.h>
