@@ -3,8 +3,8 @@
 PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline docs abi format \
-  deb package clean
+.PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
+  format deb package clean
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -17,6 +17,8 @@ help:
 	@echo '                  docs/performance.md)'
 	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
 	@echo '                  make bench-baseline records anew'
+	@echo 'make suites       ask this library and others the published suites (RECORD=yes: and note it in'
+	@echo '                  docs/suites.md)'
 	@echo 'make docs         the site: pages and public declarations, into build/release/docs/html'
 	@echo 'make abi          record the symbols that both libraries export in packaging/abi/'
 	@echo 'make format       format the sources'
@@ -60,6 +62,12 @@ bench-check bench-baseline:
 	@scripts/setup.sh test
 	@cmake --preset native
 	@cmake --build --preset native --target $@
+
+suites:
+	@scripts/setup.sh suites
+	cmake --preset native
+	cmake --build --preset native --target ortholan
+	/usr/bin/python3 scripts/suites.py $(if $(RECORD),--record)
 
 docs:
 	@scripts/setup.sh docs

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
-#   setup.sh demo|native|test|fuzz|bench|docs|deb|package
+#   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package
 set -euo pipefail
 
 demo=(g++ cmake ninja-build ca-certificates)
@@ -24,6 +24,11 @@ case ${1-} in
     packages=("${native[@]}" "${windows[@]}" libbenchmark-dev libssl-dev libgnutls28-dev
       libbotan-2-dev libmbedtls-dev)
     ;;
+  # Peers are loaded by the system's own interpreter, whose package has python3-cryptography.
+  suites)
+    packages=("${native[@]}" libssl-dev libgnutls28-dev libbotan-2-dev libmbedtls-dev python3
+      python3-cryptography)
+    ;;
   docs)
     packages=("${demo[@]}" doxygen furo mandoc python3 python3-breathe python3-myst-parser
       python3-sphinx python3-sphinx-copybutton)
@@ -31,7 +36,7 @@ case ${1-} in
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   *)
-    echo "usage: setup.sh demo|native|test|fuzz|bench|docs|deb|package" >&2
+    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package" >&2
     exit 2
     ;;
 esac
