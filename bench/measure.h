@@ -100,6 +100,8 @@ inline constexpr char kGeneralNameDer[] = "DNS general name, DER to text";
 inline constexpr char kRegisteredId[] = "registered ID general name to text";
 inline constexpr char kReadExtension[] = "extension record, read";
 inline constexpr char kWriteExtension[] = "extension record, write";
+inline constexpr char kConstraints[] = "10 names against 5 subtrees";
+inline constexpr char kManyConstraints[] = "10,000 names against 10,000 subtrees";
 
 inline constexpr size_t kLargeSize = 1000000;
 inline constexpr size_t kManyCount = 10000;

@@ -21,6 +21,8 @@ BEGIN {
   row("same name, other case and blanks")
   row("same name, Cyrillic in another case")
   row("key of a name")
+  row("10 names against 5 subtrees")
+  row("10,000 names against 10,000 subtrees")
   row("value of 1 MB, text to DER")
   row("value of 1 MB, text to DER, 8-bit", "value of 1 MB, text to DER", "Ortholan 8-bit")
   row("value of 1 MB, DER to text")
@@ -208,6 +210,12 @@ function print_goals(    i, own, peer, heading, name) {
   print_allocations_goal("DER to text")
   name = "compare names of equal bytes"
   if ((name "/Ortholan") in time) print_limit(name, "time", time[name "/Ortholan"], 100, " ns")
+  name = "10 names against 5 subtrees/Ortholan"
+  if (name in time) print_limit("10 names against 5 subtrees", "time", time[name] / 1000, 1, " µs")
+  name = "10,000 names against 10,000 subtrees/Ortholan"
+  if (name in time) {
+    print_limit("10,000 names against 10,000 subtrees", "time", time[name] / 1e6, 10, " ms")
+  }
   for (i = 1; i <= nrows; ++i) {
     heading = headings[i]
     own = works[heading] "/" owns[heading]

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "bench/chains.h"
 #include "bench/measure.h"
 #include "bench/names.h"
 
@@ -73,6 +74,39 @@ Pairs DerToStrings(const std::string& der) {
 
 bool Equal(const std::string& a, const std::string& b) { return DerToText(a) == DerToText(b); }
 
+bool Read(const std::string& der, gnutls_x509_crt_t certificate) {
+  const gnutls_datum_t data = {reinterpret_cast<unsigned char*>(const_cast<char*>(der.data())),
+                               static_cast<unsigned>(der.size())};
+  return gnutls_x509_crt_import(certificate, &data, GNUTLS_X509_FMT_DER) == GNUTLS_E_SUCCESS;
+}
+
+// Of DNS names alone: each form of names is a call of its own.
+bool Permitted(const Chain& chain) {
+  gnutls_x509_crt_t leaf = nullptr;
+  gnutls_x509_crt_t authority = nullptr;
+  gnutls_x509_name_constraints_t constraints = nullptr;
+  gnutls_x509_crt_init(&leaf);
+  gnutls_x509_crt_init(&authority);
+  gnutls_x509_name_constraints_init(&constraints);
+  unsigned critical = 0;
+  const bool permitted =
+      Read(chain.leaf, leaf) && Read(chain.authority, authority) &&
+      gnutls_x509_crt_get_name_constraints(authority, constraints, 0, &critical) ==
+          GNUTLS_E_SUCCESS &&
+      gnutls_x509_name_constraints_check_crt(constraints, GNUTLS_SAN_DNSNAME, leaf) != 0;
+  gnutls_x509_name_constraints_deinit(constraints);
+  gnutls_x509_crt_deinit(authority);
+  gnutls_x509_crt_deinit(leaf);
+  return permitted;
+}
+
+void AddConstraints() {
+  const Chain usual = UsualChain();
+  const Chain refused = UsualRefusedChain();
+  Add({kConstraints, kSubject, [=] { return Permitted(usual) && !Permitted(refused); }},
+      [=] { return Permitted(usual); });
+}
+
 void AddBothWays(const char* to_der, const char* to_text, const Attributes& attributes) {
   const std::string text = ToText(attributes, {"=", ",", "ST", "L", true});
   const std::string der = ToDer(attributes);
@@ -93,6 +127,7 @@ void AddCases() {
       [=] { return DerToStrings(der); });
   Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
       [=] { return Equal(der, utf8); });
+  AddConstraints();
 }
 
 const Registration registration(kSubject, gnutls_check_version(nullptr), AddCases);

@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "bench/chains.h"
 #include "bench/measure.h"
 #include "bench/names.h"
 #include "bench/samples.h"
@@ -182,6 +183,31 @@ void AddExtension() {
   Add({kWriteExtension, kSubject, right}, write);
 }
 
+std::shared_ptr<X509> ReadCertificate(const std::string& der) {
+  const unsigned char* at = reinterpret_cast<const unsigned char*>(der.data());
+  return {d2i_X509(nullptr, &at, static_cast<long>(der.size())), X509_free};
+}
+
+bool Permitted(const Chain& chain) {
+  const std::shared_ptr<X509> leaf = ReadCertificate(chain.leaf);
+  const std::shared_ptr<X509> authority = ReadCertificate(chain.authority);
+  if (!leaf || !authority) return false;
+  const std::shared_ptr<NAME_CONSTRAINTS> constraints(
+      static_cast<NAME_CONSTRAINTS*>(
+          X509_get_ext_d2i(authority.get(), NID_name_constraints, nullptr, nullptr)),
+      NAME_CONSTRAINTS_free);
+  // The check looks at names that X509_check_purpose has read.
+  return constraints && X509_check_purpose(leaf.get(), -1, 0) == 1 &&
+         NAME_CONSTRAINTS_check(leaf.get(), constraints.get()) == X509_V_OK;
+}
+
+void AddConstraints() {
+  const Chain usual = UsualChain();
+  const Chain refused = UsualRefusedChain();
+  Add({kConstraints, kSubject, [=] { return Permitted(usual) && !Permitted(refused); }},
+      [=] { return Permitted(usual); });
+}
+
 void AddCases() {
   // The smallest string type that holds a value, as the other libraries choose, not always UTF-8.
   ASN1_STRING_set_default_mask_asc("default");
@@ -190,6 +216,7 @@ void AddCases() {
   AddNames();
   AddGeneralNames();
   AddExtension();
+  AddConstraints();
 }
 
 const Registration registration(kSubject, OpenSSL_version(OPENSSL_VERSION_STRING), AddCases);
