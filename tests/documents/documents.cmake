@@ -9,7 +9,8 @@ if(TARGET ortholan_c_library)
 endif()
 
 foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/name-text.md
-    docs/rfc4514.md docs/c-interface.md docs/identity.md docs/matching.md)
+    docs/rfc4514.md docs/c-interface.md docs/identity.md docs/matching.md
+    docs/constraints.md)
   ortholan_document_programs(${document})
 endforeach()
 
