@@ -27,8 +27,8 @@ headers() {
   included "$@"
   for header in "$1"/ortholan/{ortholan_c,strict}.h; do
     [[ -e $header ]] || continue
-    "$compiler" "${flags[@]}" /TC "$header"
-    "$compiler" "${flags[@]}" /std:c++17 /TP "$header"
+    "$compiler" "${flags[@]}" /TC -- "$header"
+    "$compiler" "${flags[@]}" /std:c++17 /TP -- "$header"
   done
   # A program's own code page decides how the compiler reads them.
   ! LC_ALL=C grep -rnP '[^\x00-\x7F]' "$1/ortholan" || fail "text that is not ASCII"
@@ -40,10 +40,10 @@ runtime() {
   shift 2
   included "$@"
   cd "$scratch"
-  "$compiler" "${flags[@]}" /MD /DORTHOLAN_BUILDING /Fodll.obj "$here/runtime.cpp"
+  "$compiler" "${flags[@]}" /MD /DORTHOLAN_BUILDING /Fodll.obj -- "$here/runtime.cpp"
   "$linker" /dll /noentry /out:ortholan.dll dll.obj
   for runtime in MD MT MDd; do
-    "$compiler" "${flags[@]}" "/$runtime" "/Fo$runtime.obj" "$here/runtime.cpp"
+    "$compiler" "${flags[@]}" "/$runtime" "/Fo$runtime.obj" -- "$here/runtime.cpp"
     if "$linker" /subsystem:console /entry:main "/out:$runtime.exe" "$runtime.obj" ortholan.lib \
       2>"$runtime.txt"; then
       [[ $runtime == MD ]] || fail "/$runtime was linked with a DLL of /MD"
