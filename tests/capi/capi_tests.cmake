@@ -11,8 +11,10 @@ if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
   find_program(ORTHOLAN_PYTHON python3)
   add_test(NAME python_tests
     COMMAND "${ORTHOLAN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/capi/python_test.py")
+  add_test(NAME python_strict_tests
+    COMMAND "${ORTHOLAN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/capi/python_strict_test.py")
   add_test(NAME python_example COMMAND "${ORTHOLAN_PYTHON}" -B "${example}")
-  set_tests_properties(python_tests python_example PROPERTIES
+  set_tests_properties(python_tests python_strict_tests python_example PROPERTIES
     TIMEOUT 600
     ENVIRONMENT
       "ORTHOLAN_LIBRARY=$<TARGET_FILE:ortholan>;PYTHONPATH=${PROJECT_SOURCE_DIR}/examples/python")
