@@ -81,7 +81,7 @@ class Form(enum.IntEnum):
 
 
 class Refused(ValueError):
-    """An input that is refused: `reason` by number, `offset` its octets before the place or None."""
+    """An input that is refused: `reason` by number, `offset` octets before the place, or None."""
 
     def __init__(self, reason: int, offset: int, message: str) -> None:
         super().__init__(message)
@@ -124,13 +124,13 @@ def _structure(name: str, /, **fields: type) -> type[ctypes.Structure]:
     return type(name, (ctypes.Structure,), {"_fields_": list(fields.items())})
 
 
-_i, _z = ctypes.c_int32, ctypes.c_size_t
+_i, _u, _z = ctypes.c_int32, ctypes.c_uint32, ctypes.c_size_t
 _Octets = _structure("_Octets", data=ctypes.c_void_p, size=_z)
-_Refusal = _structure("_Refusal", reason=_i, met=ctypes.c_uint32, expected=ctypes.c_uint32, offset=_z)
+_Refusal = _structure("_Refusal", reason=_i, met=_u, expected=_u, offset=_z)
 _Name = _structure("_Name", der=_Octets, rdn_count=_z, attribute_count=_z)
 _Cursor = _structure("_Cursor", index=_z, offset=_z, rdn=_z, rdn_end=_z)
 _Attribute = _structure("_Attribute", type=_Octets, value=_Octets, content=_Octets, rdn=_z,
-                        identifier=ctypes.c_uint32, begins_rdn=_i)
+                        identifier=_u, begins_rdn=_i)
 _TextOptions = _structure("_TextOptions", order=_i, strings=_i, long_names=_i, exact=_i,
                           names=ctypes.c_void_p, name_count=_z)
 _Match = _structure("_Match", verdict=_i, reason=_i, side=_i, places=_z * 4, type=_Octets,
@@ -142,14 +142,14 @@ _Certificate = _structure("_Certificate", kind=_i, der=_Octets, subject=_Octets,
                           extensions=_Octets, extension_count=_z)
 _Extension = _structure("_Extension", oid=_Octets, value=_Octets, bytes=_Octets, critical=_i)
 _PemBlock = _structure("_PemBlock", label=_Octets, base64=_Octets)
-_Reference = _structure("_Reference", kind=_i, choices=ctypes.c_uint32, text=_Octets)
+_Reference = _structure("_Reference", kind=_i, choices=_u, text=_Octets)
 _Identity = _structure("_Identity", verdict=_i, reason=_i, name=_Octets, index=_z, names=_Octets,
                        name_count=_z)
 _Finding = _structure("_Finding", reason=_i, verdict=_i, certificate=_z, authority=_z, place=_i,
                       name=_Octets, subtree=_Octets, subtree_count=_z)
 
-# A letter an argument: o octets or text, i a number, z a size, p a structure's place, B the room for
-# what comes out and its size, R where a refusal goes.
+# A letter an argument: o octets or text, i a number, z a size, p a structure's place, B the room
+# for what comes out and its size, R where a refusal goes.
 _ARGUMENTS = {
     "o": [_Octets],
     "i": [_i],

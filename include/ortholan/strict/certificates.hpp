@@ -11,6 +11,7 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/general_names.hpp>
+#include <ortholan/strict/names.hpp>
 
 namespace ortholan {
 
@@ -82,6 +83,13 @@ class Certificate {
   // Whole Names; empty where the kind has none.
   Octets subject() const { return view_.subject; }
   Octets issuer() const { return view_.issuer; }
+  // The same read; the name without RDNs where the kind has none.
+  Result<NameView> Subject(Reading reading = Reading::kDer) const {
+    return subject().empty() ? NameView() : NameView::Read(subject(), reading);
+  }
+  Result<NameView> Issuer(Reading reading = Reading::kDer) const {
+    return issuer().empty() ? NameView() : NameView::Read(issuer(), reading);
+  }
   // Content of the INTEGER.
   Octets serial() const { return view_.serial; }
   // "2026-11-21T22:05:00Z"; refused where the time is malformed or not there.
