@@ -1,9 +1,13 @@
-// Certificates read, their extensions, and PEM text.
+// Certificates read, their extensions, lists of extensions, and PEM text.
 #include <ortholan/strict/certificates.h>
 
+#include <algorithm>
+
 #include "strict/certificates/certificate_view.h"
+#include "strict/certificates/extensions_writer.h"
 #include "strict/certificates/pem.h"
 #include "strict/certificates/time_text.h"
+#include "strict/der/identifier.h"
 #include "strict/face/call.h"
 
 using namespace Ortholan;
@@ -14,6 +18,17 @@ namespace {
 ortholan_extension_view PublicExtension(const ExtensionView& extension) {
   return {Octets(extension.oid), Octets(extension.value), Octets(extension.bytes),
           extension.critical ? 1 : 0};
+}
+
+// Why the extension number `index` cannot be written behind those before it.
+ortholan_reason FaultOf(const ortholan_extension_view* extensions, size_t index) {
+  const ByteView oid = View(extensions[index].oid);
+  if (!IsIdentifier(oid)) return ORTHOLAN_REASON_OID;
+  const auto is_same = [oid](const ortholan_extension_view& before) {
+    return SameBytes(View(before.oid), oid);
+  };
+  if (std::none_of(extensions, extensions + index, is_same)) return ORTHOLAN_REASON_NONE;
+  return ORTHOLAN_REASON_DUPLICATE_EXTENSION;
 }
 
 }  // namespace
@@ -77,6 +92,51 @@ ortholan_reason ortholan_certificate_view_extension(const ortholan_certificate_v
   if (view.bytes.empty()) return Report(ORTHOLAN_REASON_NOT_FOUND, refusal);
   *extension = PublicExtension(view);
   return ORTHOLAN_REASON_NONE;
+}
+
+ortholan_reason ortholan_extensions_view_read(ortholan_octets der, int32_t mode,
+                                              ortholan_certificate_view* extensions,
+                                              ortholan_refusal* refusal) {
+  if (refusal != nullptr) *refusal = {};
+  if (extensions == nullptr) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  *extensions = {};
+  if (!IsGiven(der) || !IsMode(mode)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  ExtensionsView view;
+  Refusal found;
+  if (!ExtensionsView::Read(View(der), static_cast<Leniency>(mode), &view, &found)) {
+    return Report(found, der.data, refusal);
+  }
+  extensions->der = der;
+  extensions->extensions = Octets(view.content());
+  extensions->extension_count = view.size();
+  return ORTHOLAN_REASON_NONE;
+}
+
+ortholan_reason ortholan_extensions_write(const ortholan_extension_view* extensions, size_t count,
+                                          uint8_t* out, size_t room, size_t* size,
+                                          ortholan_refusal* refusal) {
+  Clear(size, refusal);
+  if ((extensions == nullptr && count != 0) || !IsRoom(out, room)) {
+    return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  }
+  if (count == 0) return Report(ORTHOLAN_REASON_EMPTY, refusal);
+  for (size_t i = 0; i < count; ++i) {
+    if (!IsGiven(extensions[i].oid) || !IsGiven(extensions[i].value)) {
+      return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+    }
+    const ortholan_reason fault = FaultOf(extensions, i);
+    if (fault == ORTHOLAN_REASON_NONE) continue;
+    Report(fault, refusal);
+    if (refusal != nullptr) refusal->met = static_cast<uint32_t>(i);
+    return fault;
+  }
+  BackwardOutput der(out, room);
+  for (size_t i = count; i-- != 0;) {
+    const ortholan_extension_view& each = extensions[i];
+    PutExtension({View(each.oid), View(each.value), {}, each.critical != 0}, &der);
+  }
+  der.PutHeader(kSequence, der.size());
+  return Finish(&der, size, refusal);
 }
 
 ortholan_reason ortholan_time_to_text(ortholan_octets time, char* out, size_t room, size_t* size) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <new>
 
+#include "strict/certificates/extensions_writer.h"
 #include "strict/face/call.h"
 #include "strict/general_names/edi_party.h"
 #include "strict/general_names/general_name_parser.h"
@@ -50,16 +51,6 @@ ortholan_reason ContentOf(const ortholan_general_name_view* name, int32_t kind, 
 
 bool IsForm(int32_t form) {
   return form >= ORTHOLAN_ALTERNATIVE_NAMES_VALUE && form <= ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION;
-}
-
-// Makes what was put the value of an Extension subjectAltName.
-void PutExtensionAround(bool critical, BackwardOutput* out) {
-  constexpr uint8_t kTrue[] = {kBoolean, 1, 0xFF};
-  constexpr uint8_t kType[] = {kOid, 3, 0x55, 0x1D, 0x11};
-  out->PutHeader(kOctetString, out->size());
-  if (critical) out->Put({kTrue, sizeof kTrue});
-  out->Put({kType, sizeof kType});
-  out->PutHeader(kSequence, out->size());
 }
 
 }  // namespace
@@ -278,7 +269,9 @@ ortholan_reason ortholan_alternative_names_from_text(const ortholan_text* texts,
     return Report(ORTHOLAN_REASON_MEMORY, refusal);
   }
   if (form != ORTHOLAN_ALTERNATIVE_NAMES_VALUE) {
-    PutExtensionAround(form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL, &der);
+    constexpr uint8_t kType[] = {0x55, 0x1D, 0x11};
+    PutExtensionAround({kType, sizeof kType}, form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL,
+                       der.size(), &der);
   }
   return Finish(&der, size, refusal);
 }

@@ -11,9 +11,24 @@ if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
   find_program(ORTHOLAN_PYTHON python3)
   add_test(NAME python_tests
     COMMAND "${ORTHOLAN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/capi/python_test.py")
+  add_test(NAME python_strict_tests
+    COMMAND "${ORTHOLAN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/capi/python_strict_test.py")
   add_test(NAME python_example COMMAND "${ORTHOLAN_PYTHON}" -B "${example}")
-  set_tests_properties(python_tests python_example PROPERTIES
+  # The table of a directory prints what its twin in C++ does.
+  set(page "${PROJECT_SOURCE_DIR}/docs/recipes.md")
+  ortholan_document_example(code "${page}" python)
+  file(READ "${page}" text)
+  string(REGEX MATCH "\n## Common names and .*" text "${text}")
+  ortholan_next_example(printed rest "${text}" text)
+  set(recipe "${CMAKE_CURRENT_BINARY_DIR}/recipe.py")
+  file(CONFIGURE OUTPUT "${recipe}" CONTENT "@code@" @ONLY)
+  file(CONFIGURE OUTPUT "${recipe}.txt" CONTENT "@printed@" @ONLY)
+  add_test(NAME python_recipe
+    COMMAND "${CMAKE_COMMAND}" -D "EXPECTED=${recipe}.txt"
+      -P "${PROJECT_SOURCE_DIR}/tests/documents/run.cmake" --
+      "${ORTHOLAN_PYTHON}" -B "${recipe}" "${ORTHOLAN_TEST_ROOT}/data/certificates")
+  set_tests_properties(python_tests python_strict_tests python_example python_recipe PROPERTIES
     TIMEOUT 600
     ENVIRONMENT
-      "ORTHOLAN_LIBRARY=$<TARGET_FILE:ortholan>;PYTHONPATH=${PROJECT_SOURCE_DIR}/examples/python")
+      "PYTHONUTF8=1;ORTHOLAN_LIBRARY=$<TARGET_FILE:ortholan>;PYTHONPATH=${PROJECT_SOURCE_DIR}/examples/python")
 endif()

@@ -33,8 +33,8 @@ function(ortholan_document_example out document language)
   set(${out} "${block}" PARENT_SCOPE)
 endfunction()
 
-# A test for each C or C++ block of `document`: a whole program, which gets the path of a certificate
-# and has to print what the text block behind it holds, or to return 0 where there is none. What is
+# A test for each C or C++ block of `document`: a whole program, which gets the path of a certificate,
+# of a directory of them where it walks through one, and has to print what the text block behind it holds, or to return 0 where there is none. What is
 # for the other platform goes by the calls in it.
 function(ortholan_document_programs document)
   set(page "${PROJECT_SOURCE_DIR}/${document}")
@@ -88,10 +88,13 @@ function(ortholan_document_programs document)
         set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
       endif()
       ortholan_warnings(${name})
+      set(argument "${ORTHOLAN_TEST_ROOT}/data/certificates/alternative_names.pem")
+      if(code MATCHES "directory_iterator")
+        get_filename_component(argument "${argument}" DIRECTORY)
+      endif()
       add_test(NAME ${name} COMMAND "${CMAKE_COMMAND}" -D "EXPECTED=${source}.txt"
         -P "${PROJECT_SOURCE_DIR}/tests/documents/run.cmake" --
-        ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}>
-        "${ORTHOLAN_TEST_ROOT}/data/certificates/alternative_names.pem")
+        ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}> "${argument}")
       ortholan_test_properties(${name})
     endwhile()
   endforeach()

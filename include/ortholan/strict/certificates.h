@@ -30,7 +30,7 @@ enum { ORTHOLAN_CERTIFICATE = 1, ORTHOLAN_CERTIFICATE_REQUEST = 2, ORTHOLAN_REVO
 
 // What was read. Parts that the kind has not are empty.
 typedef struct ortholan_certificate_view {
-  int32_t kind;                // one of the three
+  int32_t kind;                // one of the three; 0 for a list of extensions by itself
   ortholan_octets der;         // the whole encoding
   ortholan_octets subject;     // a whole Name; a CRL has none
   ortholan_octets issuer;      // a whole Name; a request has none
@@ -65,6 +65,19 @@ ortholan_certificate_view_next_extension(const ortholan_certificate_view* certif
 ORTHOLAN_EXPORT ortholan_reason ortholan_certificate_view_extension(
     const ortholan_certificate_view* certificate, ortholan_octets oid,
     ortholan_extension_view* extension, ortholan_refusal* refusal);
+
+// A list of extensions by itself, SEQUENCE SIZE (1..MAX) OF Extension (RFC 5280 4.1.2.9): what is
+// the whole of `der` becomes the extensions of a view without any other part, whose kind is 0, for
+// the two functions above.
+//   mode  an ORTHOLAN_READ_ word
+ORTHOLAN_EXPORT ortholan_reason ortholan_extensions_view_read(ortholan_octets der, int32_t mode,
+                                                              ortholan_certificate_view* extensions,
+                                                              ortholan_refusal* refusal);
+// Writes such a list, in the order given; `bytes` are not looked at, nor what values hold. Refuses
+// EMPTY for a list of none, and, with the extension's index in `met`, OID and DUPLICATE_EXTENSION.
+ORTHOLAN_EXPORT ortholan_reason ortholan_extensions_write(const ortholan_extension_view* extensions,
+                                                          size_t count, uint8_t* out, size_t room,
+                                                          size_t* size, ortholan_refusal* refusal);
 
 // A time, a whole element, as "2026-11-21T22:05:00Z". Refuses TIME.
 ORTHOLAN_EXPORT ortholan_reason ortholan_time_to_text(ortholan_octets time, char* out, size_t room,

@@ -1,4 +1,4 @@
-// Certificates, requests and CRLs in C++17, and PEM text that holds them.
+// Certificates, requests and CRLs in C++17, lists of extensions, and PEM text that holds them.
 //
 //   for (const ortholan::PemBlock& block : ortholan::ReadPem(text).value()) {
 //     const auto certificate = ortholan::Certificate::Read(block.octets);
@@ -11,6 +11,7 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/general_names.hpp>
+#include <ortholan/strict/names.hpp>
 
 namespace ortholan {
 
@@ -26,6 +27,44 @@ struct Extension {
   Octets value;
   bool critical = false;
 };
+
+namespace detail {
+
+inline std::vector<Extension> ExtensionsOf(const ortholan_certificate_view& view) {
+  std::vector<Extension> extensions;
+  ortholan_extension_view found;
+  for (size_t offset = 0; ortholan_certificate_view_next_extension(&view, &offset, &found) == 0;) {
+    extensions.push_back({found.oid, found.value, found.critical != 0});
+  }
+  return extensions;
+}
+
+}  // namespace detail
+
+// The extensions of a list that is the whole of `der`, Extensions of RFC 5280 4.1: views into it.
+inline Result<std::vector<Extension>> ReadExtensions(Octets der, Reading reading = Reading::kDer) {
+  ortholan_certificate_view view;
+  Refusal refusal;
+  const ortholan_reason reason =
+      ortholan_extensions_view_read(der, static_cast<int32_t>(reading), &view, &refusal);
+  if (reason != ORTHOLAN_REASON_NONE) return refusal;
+  return detail::ExtensionsOf(view);
+}
+
+// The DER of such a list, in the order given. A refusal has the number of the extension in `met`.
+inline Result<std::vector<uint8_t>> WriteExtensions(const std::vector<Extension>& extensions) {
+  std::vector<ortholan_extension_view> plain;
+  for (const Extension& each : extensions) {
+    plain.push_back({each.oid, each.value, {nullptr, 0}, each.critical ? 1 : 0});
+  }
+  std::vector<uint8_t> der;
+  Refusal refusal;
+  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
+    return ortholan_extensions_write(plain.data(), plain.size(), out, room, size, &refusal);
+  });
+  if (reason != ORTHOLAN_REASON_NONE) return refusal;
+  return der;
+}
 
 // A certificate, a request or a CRL over borrowed octets.
 class Certificate {
@@ -44,6 +83,13 @@ class Certificate {
   // Whole Names; empty where the kind has none.
   Octets subject() const { return view_.subject; }
   Octets issuer() const { return view_.issuer; }
+  // The same read; the name without RDNs where the kind has none.
+  Result<NameView> Subject(Reading reading = Reading::kDer) const {
+    return subject().empty() ? NameView() : NameView::Read(subject(), reading);
+  }
+  Result<NameView> Issuer(Reading reading = Reading::kDer) const {
+    return issuer().empty() ? NameView() : NameView::Read(issuer(), reading);
+  }
   // Content of the INTEGER.
   Octets serial() const { return view_.serial; }
   // "2026-11-21T22:05:00Z"; refused where the time is malformed or not there.
@@ -58,15 +104,7 @@ class Certificate {
     if (ortholan_certificate_view_extension(&view_, oid, &found, &refusal) != 0) return refusal;
     return Extension{found.oid, found.value, found.critical != 0};
   }
-  std::vector<Extension> Extensions() const {
-    std::vector<Extension> extensions;
-    ortholan_extension_view found;
-    for (size_t offset = 0;
-         ortholan_certificate_view_next_extension(&view_, &offset, &found) == 0;) {
-      extensions.push_back({found.oid, found.value, found.critical != 0});
-    }
-    return extensions;
-  }
+  std::vector<Extension> Extensions() const { return detail::ExtensionsOf(view_); }
   // The subject alternative names; an empty list where there are none.
   Result<GeneralNames> AlternativeNames(Reading reading = Reading::kDer) const {
     static constexpr uint8_t kType[] = {0x55, 0x1D, 0x11};

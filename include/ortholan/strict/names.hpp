@@ -139,6 +139,20 @@ class NameView {
   // Text that is safe to show and to log.
   Result<std::string> ToText(const Rfc4514& options = {}) const;
 
+  // The texts of all attributes of a type, by its dotted identifier ("2.5.4.3" is commonName), in
+  // the order of the encoding; values that are no text are left out. As they stand there: a
+  // character that cannot be seen is not escaped.
+  std::vector<std::string> Values(std::string_view type) const {
+    std::vector<std::string> values;
+    const Result<std::vector<uint8_t>> oid = OidFromText(type);
+    if (!oid) return values;
+    for (const Attribute& attribute : *this) {
+      if (attribute.type() != Octets(*oid)) continue;
+      if (Result<std::string> text = attribute.Text()) values.push_back(std::move(*text));
+    }
+    return values;
+  }
+
  private:
   ortholan_name_view name_;
 };

@@ -1,7 +1,7 @@
 // Certificates, requests and CRLs: their parts, and PEM text.
 #include <gtest/gtest.h>
-#include <ortholan/strict.h>
 
+#include <ortholan/strict.hpp>
 #include <string>
 #include <vector>
 
@@ -36,6 +36,46 @@ TEST(CertificateView, FindsExtensions) {
   EXPECT_EQ(ortholan_certificate_view_next_extension(&certificate, &offset, &extension), 0);
   EXPECT_EQ(ortholan_certificate_view_next_extension(&certificate, &offset, &extension),
             ORTHOLAN_REASON_NOT_FOUND);
+}
+
+// Records as OpenSSL writes them for keyUsage, critical, and basicConstraints.
+TEST(ExtensionLists, AreChangedAndWritten) {
+  const std::string usage("\x30\x0E\x06\x03\x55\x1D\x0F\x01\x01\xFF\x04\x04\x03\x02\x05\xA0", 16);
+  const std::string constraints("\x30\x09\x06\x03\x55\x1D\x13\x04\x02\x30\x00", 11);
+  const std::string one = "\x30\x10" + usage;
+  std::vector<ortholan::Extension> list = ortholan::ReadExtensions(one).value();
+  EXPECT_TRUE(list.at(0).critical);
+  list.push_back({std::string_view("\x55\x1D\x13"), std::string_view("\x30\x00", 2)});
+  const auto both = ortholan::WriteExtensions(list).value();
+  EXPECT_TRUE(ortholan::Octets(both) == "\x30\x1B" + usage + constraints);
+  list.erase(list.begin());
+  list[0].value = {};
+  list[0].oid = std::string_view("\x2A\x03");
+  EXPECT_TRUE(ortholan::Octets(ortholan::WriteExtensions(list).value()) ==
+              std::string_view("\x30\x08\x30\x06\x06\x02\x2A\x03\x04\x00", 10));
+}
+
+TEST(ExtensionLists, AreRefusedWithTheNumber) {
+  const std::string_view usage = "\x55\x1D\x0F";
+  const struct {
+    std::vector<ortholan::Extension> list;
+    ortholan_reason reason;
+    uint32_t met;
+  } kRows[] = {
+      {{}, ORTHOLAN_REASON_EMPTY, 0},
+      {{{usage, usage}, {{}, usage}}, ORTHOLAN_REASON_OID, 1},
+      {{{std::string_view("\x55\x9D"), usage}}, ORTHOLAN_REASON_OID, 0},
+      {{{usage, {}}, {std::string_view("\x2A"), {}}, {usage, usage}},
+       ORTHOLAN_REASON_DUPLICATE_EXTENSION,
+       2},
+  };
+  for (const auto& row : kRows) {
+    const ortholan::Refusal refusal = ortholan::WriteExtensions(row.list).refusal();
+    EXPECT_EQ(refusal.reason, row.reason);
+    EXPECT_EQ(refusal.met, row.met);
+  }
+  EXPECT_EQ(ortholan::ReadExtensions(std::string_view("\x30\x00", 2)).refusal().reason,
+            ORTHOLAN_REASON_EMPTY);
 }
 
 TEST(CertificateView, ShowsTimes) {
