@@ -68,13 +68,14 @@ StringFault FindOutside(ByteView content, uint8_t alphabet) {
   return {};
 }
 
-// Octets at the front that are ASCII, a multiple of eight.
+// Octets at the front that are ASCII.
 size_t AsciiRun(ByteView in) {
   size_t count = 0;
   for (uint64_t run; in.size - count >= sizeof run; count += sizeof run) {
     std::memcpy(&run, in.data + count, sizeof run);
     if ((run & 0x8080808080808080) != 0) break;
   }
+  while (count != in.size && in[count] < 0x80) ++count;
   return count;
 }
 

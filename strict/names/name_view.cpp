@@ -78,6 +78,7 @@ NameView NameView::OfChecked(ByteView der, size_t rdn_count, size_t attribute_co
 // What was checked is read again without a look at the rules.
 
 bool NextRdn(ByteView* rdns, Element* rdn) {
+  if (rdns->empty()) return false;
   Reader reader(*rdns, Leniency::kLenient, nullptr);
   if (!reader.Read(rdn)) return false;
   *rdns = reader.rest();
@@ -85,6 +86,7 @@ bool NextRdn(ByteView* rdns, Element* rdn) {
 }
 
 bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
+  if (attributes->empty()) return false;
   Reader reader(*attributes, Leniency::kLenient, nullptr);
   Element element;
   if (!reader.Read(&element)) return false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "bytes/der_length.h"
 #include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 
@@ -42,8 +43,20 @@ uint8_t* NameWriter::TakeValue(size_t octets) {
 }
 
 void NameWriter::EndAttribute(uint8_t identifier, ByteView type) {
-  out_->PutHeader(identifier, out_->size() - attribute_end_);
-  EndAttribute(type);
+  const size_t content = out_->size() - attribute_end_;
+  const size_t size = 4 + type.size + content;  // without the header of the SEQUENCE
+  if (size >= kLongForm) {
+    out_->PutHeader(identifier, content);
+    return EndAttribute(type);
+  }
+  // Nearly always all lengths are short: the three headers are put at once.
+  ++attributes_;
+  uint8_t* place = out_->Take(2 + size - content);
+  if (place == nullptr) return;
+  place = WriteHeader(place, kSequence, size);
+  place = WriteHeader(place, kOid, type.size);
+  place = WriteBytes(place, type);
+  WriteHeader(place, identifier, content);
 }
 
 void NameWriter::EndAttribute(ByteView type) {

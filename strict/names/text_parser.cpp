@@ -50,7 +50,19 @@ uint8_t HexOctet(const char* digits) {
   return static_cast<uint8_t>(HexDigit(digits[0]) << 4 | HexDigit(digits[1]));
 }
 
-bool IsTypeCharacter(char c) { return IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-' || c == '.'; }
+// What a character may stand in: a descriptor (RFC 4512 1.4), dotted text or both; bits.
+enum TypeRole : uint8_t { kInDescriptor = 1, kInDotted = 2 };
+
+constexpr RoleTable MakeTypeRoles() {
+  RoleTable table = {};
+  for (int c = 0; c < 0x80; ++c) {
+    if (IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-') table.roles[c] |= kInDescriptor;
+    if (IsAsciiDigit(c) || c == '.') table.roles[c] |= kInDotted;
+  }
+  return table;
+}
+
+constexpr RoleTable kTypeRoles = MakeTypeRoles();
 
 bool HasOidPrefix(std::string_view type) {
   return type.size() > 4 && type[3] == '.' && SameName(type.substr(0, 3), "oid");
@@ -90,7 +102,11 @@ void TextParser::SkipBlanks() {
 bool TextParser::ReadType(TextAttribute* attribute) {
   SkipBlanks();
   const size_t start = position_;
-  while (IsTypeCharacter(Here())) ++position_;
+  uint8_t roles = kInDescriptor;  // those that all characters have
+  while (const uint8_t role = kTypeRoles.roles[static_cast<uint8_t>(Here())]) {
+    roles &= role;
+    ++position_;
+  }
   std::string_view type = text_.substr(start, position_ - start);
   SkipBlanks();
   if (Here() != '=' || type.empty()) return RefuseType(start);
@@ -98,7 +114,8 @@ bool TextParser::ReadType(TextAttribute* attribute) {
   const bool prefixed = HasOidPrefix(type);
   if (prefixed) type.remove_prefix(4);
   attribute->dotted = IsAsciiDigit(type.front());
-  if (!attribute->dotted && (prefixed || !IsDescriptor(type))) {
+  const bool is_descriptor = roles == kInDescriptor && IsAsciiLetter(type.front());
+  if (!attribute->dotted && (prefixed || !is_descriptor)) {
     return RefuseAt(ORTHOLAN_REASON_TEXT_TYPE, start);
   }
   attribute->type = type;
