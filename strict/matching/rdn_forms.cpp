@@ -46,10 +46,10 @@ Attribute RdnView::At(size_t at) const {
 }
 
 bool RdnWalk::Next(RdnView* rdn) {
-  PlainRdn plain;
-  if (ReadPlainRdn(rdns_, &plain)) {
-    rdns_ = rdns_.From(static_cast<size_t>(plain.content.end() - rdns_.data));
-    *rdn = {plain.content, {plain.type, plain.value}, 1, rdn_++, attribute_++};
+  PlainAttribute only;
+  if (ReadPlainRdn(rdns_, &only)) {
+    rdns_ = rdns_.From(static_cast<size_t>(only.bytes.end() - rdns_.data));
+    *rdn = {only.bytes, {only.type, only.value}, 1, rdn_++, attribute_++};
     return true;
   }
   Reader rdns(rdns_, Leniency::kLenient, nullptr);

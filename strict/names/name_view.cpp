@@ -39,10 +39,10 @@ bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* coun
 
 // Passes the plain RDNs at the front that are in order.
 ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
-  PlainRdn rdn;
-  while (ReadPlainRdn(rdns, &rdn) && IsIdentifier(rdn.type) &&
-         CheckValue(rdn.value, leniency, nullptr)) {
-    rdns = rdns.From(static_cast<size_t>(rdn.content.end() - rdns.data));
+  PlainAttribute only;
+  while (ReadPlainRdn(rdns, &only) && IsIdentifier(only.type) &&
+         CheckValue(only.value, leniency, nullptr)) {
+    rdns = rdns.From(static_cast<size_t>(only.bytes.end() - rdns.data));
     ++*count;
   }
   return rdns;
@@ -87,6 +87,14 @@ bool NextRdn(ByteView* rdns, Element* rdn) {
 
 bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
   if (attributes->empty()) return false;
+  PlainAttribute plain;
+  if (ReadPlainAttribute(*attributes, &plain)) {
+    *attributes = attributes->From(plain.bytes.size);
+    attribute->bytes = plain.bytes;
+    attribute->type = plain.type;
+    attribute->value = plain.value;
+    return true;
+  }
   Reader reader(*attributes, Leniency::kLenient, nullptr);
   Element element;
   if (!reader.Read(&element)) return false;

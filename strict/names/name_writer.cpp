@@ -37,11 +37,6 @@ void NameWriter::EndRdn() {
   out_->PutHeader(kSet, size);
 }
 
-uint8_t* NameWriter::TakeValue(size_t octets) {
-  attribute_end_ = out_->size();
-  return out_->Take(octets);
-}
-
 void NameWriter::EndAttribute(uint8_t identifier, ByteView type) {
   const size_t content = out_->size() - attribute_end_;
   const size_t size = 4 + type.size + content;  // without the header of the SEQUENCE

@@ -45,9 +45,11 @@ const ortholan_type_name* FindOwn(std::string_view name, const TextOptions& opti
 }  // namespace
 
 bool FindNamed(std::string_view name, const TextOptions& options, NamedType* type) {
-  if (const ortholan_type_name* const own = FindOwn(name, options)) {
-    *type = Named(*own);
-    return true;
+  if (options.name_count != 0) {
+    if (const ortholan_type_name* const own = FindOwn(name, options)) {
+      *type = Named(*own);
+      return true;
+    }
   }
   const AttributeType* const known = FindTypeByName(name);
   if (known == nullptr) return false;

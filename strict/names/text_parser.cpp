@@ -3,6 +3,7 @@
 #include <ortholan/strict/names.h>
 
 #include "bytes/ascii.h"
+#include "bytes/octet_run.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/names/attribute_types.h"
@@ -28,13 +29,6 @@ constexpr RoleTable MakeRoles() {
 constexpr RoleTable kRoles = MakeRoles();
 
 Role RoleOf(char c) { return static_cast<Role>(kRoles.roles[static_cast<uint8_t>(c)]); }
-
-size_t OrdinaryRun(std::string_view text) {
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  while (at != end && RoleOf(*at) == kOrdinary) ++at;
-  return static_cast<size_t>(at - text.data());
-}
 
 // What may follow a backslash as itself.
 bool IsSpecial(char c) { return c != '\0' && std::strchr("\\\"+,;<> #=", c) != nullptr; }
@@ -173,7 +167,8 @@ bool TextParser::ReadPlain(TextAttribute* attribute) {
   size_t pairs_end = start;
   size_t saved = 0;  // octets that pairs take in the text above those that they stand for
   for (; position_ < text_.size(); ++position_) {
-    position_ += OrdinaryRun(text_.substr(position_));
+    const ByteView rest = AsBytes(text_.data(), text_.size()).From(position_);
+    position_ += OrdinaryRun(rest, kRoles.roles);
     if (AtEnd()) break;
     const Role role = RoleOf(text_[position_]);
     if (role == kSeparator) break;
