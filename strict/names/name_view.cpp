@@ -39,10 +39,12 @@ bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* coun
 
 // Passes the plain RDNs at the front that are in order.
 ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
-  PlainAttribute only;
-  while (ReadPlainRdn(rdns, &only) && IsIdentifier(only.type) &&
-         CheckValue(only.value, leniency, nullptr)) {
-    rdns = rdns.From(static_cast<size_t>(only.bytes.end() - rdns.data));
+  ByteView attribute;
+  ByteView type;
+  Element value;
+  while (ReadPlainRdn(rdns, &attribute, &type, &value) && IsIdentifier(type) &&
+         CheckValue(value, leniency, nullptr)) {
+    rdns = rdns.From(static_cast<size_t>(attribute.end() - rdns.data));
     ++*count;
   }
   return rdns;
@@ -87,12 +89,8 @@ bool NextRdn(ByteView* rdns, Element* rdn) {
 
 bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
   if (attributes->empty()) return false;
-  PlainAttribute plain;
-  if (ReadPlainAttribute(*attributes, &plain)) {
-    *attributes = attributes->From(plain.bytes.size);
-    attribute->bytes = plain.bytes;
-    attribute->type = plain.type;
-    attribute->value = plain.value;
+  if (ReadPlainAttribute(*attributes, &attribute->bytes, &attribute->type, &attribute->value)) {
+    *attributes = attributes->From(attribute->bytes.size);
     return true;
   }
   Reader reader(*attributes, Leniency::kLenient, nullptr);
