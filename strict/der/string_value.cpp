@@ -51,8 +51,8 @@ constexpr StringTypes kTypes = MakeTypes();
 
 const StringType& TypeOf(uint8_t identifier) { return kTypes.rows[identifier & 0x1F]; }
 
-StringFault FindOutside(ByteView content, uint8_t alphabet) {
-  // Nearly always all of them are in it: no branch a character.
+// No branch a character: nearly always all of them are in it.
+inline bool AreWithin(ByteView content, uint8_t alphabet) {
   constexpr size_t kStep = 4;
   uint8_t common = alphabet;
   const uint8_t* at = content.begin();
@@ -61,7 +61,11 @@ StringFault FindOutside(ByteView content, uint8_t alphabet) {
               kAlphabet.bits[at[3]];
   }
   for (; at != content.end(); ++at) common &= kAlphabet.bits[*at];
-  if (common != 0) return {};
+  return common != 0;
+}
+
+StringFault FindOutside(ByteView content, uint8_t alphabet) {
+  if (AreWithin(content, alphabet)) return {};
   for (size_t i = 0; i < content.size; ++i) {
     if ((kAlphabet.bits[content[i]] & alphabet) == 0) return {ORTHOLAN_REASON_ALPHABET, i};
   }
@@ -106,6 +110,10 @@ constexpr bool IsScalar(uint32_t value) {
 
 }  // namespace
 
+bool IsInAlphabet(uint8_t identifier, ByteView content) {
+  return AreWithin(content, TypeOf(identifier).alphabet);
+}
+
 StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlphabet) {
   const StringType& type = TypeOf(identifier);
   if (type.unit == 0) return FindBrokenUtf8(content);
@@ -119,6 +127,7 @@ StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlp
 }
 
 bool CheckCharacters(const Element& value, bool checks_alphabet, Refusal* refusal) {
+  if (IsAsciiString(value.identifier) && IsInAlphabet(value.identifier, value.content)) return true;
   const StringFault fault = FindStringFault(value.identifier, value.content, checks_alphabet);
   if (fault.reason == ORTHOLAN_REASON_NONE) return true;
   return Refuse(refusal, fault.reason, value.content.data + fault.offset,

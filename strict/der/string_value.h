@@ -56,6 +56,9 @@ struct StringFault {
 };
 StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlphabet);
 
+// Whether all octets are characters of the type, which is an ASCII string.
+bool IsInAlphabet(uint8_t identifier, ByteView content);
+
 // Unicode scalars of a string, one by one; alphabets are not looked at.
 class ScalarReader {
  public:

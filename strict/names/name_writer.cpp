@@ -20,6 +20,12 @@ void ReverseElements(uint8_t* elements, size_t size) {
   std::reverse(elements, end);
 }
 
+// Those of X.520 have three octets, which take no call to be copied.
+uint8_t* WriteType(uint8_t* out, ByteView type) {
+  constexpr size_t kOfX520 = 3;
+  return type.size == kOfX520 ? WriteBytes(out, type.First(kOfX520)) : WriteBytes(out, type);
+}
+
 }  // namespace
 
 void NameWriter::BeginRdn() {
@@ -50,7 +56,7 @@ void NameWriter::EndAttribute(uint8_t identifier, ByteView type) {
   if (place == nullptr) return;
   place = WriteHeader(place, kSequence, size);
   place = WriteHeader(place, kOid, type.size);
-  place = WriteBytes(place, type);
+  place = WriteType(place, type);
   WriteHeader(place, identifier, content);
 }
 
