@@ -97,11 +97,14 @@ bool TextParser::ReadType(TextAttribute* attribute) {
   SkipBlanks();
   const size_t start = position_;
   uint8_t roles = kInDescriptor;  // those that all characters have
-  while (const uint8_t role = kTypeRoles.roles[static_cast<uint8_t>(Here())]) {
+  size_t end = start;
+  for (; end < text_.size(); ++end) {
+    const uint8_t role = kTypeRoles.roles[static_cast<uint8_t>(text_[end])];
+    if (role == 0) break;
     roles &= role;
-    ++position_;
   }
-  std::string_view type = text_.substr(start, position_ - start);
+  position_ = end;
+  std::string_view type(text_.data() + start, end - start);
   SkipBlanks();
   if (Here() != '=' || type.empty()) return RefuseType(start);
   ++position_;
