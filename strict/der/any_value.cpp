@@ -1,7 +1,6 @@
 #include "strict/der/any_value.h"
 
 #include "strict/der/identifier.h"
-#include "strict/der/string_value.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -75,7 +74,7 @@ bool CheckElement(const Element& element, Leniency leniency, Refusal* refusal) {
 
 }  // namespace
 
-bool CheckValue(const Element& value, Leniency leniency, Refusal* refusal) {
+bool CheckOtherValue(const Element& value, Leniency leniency, Refusal* refusal) {
   return CheckElement(value, leniency, refusal) &&
          CheckNested(value, leniency, refusal, CheckElement);
 }

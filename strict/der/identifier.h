@@ -16,6 +16,8 @@ constexpr size_t kMaxIdentifierOctets = 4096;
 
 // Whether `content` is the content of an OBJECT IDENTIFIER in DER.
 inline bool IsIdentifier(ByteView content) {
+  // An octet an arc: the types of X.520.
+  if (content.size == 3 && ((content[0] | content[1] | content[2]) & 0x80) == 0) return true;
   if (content.empty() || (content[content.size - 1] & 0x80) != 0) return false;
   bool starts = true;
   for (const uint8_t octet : content) {

@@ -28,7 +28,6 @@ constexpr AlphabetTable kAlphabet = MakeAlphabet();
 struct StringType {
   uint8_t unit = 0;  // octets a character; 0 for UTF-8
   uint8_t alphabet = 0;
-  bool isString = false;
 };
 
 struct StringTypes {
@@ -37,14 +36,14 @@ struct StringTypes {
 
 constexpr StringTypes MakeTypes() {
   StringTypes types = {};
-  types.rows[kUtf8String] = {0, 0, true};
-  types.rows[kNumericString] = {1, kInNumeric, true};
-  types.rows[kPrintableString] = {1, kInPrintable, true};
-  types.rows[kTeletexString] = {1, 0, true};
-  types.rows[kIA5String] = {1, kInIA5, true};
-  types.rows[kVisibleString] = {1, kInVisible, true};
-  types.rows[kUniversalString] = {4, 0, true};
-  types.rows[kBmpString] = {2, 0, true};
+  types.rows[kUtf8String] = {0, 0};
+  types.rows[kNumericString] = {1, kInNumeric};
+  types.rows[kPrintableString] = {1, kInPrintable};
+  types.rows[kTeletexString] = {1, 0};
+  types.rows[kIA5String] = {1, kInIA5};
+  types.rows[kVisibleString] = {1, kInVisible};
+  types.rows[kUniversalString] = {4, 0};
+  types.rows[kBmpString] = {2, 0};
   return types;
 }
 
@@ -52,24 +51,35 @@ constexpr StringTypes kTypes = MakeTypes();
 
 const StringType& TypeOf(uint8_t identifier) { return kTypes.rows[identifier & 0x1F]; }
 
-StringFault FindOutside(ByteView content, uint8_t alphabet) {
-  // Nearly always all of them are in it: no branch a character.
+// No branch a character: nearly always all of them are in it.
+inline bool AreWithin(ByteView content, uint8_t alphabet) {
+  constexpr size_t kStep = 4;
   uint8_t common = alphabet;
-  for (const uint8_t octet : content) common &= kAlphabet.bits[octet];
-  if (common != 0) return {};
+  const uint8_t* at = content.begin();
+  for (size_t left = content.size; left >= kStep; left -= kStep, at += kStep) {
+    common &= kAlphabet.bits[at[0]] & kAlphabet.bits[at[1]] & kAlphabet.bits[at[2]] &
+              kAlphabet.bits[at[3]];
+  }
+  for (; at != content.end(); ++at) common &= kAlphabet.bits[*at];
+  return common != 0;
+}
+
+StringFault FindOutside(ByteView content, uint8_t alphabet) {
+  if (AreWithin(content, alphabet)) return {};
   for (size_t i = 0; i < content.size; ++i) {
     if ((kAlphabet.bits[content[i]] & alphabet) == 0) return {ORTHOLAN_REASON_ALPHABET, i};
   }
   return {};
 }
 
-// Octets at the front that are ASCII, a multiple of eight.
+// Octets at the front that are ASCII.
 size_t AsciiRun(ByteView in) {
   size_t count = 0;
   for (uint64_t run; in.size - count >= sizeof run; count += sizeof run) {
     std::memcpy(&run, in.data + count, sizeof run);
     if ((run & 0x8080808080808080) != 0) break;
   }
+  while (count != in.size && in[count] < 0x80) ++count;
   return count;
 }
 
@@ -100,10 +110,8 @@ constexpr bool IsScalar(uint32_t value) {
 
 }  // namespace
 
-bool IsString(uint8_t identifier) { return identifier < 0x20 && TypeOf(identifier).isString; }
-
-bool IsAsciiString(uint8_t identifier) {
-  return identifier < 0x20 && TypeOf(identifier).alphabet != 0;
+bool IsInAlphabet(uint8_t identifier, ByteView content) {
+  return AreWithin(content, TypeOf(identifier).alphabet);
 }
 
 StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlphabet) {
@@ -118,10 +126,9 @@ StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlp
   return {};
 }
 
-bool CheckString(const Element& value, Leniency leniency, Refusal* refusal) {
-  if (leniency == Leniency::kStructure || !IsString(value.identifier)) return true;
-  const StringFault fault =
-      FindStringFault(value.identifier, value.content, leniency == Leniency::kDer);
+bool CheckCharacters(const Element& value, bool checks_alphabet, Refusal* refusal) {
+  if (IsAsciiString(value.identifier) && IsInAlphabet(value.identifier, value.content)) return true;
+  const StringFault fault = FindStringFault(value.identifier, value.content, checks_alphabet);
   if (fault.reason == ORTHOLAN_REASON_NONE) return true;
   return Refuse(refusal, fault.reason, value.content.data + fault.offset,
                 value.content.size - fault.offset, value.identifier);

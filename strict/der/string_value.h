@@ -14,13 +14,23 @@
 
 namespace Ortholan::strict {
 
+// Bits by tag number.
+constexpr uint32_t kAsciiStrings =
+    1u << kNumericString | 1u << kPrintableString | 1u << kIA5String | 1u << kVisibleString;
+constexpr uint32_t kStrings = kAsciiStrings | 1u << kUtf8String | 1u << kTeletexString |
+                              1u << kUniversalString | 1u << kBmpString;
+
 // UTF8String, PrintableString, IA5String, NumericString, VisibleString, TeletexString, BMPString,
 // UniversalString.
-bool IsString(uint8_t identifier);
+constexpr bool IsString(uint8_t identifier) {
+  return identifier < 0x20 && (kStrings >> identifier & 1) != 0;
+}
 
 // Whether each octet of the type is one character of ASCII, so that checked content is its own
 // UTF-8.
-bool IsAsciiString(uint8_t identifier);
+constexpr bool IsAsciiString(uint8_t identifier) {
+  return identifier < 0x20 && (kAsciiStrings >> identifier & 1) != 0;
+}
 
 // Whether PrintableString has the character (X.680 41.4).
 constexpr bool IsPrintable(uint8_t octet) {
@@ -31,9 +41,13 @@ constexpr bool IsPrintable(uint8_t octet) {
   return false;
 }
 
-// Checks encoding and, unless lenient, the alphabet of a string; refuses at the octet at fault.
-// Other types are not looked at.
-bool CheckString(const Element& value, Leniency leniency, Refusal* refusal);
+// Checks the encoding of what is a string, and its alphabet; refuses at the octet at fault.
+bool CheckCharacters(const Element& value, bool checks_alphabet, Refusal* refusal);
+// The same where it is a string and the leniency asks for it: the alphabet only with kDer.
+inline bool CheckString(const Element& value, Leniency leniency, Refusal* refusal) {
+  if (leniency == Leniency::kStructure || !IsString(value.identifier)) return true;
+  return CheckCharacters(value, leniency == Leniency::kDer, refusal);
+}
 
 // Why the first octet at fault is refused, and where it stands; NONE for a string in order.
 struct StringFault {
@@ -41,6 +55,9 @@ struct StringFault {
   size_t offset = 0;
 };
 StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlphabet);
+
+// Whether all octets are characters of the type, which is an ASCII string.
+bool IsInAlphabet(uint8_t identifier, ByteView content);
 
 // Unicode scalars of a string, one by one; alphabets are not looked at.
 class ScalarReader {

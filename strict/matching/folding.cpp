@@ -1,5 +1,7 @@
 #include "strict/matching/folding.h"
 
+#include <algorithm>
+
 namespace Ortholan::strict {
 namespace {
 
@@ -16,6 +18,17 @@ Skipped SkipBlanks(const uint8_t* at, const uint8_t* end, const Folding& folding
   return {at, blank};
 }
 
+// Octets at the front that become the same characters, none of them blank.
+size_t SameRun(ByteView a, const Folding& folding_a, ByteView b, const Folding& folding_b) {
+  const size_t most = std::min(a.size, b.size);
+  size_t count = 0;
+  for (; count != most; ++count) {
+    const uint16_t octet = folding_a.to[a[count]];
+    if (octet != folding_b.to[b[count]] || octet >= Folding::kBlank) break;
+  }
+  return count;
+}
+
 }  // namespace
 
 bool MatchFolded(ByteView a, const Folding& folding_a, ByteView b, const Folding& folding_b) {
@@ -24,12 +37,10 @@ bool MatchFolded(ByteView a, const Folding& folding_a, ByteView b, const Folding
   const uint8_t* x = SkipBlanks(a.begin(), end_a, folding_a).at;
   const uint8_t* y = SkipBlanks(b.begin(), end_b, folding_b).at;
   while (x != end_a && y != end_b) {
-    const uint16_t octet = folding_a.to[*x];
-    if (octet == folding_b.to[*y] && octet < Folding::kBlank) {
-      ++x;
-      ++y;
-      continue;
-    }
+    const size_t same = SameRun({x, static_cast<size_t>(end_a - x)}, folding_a,
+                                {y, static_cast<size_t>(end_b - y)}, folding_b);
+    x += same;
+    y += same;
     const Skipped in_a = SkipBlanks(x, end_a, folding_a);
     const Skipped in_b = SkipBlanks(y, end_b, folding_b);
     const bool moved = in_a.at != x || in_b.at != y;

@@ -1,5 +1,6 @@
 #include "strict/matching/preparation.h"
 
+#include "bytes/letter_words.h"
 #include "strict/der/string_value.h"
 #include "strict/matching/folding.h"
 #include "strict/matching/normalization.h"
@@ -156,8 +157,13 @@ inline bool Preparation::TakeAscii(Progress* at, Progress* last) const {
   if (IsGraphic(*in)) {
     PutBlanks(at);
     uint8_t* out = at->out;
-    do *out++ = ToAsciiLower(*in++);
-    while (in != end_ && IsGraphic(*in));
+    for (; end_ - in >= kWordOctets; in += kWordOctets, out += kWordOctets) {
+      const uint32_t word = LoadWord(in);
+      if (!IsWordWithin(word, '!', '~')) break;
+      const uint32_t lower = LowerWord(word);
+      std::memcpy(out, &lower, sizeof lower);
+    }
+    while (in != end_ && IsGraphic(*in)) *out++ = ToAsciiLower(*in++);
     *last = {in - 1, out - 1, 0};
     *at = {in, out, 0};
     return true;

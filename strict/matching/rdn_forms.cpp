@@ -46,10 +46,11 @@ Attribute RdnView::At(size_t at) const {
 }
 
 bool RdnWalk::Next(RdnView* rdn) {
-  PlainRdn plain;
-  if (ReadPlainRdn(rdns_, &plain)) {
-    rdns_ = rdns_.From(static_cast<size_t>(plain.content.end() - rdns_.data));
-    *rdn = {plain.content, {plain.type, plain.value}, 1, rdn_++, attribute_++};
+  if (ReadPlainRdn(rdns_, &rdn->content, &rdn->first.type, &rdn->first.value)) {
+    rdns_ = rdns_.From(static_cast<size_t>(rdn->content.end() - rdns_.data));
+    rdn->size = 1;
+    rdn->index = rdn_++;
+    rdn->first_attribute = attribute_++;
     return true;
   }
   Reader rdns(rdns_, Leniency::kLenient, nullptr);
@@ -65,11 +66,18 @@ bool RdnWalk::Next(RdnView* rdn) {
 }
 
 ValueForm PutAttribute(const Attribute& attribute, MatchRule rule, PreparedText* out) {
-  PreparedText octets;
-  const ValueForm form = PutForm(attribute.type, attribute.value, rule, &octets);
   PutWithLength(attribute.type, out);
-  out->push_back(form.kind);
-  PutWithLength({octets.data(), octets.size()}, out);
+  const size_t kind = out->size();
+  out->Extend(2);
+  const ValueForm form = PutForm(attribute.type, attribute.value, rule, out);
+  (*out)[kind] = form.kind;
+  const size_t size = out->size() - kind - 2;
+  const size_t more = LengthSize(size) - 1;
+  if (more != 0) {
+    out->Extend(more);
+    std::memmove(out->data() + kind + 2 + more, out->data() + kind + 2, size);
+  }
+  WriteLength(out->data() + kind + 1, size);
   return form;
 }
 

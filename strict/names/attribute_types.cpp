@@ -220,8 +220,8 @@ constexpr auto MakeIdentifiers() {
 constexpr size_t kLetters = 27;
 
 constexpr size_t LetterOf(char c) {
-  const uint8_t folded = Folded(c);
-  return folded >= 'a' && folded <= 'z' ? folded - size_t{'a'} + 1 : 0;
+  const auto letter = static_cast<uint8_t>((c | 0x20) - 'a');
+  return letter < 26 ? letter + size_t{1} : 0;
 }
 
 // 0 where it is no such name; the names that are found have letters alone.

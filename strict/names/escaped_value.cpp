@@ -1,4 +1,5 @@
 // Values of strings, escaped as RFC 4514 section 2.4 asks for and further.
+#include "bytes/octet_run.h"
 #include "strict/der/string_value.h"
 #include "strict/names/name_to_text.h"
 #include "strict/names/shown.h"
@@ -50,10 +51,13 @@ void PutScalar(uint32_t scalar, Output* out) {
   PutUtf8(scalar, out);
 }
 
-size_t PlainRun(ByteView utf8) {
-  const uint8_t* at = utf8.begin();
-  while (at != utf8.end() && MannerOf(*at) == kPlain) ++at;
-  return static_cast<size_t>(at - utf8.begin());
+size_t PlainRun(ByteView utf8) { return OrdinaryRun(utf8, kManners.manners); }
+
+// Whether UTF-8 is written as it stands, as nearly every value is.
+bool IsPlain(ByteView utf8) {
+  if (utf8.empty()) return true;
+  const uint8_t first = utf8[0];
+  return first != ' ' && first != '#' && utf8[utf8.size - 1] != ' ' && PlainRun(utf8) == utf8.size;
 }
 
 bool PutMiddle(uint8_t identifier, ByteView content, Output* out) {
@@ -94,6 +98,11 @@ bool IsAt(const uint8_t* at, size_t unit, char character) {
 }  // namespace
 
 bool PutEscaped(uint8_t identifier, ByteView content, Output* out) {
+  const bool is_utf8 = identifier == kUtf8String || IsAsciiString(identifier);
+  if (is_utf8 && IsPlain(content)) {
+    out->Put(content);
+    return true;
+  }
   const size_t unit = UnitOf(identifier);
   const size_t before = out->size();
   // A blank or "#" in front, a blank at the end.
@@ -106,7 +115,6 @@ bool PutEscaped(uint8_t identifier, ByteView content, Output* out) {
   }
   const bool blank_end = content.size >= unit && IsAt(content.end() - unit, unit, ' ');
   if (blank_end) content.size -= unit;
-  const bool is_utf8 = identifier == kUtf8String || IsAsciiString(identifier);
   const bool done = is_utf8 ? PutUtf8Middle(content, out) : PutMiddle(identifier, content, out);
   // As digits, because a blank at the end of a text is easily lost.
   if (blank_end) out->Put("\\20");

@@ -39,10 +39,12 @@ bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* coun
 
 // Passes the plain RDNs at the front that are in order.
 ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
-  PlainRdn rdn;
-  while (ReadPlainRdn(rdns, &rdn) && IsIdentifier(rdn.type) &&
-         CheckValue(rdn.value, leniency, nullptr)) {
-    rdns = rdns.From(static_cast<size_t>(rdn.content.end() - rdns.data));
+  ByteView attribute;
+  ByteView type;
+  Element value;
+  while (ReadPlainRdn(rdns, &attribute, &type, &value) && IsIdentifier(type) &&
+         CheckValue(value, leniency, nullptr)) {
+    rdns = rdns.From(static_cast<size_t>(attribute.end() - rdns.data));
     ++*count;
   }
   return rdns;
@@ -78,6 +80,7 @@ NameView NameView::OfChecked(ByteView der, size_t rdn_count, size_t attribute_co
 // What was checked is read again without a look at the rules.
 
 bool NextRdn(ByteView* rdns, Element* rdn) {
+  if (rdns->empty()) return false;
   Reader reader(*rdns, Leniency::kLenient, nullptr);
   if (!reader.Read(rdn)) return false;
   *rdns = reader.rest();
@@ -85,6 +88,11 @@ bool NextRdn(ByteView* rdns, Element* rdn) {
 }
 
 bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
+  if (attributes->empty()) return false;
+  if (ReadPlainAttribute(*attributes, &attribute->bytes, &attribute->type, &attribute->value)) {
+    *attributes = attributes->From(attribute->bytes.size);
+    return true;
+  }
   Reader reader(*attributes, Leniency::kLenient, nullptr);
   Element element;
   if (!reader.Read(&element)) return false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "bytes/der_length.h"
 #include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 
@@ -17,6 +18,12 @@ void ReverseElements(uint8_t* elements, size_t size) {
     std::reverse(first, first + each.bytes.size);
   }
   std::reverse(elements, end);
+}
+
+// Those of X.520 have three octets, which take no call to be copied.
+uint8_t* WriteType(uint8_t* out, ByteView type) {
+  constexpr size_t kOfX520 = 3;
+  return type.size == kOfX520 ? WriteBytes(out, type.First(kOfX520)) : WriteBytes(out, type);
 }
 
 }  // namespace
@@ -36,14 +43,21 @@ void NameWriter::EndRdn() {
   out_->PutHeader(kSet, size);
 }
 
-uint8_t* NameWriter::TakeValue(size_t octets) {
-  attribute_end_ = out_->size();
-  return out_->Take(octets);
-}
-
 void NameWriter::EndAttribute(uint8_t identifier, ByteView type) {
-  out_->PutHeader(identifier, out_->size() - attribute_end_);
-  EndAttribute(type);
+  const size_t content = out_->size() - attribute_end_;
+  const size_t size = 4 + type.size + content;  // without the header of the SEQUENCE
+  if (size >= kLongForm) {
+    out_->PutHeader(identifier, content);
+    return EndAttribute(type);
+  }
+  // Nearly always all lengths are short: the three headers are put at once.
+  ++attributes_;
+  uint8_t* place = out_->Take(2 + size - content);
+  if (place == nullptr) return;
+  place = WriteHeader(place, kSequence, size);
+  place = WriteHeader(place, kOid, type.size);
+  place = WriteType(place, type);
+  WriteHeader(place, identifier, content);
 }
 
 void NameWriter::EndAttribute(ByteView type) {

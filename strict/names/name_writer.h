@@ -22,7 +22,10 @@ class NameWriter {
   void BeginRdn();
 
   // Octets of the next attribute's value, for the caller to fill: ...
-  uint8_t* TakeValue(size_t octets);
+  uint8_t* TakeValue(size_t octets) {
+    attribute_end_ = out_->size();
+    return out_->Take(octets);
+  }
   // ... a whole element, ...
   void EndAttribute(ByteView type);
   // ... or the content of one.

@@ -7,35 +7,30 @@
 
 namespace Ortholan::strict {
 
-struct PlainRdn {
-  ByteView content;  // of the SET
-  ByteView type;     // content octets that may be those of an identifier
-  Element value;
-};
-
-// Reads the RDN at the front of `in`; false for one that is not plain. The type is not checked.
-inline bool ReadPlainRdn(ByteView in, PlainRdn* rdn) {
+// Reads the attribute at the front of `in`: the whole SEQUENCE, content octets that may be those of
+// an identifier, and the value. False for one that is not plain.
+inline bool ReadPlainAttribute(ByteView in, ByteView* attribute, ByteView* type, Element* value) {
   constexpr size_t kHeaders = 6;  // of SEQUENCE, type and value
   const uint8_t* const octets = in.data;
-  if (in.size < 2 + kHeaders || octets[0] != kSet || octets[2] != kSequence || octets[4] != kOid) {
-    return false;
-  }
-  const size_t size = octets[1];
-  const size_t type_size = octets[5];
-  if (size >= 0x80 || size > in.size - 2 || octets[3] + size_t{2} != size ||
-      type_size + kHeaders > size) {
-    return false;
-  }
-  const uint8_t* const value = octets + 6 + type_size;
+  if (in.size < kHeaders || octets[0] != kSequence || octets[2] != kOid) return false;
+  const size_t size = octets[1] + size_t{2};
+  const size_t type_size = octets[3];
+  if (octets[1] >= 0x80 || size > in.size || type_size + kHeaders > size) return false;
+  const uint8_t* const at = octets + 4 + type_size;
   const size_t value_size = size - kHeaders - type_size;
-  if (value[1] != value_size || (value[0] & kConstructedBit) != 0 ||
-      (value[0] & kLongTag) == kLongTag) {
+  if (at[1] != value_size || (at[0] & kConstructedBit) != 0 || (at[0] & kLongTag) == kLongTag) {
     return false;
   }
-  rdn->content = {octets + 2, size};
-  rdn->type = {octets + 6, type_size};
-  rdn->value = {value[0], {value + 2, value_size}, {value, value_size + 2}};
+  *attribute = {octets, size};
+  *type = {octets + 4, type_size};
+  *value = {at[0], {at + 2, value_size}, {at, value_size + 2}};
   return true;
+}
+
+// Reads the RDN at the front of `in`, which is the SET of the attribute's octets.
+inline bool ReadPlainRdn(ByteView in, ByteView* attribute, ByteView* type, Element* value) {
+  return in.size > 2 && in.data[0] == kSet && in.data[1] < 0x80 &&
+         ReadPlainAttribute(in.From(2), attribute, type, value) && attribute->size == in.data[1];
 }
 
 }  // namespace Ortholan::strict

@@ -30,8 +30,7 @@ uint8_t StringOf(ValueSyntax syntax) {
 
 // The narrower type where every character is in its alphabet, else UTF8String.
 StringChoice ChooseNarrow(ByteView text, uint8_t narrow) {
-  const bool fits = FindStringFault(narrow, text, true).reason == ORTHOLAN_REASON_NONE;
-  return {fits ? narrow : static_cast<uint8_t>(kUtf8String)};
+  return {IsInAlphabet(narrow, text) ? narrow : static_cast<uint8_t>(kUtf8String)};
 }
 
 // The first of the caller's names that are spelt so; null where there is none.
@@ -45,9 +44,11 @@ const ortholan_type_name* FindOwn(std::string_view name, const TextOptions& opti
 }  // namespace
 
 bool FindNamed(std::string_view name, const TextOptions& options, NamedType* type) {
-  if (const ortholan_type_name* const own = FindOwn(name, options)) {
-    *type = Named(*own);
-    return true;
+  if (options.name_count != 0) {
+    if (const ortholan_type_name* const own = FindOwn(name, options)) {
+      *type = Named(*own);
+      return true;
+    }
   }
   const AttributeType* const known = FindTypeByName(name);
   if (known == nullptr) return false;

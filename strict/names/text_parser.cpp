@@ -3,6 +3,7 @@
 #include <ortholan/strict/names.h>
 
 #include "bytes/ascii.h"
+#include "bytes/octet_run.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/names/attribute_types.h"
@@ -29,13 +30,6 @@ constexpr RoleTable kRoles = MakeRoles();
 
 Role RoleOf(char c) { return static_cast<Role>(kRoles.roles[static_cast<uint8_t>(c)]); }
 
-size_t OrdinaryRun(std::string_view text) {
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  while (at != end && RoleOf(*at) == kOrdinary) ++at;
-  return static_cast<size_t>(at - text.data());
-}
-
 // What may follow a backslash as itself.
 bool IsSpecial(char c) { return c != '\0' && std::strchr("\\\"+,;<> #=", c) != nullptr; }
 
@@ -50,7 +44,19 @@ uint8_t HexOctet(const char* digits) {
   return static_cast<uint8_t>(HexDigit(digits[0]) << 4 | HexDigit(digits[1]));
 }
 
-bool IsTypeCharacter(char c) { return IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-' || c == '.'; }
+// What a character may stand in: a descriptor (RFC 4512 1.4), dotted text or both; bits.
+enum TypeRole : uint8_t { kInDescriptor = 1, kInDotted = 2 };
+
+constexpr RoleTable MakeTypeRoles() {
+  RoleTable table = {};
+  for (int c = 0; c < 0x80; ++c) {
+    if (IsAsciiLetter(c) || IsAsciiDigit(c) || c == '-') table.roles[c] |= kInDescriptor;
+    if (IsAsciiDigit(c) || c == '.') table.roles[c] |= kInDotted;
+  }
+  return table;
+}
+
+constexpr RoleTable kTypeRoles = MakeTypeRoles();
 
 bool HasOidPrefix(std::string_view type) {
   return type.size() > 4 && type[3] == '.' && SameName(type.substr(0, 3), "oid");
@@ -90,15 +96,23 @@ void TextParser::SkipBlanks() {
 bool TextParser::ReadType(TextAttribute* attribute) {
   SkipBlanks();
   const size_t start = position_;
-  while (IsTypeCharacter(Here())) ++position_;
-  std::string_view type = text_.substr(start, position_ - start);
+  uint8_t roles = kInDescriptor;  // those that all characters have
+  size_t end = start;
+  for (; end < text_.size(); ++end) {
+    const uint8_t role = kTypeRoles.roles[static_cast<uint8_t>(text_[end])];
+    if (role == 0) break;
+    roles &= role;
+  }
+  position_ = end;
+  std::string_view type(text_.data() + start, end - start);
   SkipBlanks();
   if (Here() != '=' || type.empty()) return RefuseType(start);
   ++position_;
   const bool prefixed = HasOidPrefix(type);
   if (prefixed) type.remove_prefix(4);
   attribute->dotted = IsAsciiDigit(type.front());
-  if (!attribute->dotted && (prefixed || !IsDescriptor(type))) {
+  const bool is_descriptor = roles == kInDescriptor && IsAsciiLetter(type.front());
+  if (!attribute->dotted && (prefixed || !is_descriptor)) {
     return RefuseAt(ORTHOLAN_REASON_TEXT_TYPE, start);
   }
   attribute->type = type;
@@ -156,7 +170,8 @@ bool TextParser::ReadPlain(TextAttribute* attribute) {
   size_t pairs_end = start;
   size_t saved = 0;  // octets that pairs take in the text above those that they stand for
   for (; position_ < text_.size(); ++position_) {
-    position_ += OrdinaryRun(text_.substr(position_));
+    const ByteView rest = AsBytes(text_.data(), text_.size()).From(position_);
+    position_ += OrdinaryRun(rest, kRoles.roles);
     if (AtEnd()) break;
     const Role role = RoleOf(text_[position_]);
     if (role == kSeparator) break;

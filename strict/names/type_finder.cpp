@@ -4,11 +4,7 @@
 
 namespace Ortholan::strict {
 
-ortholan_reason TypeFinder::Find(std::string_view type, bool dotted, NamedType* found) {
-  if (!dotted) {
-    if (!FindNamed(type, options_, found)) return ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE;
-    return ORTHOLAN_REASON_NONE;
-  }
+ortholan_reason TypeFinder::FindDotted(std::string_view type, NamedType* found) {
   Output oid(oid_, sizeof oid_);
   if (!PutIdentifier(type, &oid)) return ORTHOLAN_REASON_TEXT_OID;
   ByteView octets(oid_, oid.size());

@@ -15,9 +15,15 @@ class TypeFinder {
 
   // Why there is no such type, or NONE. What was found may point into the finder until the next
   // call.
-  ortholan_reason Find(std::string_view type, bool dotted, NamedType* found);
+  ortholan_reason Find(std::string_view type, bool dotted, NamedType* found) {
+    if (dotted) return FindDotted(type, found);
+    if (!FindNamed(type, options_, found)) return ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE;
+    return ORTHOLAN_REASON_NONE;
+  }
 
  private:
+  ortholan_reason FindDotted(std::string_view type, NamedType* found);
+
   const TextOptions& options_;
   uint8_t oid_[32];  // of dotted digits; nearly all fit
   std::string long_oid_;
