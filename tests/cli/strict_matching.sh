@@ -12,7 +12,7 @@ teletex=300C310A30080603550403140161
 printable=300C310A30080603550403130161
 
 row "case, blanks, string types" 0 "" "" equal --rfc5280 $case_and_blanks $same
-row "the other rule wants them equal" 1 "" "" equal $case_and_blanks $same
+row "letter case counts by the other rule" 1 "" "" equal $case_and_blanks $same
 row "another value" 1 "" 'x509name: equal: RDN 1 \(2\.5\.4\.3\): the values are different' \
   equal --rfc5280 $case_and_blanks $bar
 row "another order" 1 "" 'x509name: equal: RDN 1 \(2\.5\.4\.6\): an attribute has no counterpart .*' \
