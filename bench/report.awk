@@ -21,6 +21,8 @@ BEGIN {
   row("same name, other case and blanks")
   row("same name, Cyrillic in another case")
   row("key of a name")
+  row("host of a certificate for 10")
+  row("host of a certificate for 10,000")
   row("value of 1 MB, text to DER")
   row("value of 1 MB, text to DER, 8-bit", "value of 1 MB, text to DER", "Ortholan 8-bit")
   row("value of 1 MB, DER to text")
