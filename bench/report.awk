@@ -23,6 +23,8 @@ BEGIN {
   row("key of a name")
   row("10 names against 5 subtrees")
   row("10,000 names against 10,000 subtrees")
+  row("host of a certificate for 10")
+  row("host of a certificate for 10,000")
   row("value of 1 MB, text to DER")
   row("value of 1 MB, text to DER, 8-bit", "value of 1 MB, text to DER", "Ortholan 8-bit")
   row("value of 1 MB, DER to text")

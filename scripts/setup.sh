@@ -17,7 +17,7 @@ case ${1-} in
   native) packages=("${native[@]}") ;;
   test)
     packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb
-      libssl-dev lld mandoc pkg-config python3 valgrind zsh)
+      libgnutls28-dev libssl-dev lld mandoc pkg-config python3 valgrind zsh)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)

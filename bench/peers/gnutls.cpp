@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "bench/chains.h"
+#include "bench/hosts.h"
 #include "bench/measure.h"
 #include "bench/names.h"
 
@@ -114,6 +115,20 @@ void AddBothWays(const char* to_der, const char* to_text, const Attributes& attr
   Add({to_text, kSubject, [=] { return DerToText(der) == text; }}, [=] { return DerToText(der); });
 }
 
+bool IsFor(const std::string& der, const std::string& host) {
+  gnutls_x509_crt_t certificate = nullptr;
+  if (gnutls_x509_crt_init(&certificate) != GNUTLS_E_SUCCESS) std::abort();
+  // The data is only read.
+  const gnutls_datum_t data = {reinterpret_cast<unsigned char*>(const_cast<char*>(der.data())),
+                               static_cast<unsigned>(der.size())};
+  const bool is_for =
+      gnutls_x509_crt_import(certificate, &data, GNUTLS_X509_FMT_DER) == GNUTLS_E_SUCCESS &&
+      gnutls_x509_crt_check_hostname2(certificate, host.c_str(),
+                                      GNUTLS_VERIFY_DO_NOT_ALLOW_IP_MATCHES) != 0;
+  gnutls_x509_crt_deinit(certificate);
+  return is_for;
+}
+
 void AddCases() {
   AddBothWays(kTextToDer, kDerToText, SixAttributes());
   AddBothWays(kLargeToDer, kLargeToText, LargeValue(kLargeSize));
@@ -128,6 +143,7 @@ void AddCases() {
   Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
       [=] { return Equal(der, utf8); });
   AddConstraints();
+  AddHosts(kSubject, IsFor);
 }
 
 const Registration registration(kSubject, gnutls_check_version(nullptr), AddCases);

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "bench/chains.h"
+#include "bench/hosts.h"
 #include "bench/measure.h"
 #include "bench/names.h"
 #include "bench/samples.h"
@@ -30,6 +31,7 @@ struct Deleter {
 using Name = std::unique_ptr<X509_NAME, Deleter<X509_NAME, X509_NAME_free>>;
 using Extension = std::unique_ptr<X509_EXTENSION, Deleter<X509_EXTENSION, X509_EXTENSION_free>>;
 using GenName = std::unique_ptr<GENERAL_NAME, Deleter<GENERAL_NAME, GENERAL_NAME_free>>;
+using Certificate = std::unique_ptr<X509, Deleter<X509, X509_free>>;
 using Bio = std::unique_ptr<BIO, Deleter<BIO, BIO_free_all>>;
 
 const unsigned char* Octets(std::string_view text) {
@@ -208,6 +210,14 @@ void AddConstraints() {
       [=] { return Permitted(usual); });
 }
 
+bool IsFor(const std::string& der, const std::string& host) {
+  const unsigned char* position = Octets(der);
+  const Certificate certificate(d2i_X509(nullptr, &position, static_cast<long>(der.size())));
+  return X509_check_host(certificate.get(), host.data(), host.size(),
+                         X509_CHECK_FLAG_NO_PARTIAL_WILDCARDS | X509_CHECK_FLAG_NEVER_CHECK_SUBJECT,
+                         nullptr) == 1;
+}
+
 void AddCases() {
   // The smallest string type that holds a value, as the other libraries choose, not always UTF-8.
   ASN1_STRING_set_default_mask_asc("default");
@@ -217,6 +227,7 @@ void AddCases() {
   AddGeneralNames();
   AddExtension();
   AddConstraints();
+  AddHosts(kSubject, IsFor);
 }
 
 const Registration registration(kSubject, OpenSSL_version(OPENSSL_VERSION_STRING), AddCases);

@@ -6,6 +6,12 @@
 namespace Ortholan::strict {
 namespace {
 
+// What stands behind the identifier.
+bool ReadValue(Reader* fields, ExtensionView* extension) {
+  return ReadDefaultFalse(fields, &extension->critical) &&
+         fields->Read(kOctetString, &extension->value) && fields->End();
+}
+
 bool ReadExtension(Reader* list, ExtensionView* extension) {
   Element element;
   if (!list->Read(kSequence, &element)) return false;
@@ -15,8 +21,7 @@ bool ReadExtension(Reader* list, ExtensionView* extension) {
   if (!IsIdentifier(extension->oid)) {
     return fields.RefuseAt(ORTHOLAN_REASON_OID, extension->oid.data);
   }
-  return ReadDefaultFalse(&fields, &extension->critical) &&
-         fields.Read(kOctetString, &extension->value) && fields.End();
+  return ReadValue(&fields, extension);
 }
 
 }  // namespace
@@ -43,18 +48,22 @@ void ExtensionsView::Iterator::Step() {
   rest_ = list.rest();
 }
 
+// The identifiers alone tell which extension has to be taken apart.
 bool ExtensionsView::FindIn(ByteView content, ByteView oid, ExtensionView* found,
                             Refusal* refusal) {
   *found = {};
-  for (Iterator at(content); at != Iterator(); ++at) {
-    const ExtensionView& extension = *at;
-    if (!SameBytes(extension.oid, oid)) continue;
+  Reader list(content, Leniency::kLenient, nullptr);
+  for (Element element; !list.AtEnd() && list.Read(kSequence, &element);) {
+    Reader fields(element.content, Leniency::kLenient, nullptr);
+    ByteView type;
+    if (!fields.Read(kOid, &type) || !SameBytes(type, oid)) continue;
     if (!found->bytes.empty()) {
       *found = {};
-      return Refuse(refusal, ORTHOLAN_REASON_DUPLICATE_EXTENSION, extension.bytes.data,
-                    extension.bytes.size);
+      return Refuse(refusal, ORTHOLAN_REASON_DUPLICATE_EXTENSION, element.bytes.data,
+                    element.bytes.size);
     }
-    *found = extension;
+    *found = {type, {}, element.bytes, false};
+    ReadValue(&fields, found);
   }
   return true;
 }

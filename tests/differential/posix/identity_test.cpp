@@ -8,6 +8,7 @@
 #include <ortholan/strict.hpp>
 #include <string>
 
+#include "tests/differential/posix/host_pairs.h"
 #include "tests/strict/certificate_shell.h"
 #include "tests/support/vectors.h"
 
@@ -67,6 +68,28 @@ TEST(IdentityBesideOpenSsl, DiffersByRule) {
     EXPECT_NE(RuleOf(ours, text), nullptr);
   }
   EXPECT_GT(same, 400u);
+}
+
+const Rule<HostPair> kSameHereAlone[] = {
+    {"dot at the end of what is asked for", "an absolute host name, RFC 1034 3.1",
+     [](const HostPair& pair) { return pair.asked.back() == '.'; }},
+    {"underscore below a wildcard",
+     "* is any label, RFC 9525 6.3; OpenSSL wants letters and digits",
+     [](const HostPair& pair) { return pair.presented[0] == '*' && pair.asked[0] == '_'; }},
+};
+
+const Rule<HostPair> kSameThereAlone[] = {
+    {"no host is asked for", "RFC 1034 3.5, RFC 9525 6.4",
+     [](const HostPair& pair) { return pair.refused != ORTHOLAN_REASON_NONE; }},
+    {"no host is presented", "preferred name syntax, RFC 5280 4.2.1.6 and RFC 1034 3.5",
+     [](const HostPair& pair) { return pair.PresentsNoHost(); }},
+};
+
+TEST(IdentityBesideOpenSsl, HostsDifferByRule) {
+  CompareHosts(kSameHereAlone, kSameThereAlone,
+               [](const std::string& certificate, const std::string& host) {
+                 return AskOpenSsl(certificate, "host", host);
+               });
 }
 
 }  // namespace
