@@ -94,7 +94,10 @@ Match MakeMatch(Verdict verdict, ortholan_reason reason) {
 }
 
 Match MatchNames(const NameView& first, const NameView& second, MatchRule rule, RdnOrder order) {
-  if (SameBytes(first.der(), second.der())) return MakeMatch(Verdict::kYes, ORTHOLAN_REASON_NONE);
+  const bool is_one = first.der().data == second.der().data;  // names that were found equal before
+  if ((is_one && first.der().size == second.der().size) || SameBytes(first.der(), second.der())) {
+    return MakeMatch(Verdict::kYes, ORTHOLAN_REASON_NONE);
+  }
   if (first.rdn_count() != second.rdn_count()) {
     return MakeMatch(Verdict::kNo, ORTHOLAN_REASON_RDN_COUNT);
   }
