@@ -117,14 +117,10 @@ void AddBothWays(const char* to_der, const char* to_text, const Attributes& attr
 
 bool IsFor(const std::string& der, const std::string& host) {
   gnutls_x509_crt_t certificate = nullptr;
-  if (gnutls_x509_crt_init(&certificate) != GNUTLS_E_SUCCESS) std::abort();
-  // The data is only read.
-  const gnutls_datum_t data = {reinterpret_cast<unsigned char*>(const_cast<char*>(der.data())),
-                               static_cast<unsigned>(der.size())};
-  const bool is_for =
-      gnutls_x509_crt_import(certificate, &data, GNUTLS_X509_FMT_DER) == GNUTLS_E_SUCCESS &&
-      gnutls_x509_crt_check_hostname2(certificate, host.c_str(),
-                                      GNUTLS_VERIFY_DO_NOT_ALLOW_IP_MATCHES) != 0;
+  gnutls_x509_crt_init(&certificate);
+  const bool is_for = Read(der, certificate) &&
+                      gnutls_x509_crt_check_hostname2(certificate, host.c_str(),
+                                                      GNUTLS_VERIFY_DO_NOT_ALLOW_IP_MATCHES) != 0;
   gnutls_x509_crt_deinit(certificate);
   return is_for;
 }

@@ -31,7 +31,6 @@ struct Deleter {
 using Name = std::unique_ptr<X509_NAME, Deleter<X509_NAME, X509_NAME_free>>;
 using Extension = std::unique_ptr<X509_EXTENSION, Deleter<X509_EXTENSION, X509_EXTENSION_free>>;
 using GenName = std::unique_ptr<GENERAL_NAME, Deleter<GENERAL_NAME, GENERAL_NAME_free>>;
-using Certificate = std::unique_ptr<X509, Deleter<X509, X509_free>>;
 using Bio = std::unique_ptr<BIO, Deleter<BIO, BIO_free_all>>;
 
 const unsigned char* Octets(std::string_view text) {
@@ -211,8 +210,7 @@ void AddConstraints() {
 }
 
 bool IsFor(const std::string& der, const std::string& host) {
-  const unsigned char* position = Octets(der);
-  const Certificate certificate(d2i_X509(nullptr, &position, static_cast<long>(der.size())));
+  const std::shared_ptr<X509> certificate = ReadCertificate(der);
   return X509_check_host(certificate.get(), host.data(), host.size(),
                          X509_CHECK_FLAG_NO_PARTIAL_WILDCARDS | X509_CHECK_FLAG_NEVER_CHECK_SUBJECT,
                          nullptr) == 1;
