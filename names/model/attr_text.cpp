@@ -8,7 +8,7 @@
 #include "bytes/small_buffer.h"
 #include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
-#include "names/model/name_text.h"
+#include "names/model/name_failure.h"
 #include "names/quote.h"
 
 namespace Ortholan {

@@ -19,7 +19,7 @@
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
 #include "names/decoder/value_text.h"
-#include "names/model/name_text.h"
+#include "names/model/name_failure.h"
 
 namespace Ortholan {
 namespace {

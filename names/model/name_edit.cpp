@@ -13,7 +13,7 @@
 #include "foundation/untyped_failure.h"
 #include "names/decoder/attribute_elements.h"
 #include "names/decoder/attribute_walk.h"
-#include "names/model/name_text.h"
+#include "names/model/name_failure.h"
 
 namespace Ortholan {
 namespace {

@@ -13,9 +13,6 @@
 
 namespace Ortholan {
 
-// What an operation without a type of its own leaves in the last error before it throws.
-constexpr DWORD kNameFailure = ERROR_INTERNAL_DB_CORRUPTION;
-
 // The 8-bit text of `wide` up to its first NUL; "" where it is too long or cannot be converted.
 std::string ToThreadText(std::wstring_view wide);
 

@@ -14,6 +14,7 @@
 #include "names/decoder/name_renderer.h"
 #include "names/decoder/structured_value.h"
 #include "names/encoder/text_encoder.h"
+#include "names/model/name_failure.h"
 #include "names/model/name_text.h"
 
 namespace Ortholan {
