@@ -57,6 +57,11 @@ TEST(NameConstraints, TellsWhichNameWhichRuleWhichSubtree) {
        Der(0xA1, Subtree(0x86, "a.org")),
        {"certificate 1: URI urn:\\1B\\\\ cannot be held against the constraints of certificate 2: "
         "a character stands there that the part of the URI cannot have"}},
+      {"a subtree of no mailbox",
+       Der(0x82, "a.org"),
+       Der(0xA0, Subtree(0x81, "")),
+       {"certificate 2: its name constraints cannot be used: a subtree of mailboxes or URIs names "
+        "nothing"}},
       {"constraints without lists",
        Der(0x82, "a.org"),
        "",
