@@ -6,8 +6,6 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr uint32_t kHostChoices = kUnderscores | kEdgeHyphens;
-
 // Keeps the reason of what was refused.
 void SetFault(const Refusal& refusal, ConstrainedName* name) { name->fault = refusal.reason; }
 

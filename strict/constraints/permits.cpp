@@ -3,15 +3,13 @@
 #include "strict/certificates/certificate_view.h"
 #include "strict/constraints/name_constraints_view.h"
 #include "strict/constraints/subtree_set.h"
+#include "strict/der/known_identifiers.h"
 #include "strict/matching/match_names.h"
 
 namespace Ortholan::strict {
 namespace {
 
-constexpr uint8_t kAlternativeNames[] = {0x55, 0x1D, 0x11};
 constexpr uint8_t kNameConstraints[] = {0x55, 0x1D, 0x1E};
-// 1.2.840.113549.1.9.1, emailAddress.
-constexpr uint8_t kEmail[] = {0x2A, 0x86, 0x48, 0x86, 0xF7, 0x0D, 0x01, 0x09, 0x01};
 
 // What a certificate names.
 struct NamesOfCertificate {
@@ -90,7 +88,7 @@ void Authority::JudgeSubject(const NamesOfCertificate& names) {
   }
   if (!has_mail) return;
   for (const AttributeView& attribute : subject) {
-    if (!SameBytes(attribute.type, {kEmail, sizeof kEmail})) continue;
+    if (!SameBytes(attribute.type, {kEmailAddressOid, sizeof kEmailAddressOid})) continue;
     JudgeName(ConstrainedName::OfEmail(attribute));
   }
 }
@@ -178,7 +176,7 @@ bool ReadLink(ortholan_octets der, Link* link, Refusal* refusal) {
   link->names.subject = link->certificate.subject();
   ExtensionView found;
   const bool is_one = link->certificate.extensions().Find(
-      {kAlternativeNames, sizeof kAlternativeNames}, &found, refusal);
+      {kAlternativeNamesOid, sizeof kAlternativeNamesOid}, &found, refusal);
   link->names.has_alternatives = !is_one;
   if (!is_one) return false;
   return found.bytes.empty() || ReadAlternatives(found.value, &link->names, refusal);

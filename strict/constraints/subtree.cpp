@@ -7,9 +7,6 @@
 namespace Ortholan::strict {
 namespace {
 
-// What is decidable counts here, also where it is no preferred name syntax.
-constexpr uint32_t kHostChoices = kUnderscores | kEdgeHyphens;
-
 bool RefuseBase(ByteView content, ortholan_reason reason, Refusal* refusal) {
   return Refuse(refusal, reason, content.data, content.size);
 }

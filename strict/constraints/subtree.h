@@ -9,9 +9,13 @@
 
 #include "strict/constraints/name_form.h"
 #include "strict/der/refusal.h"
+#include "strict/general_names/host.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {
+
+// Hosts of names and subtrees: what is decidable counts, also where it is no preferred name syntax.
+constexpr uint32_t kHostChoices = kUnderscores | kEdgeHyphens;
 
 struct Subtree {
   // Which names it holds.

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "strict/certificates/extensions_writer.h"
+#include "strict/der/known_identifiers.h"
 #include "strict/face/call.h"
 #include "strict/general_names/edi_party.h"
 #include "strict/general_names/general_name_parser.h"
@@ -269,9 +270,8 @@ ortholan_reason ortholan_alternative_names_from_text(const ortholan_text* texts,
     return Report(ORTHOLAN_REASON_MEMORY, refusal);
   }
   if (form != ORTHOLAN_ALTERNATIVE_NAMES_VALUE) {
-    constexpr uint8_t kType[] = {0x55, 0x1D, 0x11};
-    PutExtensionAround({kType, sizeof kType}, form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL,
-                       der.size(), &der);
+    PutExtensionAround({kAlternativeNamesOid, sizeof kAlternativeNamesOid},
+                       form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL, der.size(), &der);
   }
   return Finish(&der, size, refusal);
 }

@@ -1,13 +1,12 @@
 #include "strict/identity/identify.h"
 
 #include "strict/certificates/certificate_view.h"
+#include "strict/der/known_identifiers.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/other_name.h"
 
 namespace Ortholan::strict {
 namespace {
-
-constexpr uint8_t kAlternativeNames[] = {0x55, 0x1D, 0x11};  // 2.5.29.17
 
 ortholan_reason CompareHostNames(std::string_view presented, const Reference& reference) {
   const std::string_view host = reference.parts.host;
@@ -128,7 +127,8 @@ Identity Identify(ByteView certificate, const Reference& reference, Refusal* ref
   CertificateView view;
   ExtensionView extension;
   if (!CertificateView::Read(certificate, Leniency::kDer, &view, &found) ||
-      !view.extensions().Find({kAlternativeNames, sizeof kAlternativeNames}, &extension, &found)) {
+      !view.extensions().Find({kAlternativeNamesOid, sizeof kAlternativeNamesOid}, &extension,
+                              &found)) {
     return CannotTell(found, refusal);
   }
   if (view.kind() != CertificateKind::kCertificate) {

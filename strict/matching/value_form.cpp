@@ -1,14 +1,14 @@
 #include "strict/matching/value_form.h"
 
+#include "strict/der/known_identifiers.h"
 #include "strict/der/string_value.h"
 #include "strict/matching/folding.h"
 
 namespace Ortholan::strict {
 namespace {
 
-// Content octets of 0.9.2342.19200300.100.1.25 and 1.2.840.113549.1.9.1.
+// Content octets of 0.9.2342.19200300.100.1.25.
 constexpr uint8_t kDomainComponent[] = {0x09, 0x92, 0x26, 0x89, 0x93, 0xF2, 0x2C, 0x64, 0x01, 0x19};
-constexpr uint8_t kEmailAddress[] = {0x2A, 0x86, 0x48, 0x86, 0xF7, 0x0D, 0x01, 0x09, 0x01};
 
 void Put(ByteView octets, PreparedText* out) { WriteBytes(out->Extend(octets.size), octets); }
 
@@ -86,7 +86,7 @@ void PutUtf8(const Element& value, PreparedText* out) {
 
 bool IsCaseOnly(ByteView type) {
   return SameBytes(type, {kDomainComponent, sizeof kDomainComponent}) ||
-         SameBytes(type, {kEmailAddress, sizeof kEmailAddress});
+         SameBytes(type, {kEmailAddressOid, sizeof kEmailAddressOid});
 }
 
 ValueForm PutForm(ByteView type, const Element& value, MatchRule rule, PreparedText* out) {

@@ -140,24 +140,27 @@ class [[nodiscard]] Result {
   Refusal refusal_;
 };
 
+// What a call that writes into room puts there, text or octets, or the reason of its refusal.
+template <class String, class Call>
+Result<String> MadeBy(Call call) {
+  String made;
+  const ortholan_reason reason = WithRoom(&made, call);
+  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
+  return made;
+}
+
 // An OBJECT IDENTIFIER's content octets as dotted text.
 inline Result<std::string> OidToText(Octets oid) {
-  std::string text;
-  const ortholan_reason reason = WithRoom(&text, [oid](char* out, size_t room, size_t* size) {
+  return MadeBy<std::string>([oid](char* out, size_t room, size_t* size) {
     return ortholan_oid_to_text(oid, out, room, size);
   });
-  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-  return text;
 }
 
 // Dotted text as content octets.
 inline Result<std::vector<uint8_t>> OidFromText(std::string_view text) {
-  std::vector<uint8_t> oid;
-  const ortholan_reason reason = WithRoom(&oid, [text](uint8_t* out, size_t room, size_t* size) {
+  return MadeBy<std::vector<uint8_t>>([text](uint8_t* out, size_t room, size_t* size) {
     return ortholan_oid_from_text(ToText(text), out, room, size);
   });
-  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-  return oid;
 }
 
 }  // namespace ortholan

@@ -213,22 +213,16 @@ class GeneralNames {
 
 // Octets of an address or a range as text: "192.0.2.1", "2001:db8::/32".
 inline Result<std::string> AddressToText(Octets address) {
-  std::string text;
-  const ortholan_reason reason = WithRoom(&text, [address](char* out, size_t room, size_t* size) {
+  return MadeBy<std::string>([address](char* out, size_t room, size_t* size) {
     return ortholan_address_to_text(address, out, room, size);
   });
-  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-  return text;
 }
 
 // The octets of an address, 4 or 16, or of a range with its mask, 8 or 32.
 inline Result<std::vector<uint8_t>> AddressFromText(std::string_view text) {
-  std::vector<uint8_t> octets;
-  const ortholan_reason reason = WithRoom(&octets, [text](uint8_t* out, size_t room, size_t* size) {
+  return MadeBy<std::vector<uint8_t>>([text](uint8_t* out, size_t room, size_t* size) {
     return ortholan_address_from_text(ToText(text), out, room, size);
   });
-  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-  return octets;
 }
 
 // The GeneralName of a text: "DNS:example.org", "IP:192.0.2.1", "UPN:joe@example.org".
