@@ -48,6 +48,8 @@ enum Identifier : uint8_t {
 constexpr uint8_t kConstructedBit = 0x20;
 constexpr uint8_t kLongTag = 0x1F;
 
+constexpr size_t kMaxDepth = 32;  // levels of elements inside a value
+
 // Context-specific identifiers, [n] primitive and constructed; n is at most 30.
 constexpr uint8_t Context(uint8_t number) { return static_cast<uint8_t>(0x80 | number); }
 constexpr uint8_t ContextConstructed(uint8_t number) { return static_cast<uint8_t>(0xA0 | number); }
@@ -94,6 +96,10 @@ class Reader {
     if (!Sees(identifier)) return RefuseHere(ORTHOLAN_REASON_IDENTIFIER, identifier);
     return Read(element);
   }
+  // Enters a constructed element of indefinite length, which is none of DER (8.1.3.6): what it
+  // holds follows, and 00 00 behind it. False, with nothing read, where the next element is no
+  // such.
+  bool EnterIndefinite(ByteView* identifier);
   // Nothing may be left.
   bool End() { return AtEnd() || RefuseHere(ORTHOLAN_REASON_LEFT_OVER); }
 
@@ -133,8 +139,8 @@ bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* con
 
 using ElementCheck = bool (*)(const Element& element, Leniency leniency, Refusal* refusal);
 
-// Checks the headers of everything inside a value of any type, at most 32 levels deep, and each
-// element by `check` where there is one.
+// Checks the headers of everything inside a value of any type, at most kMaxDepth levels deep, and
+// each element by `check` where there is one.
 bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal,
                  ElementCheck check = nullptr);
 

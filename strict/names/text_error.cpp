@@ -43,7 +43,7 @@ constexpr Row kRows[] = {
      "pairs of hexadecimal digits alone behind \"#\"; a value that begins with \"#\" is written "
      "with a backslash before it"},
     {ORTHOLAN_REASON_TEXT_ELEMENT, Extent::kPair,
-     "the digits of one whole element in DER behind \"#\"; a value that begins with \"#\" is "
+     "the digits of one whole element behind \"#\"; a value that begins with \"#\" is "
      "written with a backslash before it"},
     {ORTHOLAN_REASON_TEXT_VALUE_UTF8, Extent::kPair, "escaped octets that are text in UTF-8"},
     {ORTHOLAN_REASON_TEXT_QUOTE, Extent::kCharacter,

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "strict/der/reader.h"
-#include "strict/der/string_value.h"
+#include "strict/der/any_value.h"
+#include "strict/der/ber_value.h"
 #include "strict/names/name_writer.h"
 #include "strict/names/text_parser.h"
 #include "strict/names/type_finder.h"
@@ -41,8 +41,9 @@ class Encoder {
     ByteView octets = AsBytes(attribute.value.data(), attribute.value.size());
     if (!as_it_stands || place != nullptr) octets = Write(attribute, place);
     if (is_hex) {
+      if (!ReadElement(attribute, octets)) return false;
       name_.EndAttribute(type.oid);
-      return CheckElement(attribute, octets);
+      return true;
     }
     if (!as_it_stands && !CheckUtf8(attribute, octets)) return false;
     const StringChoice choice = ChooseString(octets, type.syntax, options_.strings);
@@ -69,13 +70,17 @@ class Encoder {
     return {place, attribute.octets};
   }
 
-  // What the digits stand for is one element, all of it, and a string that is text.
-  bool CheckElement(const TextAttribute& attribute, ByteView octets) {
-    Refusal inner;
-    Reader reader(octets, Leniency::kDer, &inner);
+  // What the digits stand for is one element of BER, all of it, which is put in DER.
+  bool ReadElement(const TextAttribute& attribute, ByteView octets) {
+    Reader reader(octets, Leniency::kDer, nullptr);
     Element element;
-    if (reader.Read(&element) && reader.End() && CheckNested(element, Leniency::kDer, &inner) &&
-        CheckString(element, Leniency::kDer, &inner)) {
+    if (reader.Read(&element) && reader.AtEnd() && CheckValue(element, Leniency::kDer, nullptr)) {
+      return true;
+    }
+    Refusal inner;
+    std::string der;
+    if (ReadBerValue(octets, &der, &inner)) {
+      name_.ReplaceValue(AsBytes(der.data(), der.size()));
       return true;
     }
     const auto offset = static_cast<size_t>(static_cast<const uint8_t*>(inner.at) - octets.data);
