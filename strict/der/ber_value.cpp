@@ -1,8 +1,9 @@
 #include "strict/der/ber_value.h"
 
+#include "bytes/der_identifier.h"
 #include "bytes/der_length.h"
-#include "bytes/der_tag.h"
 #include "strict/der/any_value.h"
+#include "strict/der/reader.h"
 
 namespace Ortholan::strict {
 namespace {

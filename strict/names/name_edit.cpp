@@ -1,6 +1,7 @@
 #include "strict/names/name_edit.h"
 
 #include "strict/der/any_value.h"
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/names/name_writer.h"
 

@@ -4,6 +4,7 @@
 
 #include "strict/der/any_value.h"
 #include "strict/der/ber_value.h"
+#include "strict/der/reader.h"
 #include "strict/names/name_writer.h"
 #include "strict/names/text_parser.h"
 #include "strict/names/type_finder.h"
