@@ -52,6 +52,9 @@ constexpr Row kRows[] = {
      "a comma, plus or the end behind the closing quote; a quote of the value has a backslash "
      "before it"},
     {ORTHOLAN_REASON_TEXT_ALPHABET, Extent::kEscaped, ""},
+    {ORTHOLAN_REASON_TEXT_LINE, Extent::kEscaped,
+     "lines with \"$\" between them, none of them empty; in a line \"$\" is written \\\\24 and a "
+     "backslash \\\\5C"},
     {ORTHOLAN_REASON_TEXT_NO_STRING, Extent::kPart,
      "\"#\" and the hexadecimal digits of the value's encoding, because values of this type are no "
      "strings"},

@@ -6,6 +6,7 @@
 #include "strict/der/ber_value.h"
 #include "strict/der/reader.h"
 #include "strict/names/name_writer.h"
+#include "strict/names/postal_address.h"
 #include "strict/names/text_parser.h"
 #include "strict/names/type_finder.h"
 
@@ -47,11 +48,23 @@ class Encoder {
       return true;
     }
     if (!as_it_stands && !CheckUtf8(attribute, octets)) return false;
+    if (type.syntax == ValueSyntax::kPostalAddress) return PutAddress(attribute, octets, type.oid);
     const StringChoice choice = ChooseString(octets, type.syntax, options_.strings);
     if (choice.reason != ORTHOLAN_REASON_NONE) {
       return RefuseValue(choice.reason, attribute, choice.offset, choice.identifier);
     }
     name_.EndAttribute(choice.identifier, type.oid);
+    return true;
+  }
+
+  bool PutAddress(const TextAttribute& attribute, ByteView text, ByteView type) {
+    std::string element;
+    const StringChoice address = ReadPostalAddress(text, options_.strings, &element);
+    if (address.reason != ORTHOLAN_REASON_NONE) {
+      return RefuseValue(address.reason, attribute, address.offset);
+    }
+    name_.ReplaceValue(AsBytes(element.data(), element.size()));
+    name_.EndAttribute(type);
     return true;
   }
 

@@ -52,7 +52,9 @@ enum {
   ORTHOLAN_REASON_TEXT_NO_STRING = 94,
   // A name for a type that no text could have: not a letter followed by letters, digits and
   // hyphens.
-  ORTHOLAN_REASON_TYPE_NAME = 95
+  ORTHOLAN_REASON_TYPE_NAME = 95,
+  // A line of a postal address that is empty, or a backslash in one without 24 or 5C behind it.
+  ORTHOLAN_REASON_TEXT_LINE = 96
 };
 
 // A name that was read and found in order.
