@@ -62,6 +62,8 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_TEXT_BEHIND_QUOTE, "text stands behind the closing quote of a value"},
     {ORTHOLAN_REASON_TEXT_ALPHABET, "the attribute's string type does not have this character"},
     {ORTHOLAN_REASON_TEXT_NO_STRING, "values of this type are no strings"},
+    {ORTHOLAN_REASON_TEXT_LINE,
+     "a line of a postal address is empty, or a backslash in it has neither 24 nor 5C behind it"},
     {ORTHOLAN_REASON_TYPE_NAME, "no text could have this name for a type"},
     {ORTHOLAN_REASON_DUPLICATE_EXTENSION, "the same extension stands there twice"},
     {ORTHOLAN_REASON_PEM_END, "a PEM block has to end with its own line and holds base64 alone"},

@@ -100,6 +100,7 @@ constexpr Row kRows[] = {
     ROW(TEXT_BEHIND_QUOTE),
     ROW(TEXT_ALPHABET),
     ROW(TEXT_NO_STRING),
+    ROW(TEXT_LINE),
     ROW(TYPE_NAME),
 };
 #undef ROW
