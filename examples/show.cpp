@@ -1,41 +1,22 @@
 // show: certificates, requests and revocation lists with their names and extensions.
 
-#include <ortholan/status.h>
-
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "examples/commands.h"
-#include "examples/document.h"
 #include "examples/document_file.h"
 #include "examples/failure.h"
 #include "examples/general_names.h"
 #include "examples/input.h"
 #include "examples/progress.h"
 #include "examples/show_json.h"
-#include "examples/show_text.h"
+#include "examples/shown.h"
 #include "examples/text.h"
 
 namespace Example {
 
-using namespace Ortholan;
-
 namespace {
-
-// Prints what it is given and remembers whether all of it was in order.
-// What stopped `work`; empty where nothing did. One document never hides the others.
-template <typename Work>
-std::string FaultOf(Work work) {
-  try {
-    work();
-    return {};
-  } catch (const Failure& failure) {
-    return Describe(failure);
-  } catch (const XZEPStatus& failure) {
-    return Describe({ASNTStatusToWinError(failure.GetStatus()), "the data cannot be read"});
-  }
-}
 
 // Prints what it is given and remembers whether all of it was in order.
 class Printer {
@@ -54,7 +35,7 @@ class Printer {
   bool IsSound() const { return isSound_; }
 
  private:
-  void ShowDocument(std::size_t number, std::string_view der);
+  void ShowOne(std::size_t number, std::string_view der);
   void Item(const std::string& text);
   // `number` is 0 where the file itself is at fault.
   void Fault(std::size_t number, const std::string& what);
@@ -90,10 +71,11 @@ void Printer::Refuse(std::size_t number, const std::string& what) {
   Fault(number, what);
 }
 
-void Printer::ShowDocument(std::size_t number, std::string_view der) {
-  const Document document = ReadDocument(der);
-  Item(isJson_ ? DocumentJson(path_, number, document) : DocumentText(number, document));
-  for (const std::string& fault : document.faults) Fault(number, fault);
+void Printer::ShowOne(std::size_t number, std::string_view der) {
+  const Shown shown =
+      ShowDocument({path_, number, der}, isJson_ ? ShowForm::kJson : ShowForm::kText);
+  if (!shown.output.empty()) Item(shown.output);
+  for (const std::string& fault : shown.faults) Fault(number, fault);
 }
 
 void Printer::ShowFile(const std::string& path) {
@@ -105,8 +87,7 @@ void Printer::ShowFile(const std::string& path) {
         file,
         [this, &progress](std::size_t number, std::string_view der, std::size_t position) {
           progress.HideForOutput();
-          const std::string fault = FaultOf([&] { ShowDocument(number, der); });
-          if (!fault.empty()) Refuse(number, fault);
+          ShowOne(number, der);
           progress.Show(number, position);
         },
         [this, &progress](std::size_t number, const std::string& what) {
