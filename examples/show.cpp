@@ -1,17 +1,22 @@
 // show: certificates, requests and revocation lists with their names and extensions.
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "examples/commands.h"
+#include "examples/document.h"
 #include "examples/document_file.h"
 #include "examples/failure.h"
 #include "examples/general_names.h"
 #include "examples/input.h"
 #include "examples/progress.h"
 #include "examples/show_json.h"
+#include "examples/show_text.h"
 #include "examples/shown.h"
+#include "examples/stream/item_octets.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -111,6 +116,24 @@ int RunShow(const Arguments& arguments) {
   return printer.IsSound() ? 0 : 1;
 }
 
+// All of it in one line: a tab for a line end, which no value has, as it would be shown escaped.
+std::string Joined(std::string text, const std::vector<std::string>& faults) {
+  for (const std::string& fault : faults) text += "  cannot be read: " + Visible(fault) + "\n";
+  text.pop_back();
+  std::replace(text.begin(), text.end(), '\n', '\t');
+  return text;
+}
+
+ItemWork ShowLines(const Arguments& arguments) {
+  SetLibraryText(arguments.Has("--library-text"));
+  return [octets = std::string()](const Item& item, Answers& answers) mutable {
+    const ortholan_octets der = OctetsOf(item, octets);
+    const Document document = ReadDocument({reinterpret_cast<const char*>(der.data), der.size});
+    answers.AddLine(answers.IsJson() ? DocumentJson({}, 0, document)
+                                     : Joined(DocumentText(0, document), document.faults));
+  };
+}
+
 }  // namespace
 
 const Command kShowCommand = {
@@ -125,7 +148,9 @@ const Command kShowCommand = {
     "anything between them, or in DER. Names are shown as text and as a tree; what cannot be read\n"
     "is told on standard error, and the others follow.\n",
     "x509name show server.pem\n"
-    "x509name show --json bundle.pem | jq -r '.[].subject.text'\n",
-    {kJsonOption, {"--library-text", nullptr, "the library's own text of each general name, too"}}};
+    "x509name show --json bundle.pem | jq -r '.[].subject.text'\n"
+    "x509name show --json --lines --jobs 2 log.pem | jq -r .sha256\n",
+    {kJsonOption, {"--library-text", nullptr, "the library's own text of each general name, too"}},
+    {ShowLines, true}};
 
 }  // namespace Example

@@ -60,7 +60,7 @@ std::size_t WholeElements(std::string_view data) {
   std::size_t whole = 0;
   for (;;) {
     const std::size_t size = SequenceSize(data.substr(whole));
-    if (size == kNoElement) return data.size();
+    if (size == kNoElement && whole == 0) return kNowhere;
     if (size == 0 || size > data.size() - whole) return whole;
     whole += size;
   }
@@ -115,15 +115,20 @@ std::size_t WholeItems(Framing framing, std::string_view data) {
 bool TakeItem(Framing framing, std::string_view& rest, std::string_view* item) {
   if (framing == Framing::kPem) return TakeBlock(rest, item);
   if (rest.empty()) return false;
-  *item = framing == Framing::kLines ? TakeWholeLine(rest) : Cut(rest, SequenceSize(rest));
+  if (framing == Framing::kLines) {
+    *item = TakeWholeLine(rest);
+  } else {
+    const std::size_t size = SequenceSize(rest);
+    *item = Cut(rest, size == 0 ? kNoElement : size);
+  }
   return true;
 }
 
 std::size_t RestOfItem(Framing framing, std::string_view data) {
-  if (framing == Framing::kDer) return data.size();
-  if (framing == Framing::kLines) return BehindLine(data, 0);
-  const std::size_t next = FindLine(data, kPemBegin, 0);
-  return next == kNowhere ? data.size() : next;
+  if (framing == Framing::kDer) return kNowhere;
+  if (framing == Framing::kPem) return FindLine(data, kPemBegin, 0);
+  const std::size_t end = data.find('\n');
+  return end == kNowhere ? end : end + 1;
 }
 
 }  // namespace Example

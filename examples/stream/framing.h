@@ -19,15 +19,15 @@ enum class Framing { kLines, kPem, kDer };
 // By the first octets of a file of certificates.
 Framing RecogniseFraming(std::string_view start);
 
-// Octets of `data`, which begins with an item, up to behind the last one that is whole. Behind what
-// is no DER no other element can be found: that counts up to the end, with it.
+// Octets of `data`, which begins with an item, up to behind the last one that is whole; npos where
+// it begins with what is no DER, so that nothing tells where the next item is.
 std::size_t WholeItems(Framing framing, std::string_view data);
 
 // Cuts the first item from whole ones; false where there is none left.
 bool TakeItem(Framing framing, std::string_view& rest, std::string_view* item);
 
-// Octets of `data`, the rest of an item that is too long, up to where the next one may begin; all
-// of them where it is not in it.
+// Octets of `data`, the rest of an item that is too long, up to where the next one may begin; npos
+// where that is not in it.
 std::size_t RestOfItem(Framing framing, std::string_view data);
 
 }  // namespace Example
