@@ -126,9 +126,13 @@ std::string Joined(std::string text, const std::vector<std::string>& faults) {
 
 ItemWork ShowLines(const Arguments& arguments) {
   SetLibraryText(arguments.Has("--library-text"));
-  return [octets = std::string()](const Item& item, Answers& answers) mutable {
-    const ortholan_octets der = OctetsOf(item, octets);
-    const Document document = ReadDocument({reinterpret_cast<const char*>(der.data), der.size});
+  return [buffer = std::string()](const Item& item, Answers& answers) mutable {
+    const ortholan_octets octets = OctetsOf(item, buffer);
+    const std::string_view der(reinterpret_cast<const char*>(octets.data), octets.size);
+    if (KindOf(der) == Kind::kPkcs7) {
+      Refuse("this is a PKCS #7 bundle, which show opens without --lines");
+    }
+    const Document document = ReadDocument(der);
     answers.AddLine(answers.IsJson() ? DocumentJson({}, 0, document)
                                      : Joined(DocumentText(0, document), document.faults));
   };

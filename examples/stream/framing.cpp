@@ -29,14 +29,15 @@ std::size_t FindLine(std::string_view data, std::string_view start, std::size_t 
   return place;
 }
 
-std::size_t WholeBlocks(std::string_view data) {
+// No line that ends a block is longer.
+constexpr std::size_t kMostLine = 256;
+
+std::size_t WholeBlocks(std::string_view data, std::size_t seen) {
   data = data.substr(0, BehindLastLine(data));
-  std::size_t place = data.rfind(kPemEnd);
-  while (place != kNowhere && place != 0 && !BeginsLine(data, place)) {
-    place = data.rfind(kPemEnd, place - 1);
-  }
-  if (place != kNowhere) return BehindLine(data, place);
-  return HasPemBlock(data) ? 0 : data.size();
+  std::size_t whole = 0;
+  std::size_t place = FindLine(data, kPemEnd, seen < kMostLine ? 0 : seen - kMostLine);
+  for (; place != kNowhere; place = FindLine(data, kPemEnd, whole)) whole = BehindLine(data, place);
+  return whole != 0 || HasPemBlock(data) ? whole : data.size();
 }
 
 constexpr std::size_t kNoElement = std::numeric_limits<std::size_t>::max();
@@ -100,16 +101,11 @@ Framing RecogniseFraming(std::string_view start) {
   return HasPemBlock(start) ? Framing::kPem : Framing::kLines;
 }
 
-std::size_t WholeItems(Framing framing, std::string_view data) {
-  switch (framing) {
-    case Framing::kPem:
-      return WholeBlocks(data);
-    case Framing::kDer:
-      return WholeElements(data);
-    case Framing::kLines:
-      break;
-  }
-  return BehindLastLine(data);
+std::size_t WholeItems(Framing framing, std::string_view data, std::size_t seen) {
+  if (framing == Framing::kPem) return WholeBlocks(data, seen);
+  if (framing == Framing::kDer) return WholeElements(data);
+  const std::size_t line = BehindLastLine(data.substr(seen));
+  return line == 0 ? 0 : seen + line;
 }
 
 bool TakeItem(Framing framing, std::string_view& rest, std::string_view* item) {

@@ -20,8 +20,9 @@ enum class Framing { kLines, kPem, kDer };
 Framing RecogniseFraming(std::string_view start);
 
 // Octets of `data`, which begins with an item, up to behind the last one that is whole; npos where
-// it begins with what is no DER, so that nothing tells where the next item is.
-std::size_t WholeItems(Framing framing, std::string_view data);
+// it begins with what is no DER, so that nothing tells where the next item is. Of the first `seen`
+// octets it is known that they are not whole.
+std::size_t WholeItems(Framing framing, std::string_view data, std::size_t seen);
 
 // Cuts the first item from whole ones; false where there is none left.
 bool TakeItem(Framing framing, std::string_view& rest, std::string_view* item);

@@ -116,9 +116,11 @@ void SplitColumns(const Item& item, std::string_view* columns, std::size_t count
   for (std::string_view column; TakeColumn(rest, &column); ++found) {
     if (found < count) columns[found] = column;
   }
-  if (found == count && item.framing == Framing::kLines) return;
-  Refuse(std::to_string(found) + " columns, separated by tabs, where " + std::to_string(count) +
-         " are wanted");
+  if (item.framing != Framing::kLines) Refuse("columns are wanted, and this is one certificate");
+  if (found != count) {
+    Refuse(std::to_string(count) + " columns are wanted, separated by tabs; there is " +
+           std::to_string(found));
+  }
 }
 
 }  // namespace Example

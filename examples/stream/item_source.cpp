@@ -15,10 +15,11 @@ bool ItemSource::Read(const std::string& where, Batch& batch) {
   left_.clear();
   for (;;) {
     if (!file_ && !Open(where)) return false;
+    const std::size_t seen = batch.octets.size();
     const bool at_end = ReadBlock(where, batch.octets) == 0;
     if (at_end) file_.reset();
     if (is_skipping_ && !Skip(batch.octets)) continue;
-    if (Cut(at_end, batch)) return true;
+    if (Cut(at_end, seen, batch)) return true;
   }
 }
 
@@ -64,12 +65,12 @@ bool ItemSource::Skip(std::string& octets) {
 }
 
 // Takes what is whole into the batch; false where there is nothing yet.
-bool ItemSource::Cut(bool at_end, Batch& batch) {
+bool ItemSource::Cut(bool at_end, std::size_t seen, Batch& batch) {
   const std::string_view data = batch.octets;
   if (data.size() < 2 && !at_end) return false;
   if (!framing_) framing_ = takes_documents_ ? RecogniseFraming(data) : Framing::kLines;
 
-  std::size_t whole = at_end ? data.size() : WholeItems(*framing_, data);
+  std::size_t whole = at_end ? data.size() : WholeItems(*framing_, data, seen);
   batch.is_too_long = whole == 0 && data.size() > kMostItemOctets;
   is_skipping_ = batch.is_too_long || whole == std::string_view::npos;
   if (is_skipping_) whole = data.size();

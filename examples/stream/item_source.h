@@ -56,7 +56,7 @@ class ItemSource {
   bool Open(const std::string& where);
   std::size_t ReadBlock(const std::string& where, std::string& octets);
   bool Skip(std::string& octets);
-  bool Cut(bool at_end, Batch& batch);
+  bool Cut(bool at_end, std::size_t seen, Batch& batch);
 
   std::vector<std::string> paths_;
   bool takes_documents_;
