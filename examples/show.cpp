@@ -1,10 +1,10 @@
 // show: certificates, requests and revocation lists with their names and extensions.
 
-#include <ortholan/status.h>
-
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "examples/commands.h"
 #include "examples/document.h"
@@ -15,27 +15,13 @@
 #include "examples/progress.h"
 #include "examples/show_json.h"
 #include "examples/show_text.h"
+#include "examples/shown.h"
+#include "examples/stream/item_octets.h"
 #include "examples/text.h"
 
 namespace Example {
 
-using namespace Ortholan;
-
 namespace {
-
-// Prints what it is given and remembers whether all of it was in order.
-// What stopped `work`; empty where nothing did. One document never hides the others.
-template <typename Work>
-std::string FaultOf(Work work) {
-  try {
-    work();
-    return {};
-  } catch (const Failure& failure) {
-    return Describe(failure);
-  } catch (const XZEPStatus& failure) {
-    return Describe({ASNTStatusToWinError(failure.GetStatus()), "the data cannot be read"});
-  }
-}
 
 // Prints what it is given and remembers whether all of it was in order.
 class Printer {
@@ -54,7 +40,7 @@ class Printer {
   bool IsSound() const { return isSound_; }
 
  private:
-  void ShowDocument(std::size_t number, std::string_view der);
+  void ShowOne(std::size_t number, std::string_view der);
   void Item(const std::string& text);
   // `number` is 0 where the file itself is at fault.
   void Fault(std::size_t number, const std::string& what);
@@ -90,10 +76,11 @@ void Printer::Refuse(std::size_t number, const std::string& what) {
   Fault(number, what);
 }
 
-void Printer::ShowDocument(std::size_t number, std::string_view der) {
-  const Document document = ReadDocument(der);
-  Item(isJson_ ? DocumentJson(path_, number, document) : DocumentText(number, document));
-  for (const std::string& fault : document.faults) Fault(number, fault);
+void Printer::ShowOne(std::size_t number, std::string_view der) {
+  const Shown shown =
+      ShowDocument({path_, number, der}, isJson_ ? ShowForm::kJson : ShowForm::kText);
+  if (!shown.output.empty()) Item(shown.output);
+  for (const std::string& fault : shown.faults) Fault(number, fault);
 }
 
 void Printer::ShowFile(const std::string& path) {
@@ -105,8 +92,7 @@ void Printer::ShowFile(const std::string& path) {
         file,
         [this, &progress](std::size_t number, std::string_view der, std::size_t position) {
           progress.HideForOutput();
-          const std::string fault = FaultOf([&] { ShowDocument(number, der); });
-          if (!fault.empty()) Refuse(number, fault);
+          ShowOne(number, der);
           progress.Show(number, position);
         },
         [this, &progress](std::size_t number, const std::string& what) {
@@ -130,6 +116,28 @@ int RunShow(const Arguments& arguments) {
   return printer.IsSound() ? 0 : 1;
 }
 
+// All of it in one line: a tab for a line end, which no value has, as it would be shown escaped.
+std::string Joined(std::string text, const std::vector<std::string>& faults) {
+  for (const std::string& fault : faults) text += "  cannot be read: " + Visible(fault) + "\n";
+  text.pop_back();
+  std::replace(text.begin(), text.end(), '\n', '\t');
+  return text;
+}
+
+ItemWork ShowLines(const Arguments& arguments) {
+  SetLibraryText(arguments.Has("--library-text"));
+  return [buffer = std::string()](const Item& item, Answers& answers) mutable {
+    const ortholan_octets octets = OctetsOf(item, buffer);
+    const std::string_view der(reinterpret_cast<const char*>(octets.data), octets.size);
+    if (KindOf(der) == Kind::kPkcs7) {
+      Refuse("this is a PKCS #7 bundle, which show opens without --lines");
+    }
+    const Document document = ReadDocument(der);
+    answers.AddLine(answers.IsJson() ? DocumentJson({}, 0, document)
+                                     : Joined(DocumentText(0, document), document.faults));
+  };
+}
+
 }  // namespace
 
 const Command kShowCommand = {
@@ -144,7 +152,9 @@ const Command kShowCommand = {
     "anything between them, or in DER. Names are shown as text and as a tree; what cannot be read\n"
     "is told on standard error, and the others follow.\n",
     "x509name show server.pem\n"
-    "x509name show --json bundle.pem | jq -r '.[].subject.text'\n",
-    {kJsonOption, {"--library-text", nullptr, "the library's own text of each general name, too"}}};
+    "x509name show --json bundle.pem | jq -r '.[].subject.text'\n"
+    "x509name show --json --lines --jobs 2 log.pem | jq -r .sha256\n",
+    {kJsonOption, {"--library-text", nullptr, "the library's own text of each general name, too"}},
+    {ShowLines, true}};
 
 }  // namespace Example

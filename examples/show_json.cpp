@@ -69,7 +69,7 @@ std::string FaultJson(const std::string& what) { return JsonObject().AddText("wh
 
 JsonObject Place(const std::string& path, std::size_t number) {
   JsonObject object;
-  object.AddText("file", path);
+  if (!path.empty()) object.AddText("file", path);
   if (number != 0) object.AddNumber("number", number);
   return object;
 }

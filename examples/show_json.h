@@ -11,6 +11,7 @@ namespace Example {
 
 std::string ValueJson(const Value& value);
 
+// Without a path or with number 0 there is no such member.
 std::string DocumentJson(const std::string& path, std::size_t number, const Document& document);
 
 // What takes the place of a document that cannot be read, and of a file, with number 0.

@@ -158,18 +158,19 @@ std::string ExtensionText(const ExtensionReading& extension, const std::string& 
 const char* Title(Kind kind) {
   switch (kind) {
     case Kind::kRequest:
-      return "certificate request ";
+      return "certificate request";
     case Kind::kRevocationList:
-      return "certificate revocation list ";
+      return "certificate revocation list";
     default:
-      return "certificate ";
+      return "certificate";
   }
 }
 
 }  // namespace
 
 std::string DocumentText(std::size_t number, const Document& document) {
-  std::string text = Paint(Colour::kHeading, Title(document.kind) + std::to_string(number)) + "\n";
+  const std::string place = number == 0 ? "" : " " + std::to_string(number);
+  std::string text = Paint(Colour::kHeading, Title(document.kind) + place) + "\n";
   for (const Fact& fact : document.facts) {
     text += "  " + Paint(Colour::kHeading, fact.label) + ": " + InlineText(fact.value) + "\n";
   }

@@ -9,7 +9,7 @@
 
 namespace Example {
 
-// `number` is the document's in its file, from 1.
+// `number` is the document's in its file, from 1; 0 for one that has none.
 std::string DocumentText(std::size_t number, const Document& document);
 
 }  // namespace Example
