@@ -9,7 +9,8 @@
 
 namespace Example {
 
-std::string ValueJson(const Value& value);
+std::string NameJson(const NameReading& name);
+std::string ExtensionJson(const ExtensionReading& extension);
 
 std::string DocumentJson(const std::string& path, std::size_t number, const Document& document);
 
