@@ -27,6 +27,7 @@ struct ExtensionReading {
 
   // Whether something that is known cannot be read, or not all of it.
   bool IsFaulty() const { return title != nullptr && json.empty(); }
+  bool HasLibraryText() const { return !names.empty() && !names[0].libraryText.empty(); }
 };
 
 constexpr std::size_t kExtensionIndent = 6;

@@ -52,9 +52,11 @@ std::string GeneralNameJson(const GeneralNameReading& name) {
 
 std::string FaultJson(const std::string& what) { return JsonObject().AddText("what", what).End(); }
 
-JsonObject Place(const std::string& path, std::size_t number) {
+}  // namespace
+
+JsonObject JsonPlace(const std::string& path, std::size_t number) {
   JsonObject object;
-  object.AddText("file", path);
+  if (!path.empty()) object.AddText("file", path);
   if (number != 0) object.AddNumber("number", number);
   return object;
 }
@@ -69,8 +71,6 @@ const char* KindWord(Kind kind) {
       return "certificate";
   }
 }
-
-}  // namespace
 
 std::string NameJson(const NameReading& name) {
   JsonObject object;
@@ -99,7 +99,7 @@ std::string ExtensionJson(const ExtensionReading& extension) {
 }
 
 std::string DocumentJson(const std::string& path, std::size_t number, const Document& document) {
-  JsonObject object = Place(path, number);
+  JsonObject object = JsonPlace(path, number);
   object.AddText("kind", std::string(KindWord(document.kind)));
   for (const Fact& fact : document.facts) {
     object.Add(fact.member, fact.isNumber ? fact.text : JsonString(fact.text));
@@ -112,7 +112,7 @@ std::string DocumentJson(const std::string& path, std::size_t number, const Docu
 }
 
 std::string RefusedJson(const std::string& path, std::size_t number, const std::string& what) {
-  return Place(path, number).Add("faults", JsonArray({FaultJson(what)})).End();
+  return JsonPlace(path, number).Add("faults", JsonArray({FaultJson(what)})).End();
 }
 
 }  // namespace Example

@@ -6,8 +6,14 @@
 #include <string>
 
 #include "examples/document.h"
+#include "examples/json.h"
 
 namespace Example {
+
+// "certificateRequest"
+const char* KindWord(Kind kind);
+// An object that begins with file and number; without them where they are empty and 0.
+JsonObject JsonPlace(const std::string& path, std::size_t number);
 
 std::string NameJson(const NameReading& name);
 std::string ExtensionJson(const ExtensionReading& extension);

@@ -78,7 +78,8 @@ std::string GeneralNameText(const GeneralNameReading& name, const std::string& i
 // What stands behind the title: a value of one word or list on its line, others below it.
 std::string ContentText(const ExtensionReading& extension, const std::string& indent) {
   const std::string& lines = extension.lines;
-  if (!extension.names.empty()) {
+  const bool isByNames = lines.empty() || extension.HasLibraryText();
+  if (isByNames && !extension.names.empty()) {
     std::string text = "\n";
     for (const GeneralNameReading& each : extension.names) text += GeneralNameText(each, indent);
     return text;
@@ -101,21 +102,17 @@ std::string ExtensionText(const ExtensionReading& extension, const std::string& 
   return line + ContentText(extension, below) + RefusalLine(extension.refusal, below);
 }
 
-const char* Title(Kind kind) {
-  switch (kind) {
-    case Kind::kRequest:
-      return "certificate request ";
-    case Kind::kRevocationList:
-      return "certificate revocation list ";
-    default:
-      return "certificate ";
-  }
-}
-
 }  // namespace
 
+std::string DocumentTitle(Kind kind, std::size_t number) {
+  std::string title = "certificate";
+  if (kind == Kind::kRequest) title = "certificate request";
+  if (kind == Kind::kRevocationList) title = "certificate revocation list";
+  return title + (number != 0 ? " " + std::to_string(number) : "");
+}
+
 std::string DocumentText(std::size_t number, const Document& document) {
-  std::string text = Paint(Colour::kHeading, Title(document.kind) + std::to_string(number)) + "\n";
+  std::string text = Paint(Colour::kHeading, DocumentTitle(document.kind, number)) + "\n";
   for (const Fact& fact : document.facts) {
     text += "  " + Paint(Colour::kHeading, fact.label) + ": " + Visible(fact.text) + "\n";
   }

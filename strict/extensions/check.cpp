@@ -30,7 +30,7 @@ uint32_t VersionOf(ByteView der, CertificateKind kind) {
 uint32_t BitsOf(ByteView bit_string) {
   uint32_t bits = 0;
   for (size_t i = 1; i < bit_string.size && i <= 2; ++i) {
-    for (int bit = 0; bit < 8; ++bit) {
+    for (size_t bit = 0; bit < 8; ++bit) {
       if ((bit_string[i] >> (7 - bit) & 1) != 0) bits |= 1u << ((i - 1) * 8 + bit);
     }
   }
