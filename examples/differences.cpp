@@ -38,7 +38,10 @@ Lines LinesOf(const ExtensionReading& extension) {
   if (extension.lines.empty()) return {Hex(extension.value)};
   Lines lines;
   std::string_view rest = extension.lines;
-  while (!rest.empty()) lines.emplace_back(TakeLine(rest).substr(kExtensionIndent));
+  while (!rest.empty()) {
+    const std::string_view line = TakeLine(rest);
+    lines.emplace_back(line.substr(std::min(line.size(), kExtensionIndent)));
+  }
   return lines;
 }
 
