@@ -23,7 +23,7 @@ int Finish(const ortholan::Match& match) {
   Refuse((is_known ? "" : "cannot tell: ") + match.Sentence());
 }
 
-int RunEqual(const Arguments& arguments) {
+int RunStrictEqual(const Arguments& arguments) {
   const IdentObj first = ReadElement(arguments.operands[0], Kind::kName);
   const IdentObj second = ReadElement(arguments.operands[1], Kind::kName);
   const bool any_order = arguments.Has(kAnyOrderOption.name);
@@ -50,7 +50,7 @@ int RunKey(const Arguments& arguments) {
 
 const Option kEqualRfc5280Option = {
     "--rfc5280", nullptr, "as RFC 5280 has it: in order, letter case and blanks do not count",
-    RunEqual};
+    RunStrictEqual};
 const Option kAnyOrderOption = {"--any-order", nullptr, "with --rfc5280: RDNs in any order"};
 
 void RequireRfc5280(const Arguments& arguments) {
