@@ -49,6 +49,10 @@ std::string_view View(const IdentObj& octets) {
   return {reinterpret_cast<const char*>(octets.pbData), octets.cbData};
 }
 
+std::string_view View(ortholan::Octets octets) {
+  return {reinterpret_cast<const char*>(octets.data()), octets.size()};
+}
+
 IdentObj Copy(std::string_view octets) {
   return {octets.data(), static_cast<DWORD>(octets.size())};
 }

@@ -1,6 +1,6 @@
-// Encodings told apart where they stand (ITU-T X.690), as generously as the library's classes do it,
-// with definite and indefinite lengths alike: views into octets of somebody else's. What is inside
-// is read by the strict layer.
+// Encodings told apart where they stand (ITU-T X.690), as generously as the library's classes do
+// it, with definite and indefinite lengths alike: views into octets of somebody else's. What is
+// inside is read by the strict layer.
 //
 //   std::string_view rest = octets;
 //   for (Der each; TakeElement(rest, each);) Use(each.content);
@@ -11,6 +11,7 @@
 #include <ortholan/ident_obj.h>
 
 #include <cstddef>
+#include <ortholan/strict/base.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,6 +49,7 @@ std::vector<Der> Elements(std::string_view content, bool* isWhole = nullptr);
 Der OnlyElement(std::string_view octets);
 
 std::string_view View(const Ortholan::IdentObj& octets);
+std::string_view View(ortholan::Octets octets);
 Ortholan::IdentObj Copy(std::string_view octets);
 
 }  // namespace Example

@@ -82,9 +82,8 @@ void PartOrOctets(const Lines& first, const Lines& second, std::string_view firs
 void CompareNames(const Document& first, const Document& second, std::vector<Difference>& found) {
   for (const NameReading& name : first.names) {
     const auto other = std::find_if(
-        second.names.begin(), second.names.end(), [&name](const NameReading& each) {
-          return std::string_view(each.role) == name.role;
-        });
+        second.names.begin(), second.names.end(),
+        [&name](const NameReading& each) { return std::string_view(each.role) == name.role; });
     if (other == second.names.end() || other->octets == name.octets) continue;
     Difference difference;
     difference.title = name.role;
@@ -97,11 +96,11 @@ void CompareNames(const Document& first, const Document& second, std::vector<Dif
 
 // The extensions of both sides by identifier, and by number where one stands there several times,
 // in the order of the first side, then of the second.
-struct Pair {
+struct SamePair {
   const ExtensionReading* sides[2] = {};
 };
-std::vector<Pair> PairsOf(const Document& first, const Document& second) {
-  std::vector<Pair> pairs;
+std::vector<SamePair> PairsOf(const Document& first, const Document& second) {
+  std::vector<SamePair> pairs;
   std::map<std::pair<std::string_view, std::size_t>, std::size_t> places;
   const Document* const documents[] = {&first, &second};
   for (std::size_t side = 0; side < 2; ++side) {
@@ -123,7 +122,7 @@ std::string TitleOf(const ExtensionReading& extension) {
 
 void CompareExtensions(const Document& first, const Document& second,
                        std::vector<Difference>& found) {
-  for (const Pair& pair : PairsOf(first, second)) {
+  for (const SamePair& pair : PairsOf(first, second)) {
     const ExtensionReading* const a = pair.sides[0];
     const ExtensionReading* const b = pair.sides[1];
     if (a != nullptr && b != nullptr && a->record == b->record) continue;
@@ -131,7 +130,8 @@ void CompareExtensions(const Document& first, const Document& second,
     difference.title = TitleOf(a != nullptr ? *a : *b);
     difference.extensions[0] = a;
     difference.extensions[1] = b;
-    PartOrOctets(a != nullptr ? WithCritical(*a) : Lines(), b != nullptr ? WithCritical(*b) : Lines(),
+    PartOrOctets(a != nullptr ? WithCritical(*a) : Lines(),
+                 b != nullptr ? WithCritical(*b) : Lines(),
                  a != nullptr ? a->record : std::string_view(),
                  b != nullptr ? b->record : std::string_view(), difference);
     found.push_back(difference);

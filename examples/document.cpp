@@ -15,10 +15,6 @@ namespace {
 
 using ortholan::Refusal;
 
-std::string_view View(ortholan_octets octets) {
-  return {reinterpret_cast<const char*>(octets.data), octets.size};
-}
-
 // The parts that are shown, empty where there are none.
 struct Parts {
   std::string_view serialNumber;  // content

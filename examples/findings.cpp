@@ -6,6 +6,7 @@
 #include <ortholan/strict.hpp>
 
 #include "examples/colour.h"
+#include "examples/der.h"
 #include "examples/document.h"
 #include "examples/failure.h"
 #include "examples/json.h"
@@ -16,19 +17,16 @@
 namespace Example {
 namespace {
 
-std::string_view View(ortholan_octets octets) {
-  return {reinterpret_cast<const char*>(octets.data), octets.size};
-}
-
 // "DNS:a_b": empty for a part that is no general name.
 std::string TextOf(std::string_view part) {
   constexpr unsigned kContextClass = 0x80;
-  const bool isTagged = !part.empty() && (static_cast<unsigned char>(part[0]) & 0xC0) == kContextClass;
+  const bool isTagged =
+      !part.empty() && (static_cast<unsigned char>(part[0]) & 0xC0) == kContextClass;
   return isTagged ? ortholan::GeneralNameText(part) : std::string();
 }
 
 Finding FindingOf(const ortholan::Fault& fault) {
-  Finding finding = {fault.rule, fault.section,    fault.sentence,    {},
+  Finding finding = {fault.rule, fault.section,    fault.sentence,          {},
                      {},         View(fault.part), TextOf(View(fault.part))};
   if (fault.refusal.reason != ORTHOLAN_REASON_NONE) {
     finding.what += ": " + ortholan::Refusal(fault.refusal).Sentence();

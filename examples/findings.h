@@ -12,11 +12,11 @@
 namespace Example {
 
 struct Finding {
-  std::string rule;     // "path-length-without-authority"
-  std::string section;  // of RFC 5280
-  std::string what;     // one sentence, with the reason of a refusal
-  std::string oid;      // of the extension that it is about; empty where it is about none
-  std::string title;    // what to call the extension
+  std::string rule;       // "path-length-without-authority"
+  std::string section;    // of RFC 5280
+  std::string what;       // one sentence, with the reason of a refusal
+  std::string oid;        // of the extension that it is about; empty where it is about none
+  std::string title;      // what to call the extension
   std::string_view part;  // the octets at fault; empty where something is missing
   std::string text;       // of a part that is a general name, or one attribute
 };

@@ -18,15 +18,17 @@ namespace {
 bool isLibraryTextWanted = false;
 
 // By the numbers of their tags.
-constexpr const char* kKinds[] = {
-    "otherName",     "rfc822Name",   "dNSName",
-    "x400Address",   "directoryName", "ediPartyName",
-    "uniformResourceIdentifier", "iPAddress",    "registeredID",
+constexpr const char* kNameKinds[] = {
+    "otherName",
+    "rfc822Name",
+    "dNSName",
+    "x400Address",
+    "directoryName",
+    "ediPartyName",
+    "uniformResourceIdentifier",
+    "iPAddress",
+    "registeredID",
 };
-
-std::string_view View(ortholan::Octets octets) {
-  return {reinterpret_cast<const char*>(octets.data()), octets.size()};
-}
 
 // What stands behind the kind in the library's text: "DNS:example.org".
 std::string BehindKind(const ortholan::GeneralName& name) {
@@ -71,7 +73,7 @@ GeneralNameReading ReadGeneralName(std::string_view octets) {
   reading.octets = octets;
   const auto name = ortholan::GeneralName::Read(octets, ortholan::Reading::kLenient);
   if (!name) return reading;
-  reading.kind = kKinds[static_cast<std::size_t>(name->kind())];
+  reading.kind = kNameKinds[static_cast<std::size_t>(name->kind())];
   reading.text = TextOf(*name);
   if (name->kind() == ortholan::NameKind::kOther) AddType(*name, reading);
   if (isLibraryTextWanted) reading.libraryText = LibraryText(octets);

@@ -135,7 +135,8 @@ const Command kShowCommand = {
     "with\n"
     "anything between them, or in DER. Names are shown as text and as a tree; what cannot be read\n"
     "is told on standard error, and the others follow.\n"
-    "--check tells what RFC 5280 forbids in names and extensions, with its section; the exit status\n"
+    "--check tells what RFC 5280 forbids in names and extensions, with its section; the exit "
+    "status\n"
     "is 1 where there is anything. --diff tells what differs between the names and extensions of\n"
     "two documents; the exit status is that of equal.\n",
     "x509name show server.pem\n"

@@ -47,7 +47,7 @@ std::list<Side> ReadSides(const std::vector<std::string>& paths) {
   return sides;
 }
 
-std::string Lines(char mark, const std::vector<std::string>& lines, Colour colour) {
+std::string MarkedLines(char mark, const std::vector<std::string>& lines, Colour colour) {
   std::string text;
   for (const std::string& line : lines) {
     text += Paint(colour, std::string(1, mark) + " " + line) + "\n";
@@ -66,7 +66,7 @@ std::string DiffText(const Side& first, const Side& second, const std::vector<Di
   for (const Difference& each : found) {
     text += Paint(Colour::kHeading, each.title) + ":\n";
     for (const std::string& line : each.common) text += "  " + line + "\n";
-    text += Lines('-', each.removed, Colour::kFault) + Lines('+', each.added, Colour::kNotable);
+    text += MarkedLines('-', each.removed, Colour::kFault) + MarkedLines('+', each.added, Colour::kNotable);
   }
   return text;
 }

@@ -6,8 +6,8 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr OidOctets kKeyUsage("2.5.29.15");
-constexpr OidOctets kBasicConstraints("2.5.29.19");
+constexpr OidOctets kKeyUsageOid("2.5.29.15");
+constexpr OidOctets kBasicConstraintsOid("2.5.29.19");
 
 // [0] EXPLICIT INTEGER of a certificate, a bare one of a CRL; what is not there is version 1.
 uint32_t VersionOf(ByteView der, CertificateKind kind) {
@@ -48,13 +48,13 @@ uint8_t KindBit(CertificateKind kind) {
   }
 }
 
-bool IsAbout(const Rule& rule, const ExtensionView& extension) {
+bool IsAbout(const CheckRule& rule, const ExtensionView& extension) {
   return rule.scope == Scope::kEachExtension ||
          (rule.scope == Scope::kExtension && SameBytes(rule.oid.view(), extension.oid));
 }
 
 // Holds a rule that is about no extension that is there against what it is about.
-void LookOutside(const Rule& rule, Case at) {
+void LookOutside(const CheckRule& rule, CheckCase at) {
   if (rule.scope == Scope::kEncoding || rule.scope == Scope::kDocument) rule.look(at);
   if (rule.scope != Scope::kName) return;
   for (const ByteView name : {at.document.view.subject(), at.document.view.issuer()}) {
@@ -66,9 +66,9 @@ void LookOutside(const Rule& rule, Case at) {
 // Calls `look` for each rule that the document may break.
 template <class Look>
 void ForEachRule(const CheckedDocument& document, Look look) {
-  const Rules rules = AllRules();
+  const CheckRules rules = AllRules();
   for (size_t i = 0; i < rules.count; ++i) {
-    const Rule& rule = rules.first[i];
+    const CheckRule& rule = rules.first[i];
     const bool is_asked = document.is_readable || rule.scope == Scope::kEncoding;
     if (is_asked && (rule.kinds & document.kind) != 0) look(rule);
   }
@@ -82,15 +82,15 @@ CheckedDocument::CheckedDocument(ByteView der) {
   if (!is_readable) return;
   kind = KindBit(view.kind());
   version = VersionOf(der, view.kind());
-  const ExtensionView usage = Find(kKeyUsage.view());
+  const ExtensionView usage = Find(kKeyUsageOid.view());
   has_key_usage = !usage.bytes.empty();
   key_usage = BitsOf(ContentOf(usage.value, kBitString));
-  Reader constraints(ContentOf(Find(kBasicConstraints.view()).value, kSequence), Leniency::kLenient,
-                     nullptr);
+  Reader constraints(ContentOf(Find(kBasicConstraintsOid.view()).value, kSequence),
+                     Leniency::kLenient, nullptr);
   ByteView flag;
   is_authority = constraints.Read(kBoolean, &flag) && flag.size == 1 && flag[0] != 0;
   for (const ExtensionView& extension : view.extensions()) sorted_oids.push_back(extension.oid);
-  std::stable_sort(sorted_oids.begin(), sorted_oids.end(), IsBefore);
+  std::stable_sort(sorted_oids.begin(), sorted_oids.end(), AreOctetsBefore);
 }
 
 ExtensionView CheckedDocument::Find(ByteView oid) const {
@@ -101,10 +101,10 @@ ExtensionView CheckedDocument::Find(ByteView oid) const {
 }
 
 bool CheckedDocument::Has(ByteView oid) const {
-  return std::binary_search(sorted_oids.begin(), sorted_oids.end(), oid, IsBefore);
+  return std::binary_search(sorted_oids.begin(), sorted_oids.end(), oid, AreOctetsBefore);
 }
 
-void Case::Fault(ByteView part, const Refusal& refusal) const {
+void CheckCase::Fault(ByteView part, const Refusal& refusal) const {
   const ByteView oid = extension.oid.empty() ? rule.oid.view() : extension.oid;
   const char* const own = rule.section;
   faults->Add({rule.name,
@@ -117,11 +117,11 @@ void Case::Fault(ByteView part, const Refusal& refusal) const {
 
 bool Check(ByteView der, Faults* faults, Refusal* refusal) {
   const CheckedDocument document(der);
-  ForEachRule(document, [&](const Rule& rule) {
+  ForEachRule(document, [&](const CheckRule& rule) {
     LookOutside(rule, {document, rule, {}, {}, faults});
   });
   for (const ExtensionView& extension : document.view.extensions()) {
-    ForEachRule(document, [&](const Rule& rule) {
+    ForEachRule(document, [&](const CheckRule& rule) {
       if (IsAbout(rule, extension)) rule.look({document, rule, {}, extension, faults});
     });
   }

@@ -1,5 +1,5 @@
-// What RFC 5280 forbids in the names and extensions of a certificate, a request or a CRL: every rule
-// of check_rules.h held against every part that it is about.
+// What RFC 5280 forbids in the names and extensions of a certificate, a request or a CRL: every
+// rule of check_rules.h held against every part that it is about.
 //
 //   Faults faults(room, size);
 //   if (!Check(der, &faults, &refusal)) ...   // none of the three

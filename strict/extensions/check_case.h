@@ -6,17 +6,18 @@
 #include <vector>
 
 #include "strict/certificates/certificate_view.h"
+#include "strict/der/string_value.h"
 #include "strict/extensions/check.h"
 
 namespace Ortholan::strict {
 
-struct Rule;
+struct CheckRule;
 
 // Kinds of documents, added.
 enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
 
 // The order of octets.
-inline bool IsBefore(ByteView a, ByteView b) { return AsText(a) < AsText(b); }
+inline bool AreOctetsBefore(ByteView a, ByteView b) { return AsText(a) < AsText(b); }
 
 // A document and what several rules ask of its extensions.
 struct CheckedDocument {
@@ -33,11 +34,11 @@ struct CheckedDocument {
   bool is_readable = false;
   Refusal refusal;
   uint8_t kind = kCertificates;
-  uint32_t version = 1;  // 0 for one that is none
+  uint32_t version = 1;       // 0 for one that is none
   bool is_authority = false;  // cA of basic constraints
   bool has_key_usage = false;
   uint32_t key_usage = 0;  // bits by their number in RFC 5280 4.2.1.3
-  // Identifiers of all extensions by IsBefore, the same ones as they stand.
+  // Identifiers of all extensions by AreOctetsBefore, the same ones as they stand.
   std::vector<ByteView> sorted_oids;
 };
 
@@ -46,9 +47,9 @@ constexpr int kKeyCertSign = 5;
 constexpr int kCrlSign = 6;
 
 // One rule at one place.
-struct Case {
+struct CheckCase {
   const CheckedDocument& document;
-  const Rule& rule;
+  const CheckRule& rule;
   ByteView name;            // of a name: the whole encoding
   ExtensionView extension;  // of an extension
   Faults* faults;
@@ -70,6 +71,15 @@ void ForEachElement(ByteView content, Visit visit) {
 inline ByteView ContentOf(ByteView der, uint8_t identifier) {
   ByteView content;
   return ReadWhole(der, identifier, Leniency::kLenient, &content, nullptr) ? content : ByteView();
+}
+
+// The characters of a string before a place that is no text; none for another type.
+inline size_t CountCharacters(const Element& value) {
+  size_t count = 0;
+  if (!IsString(value.identifier)) return count;
+  ScalarReader scalars(value.identifier, value.content);
+  for (uint32_t scalar; scalars.Next(&scalar);) ++count;
+  return count;
 }
 
 }  // namespace Ortholan::strict

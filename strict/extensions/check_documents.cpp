@@ -1,4 +1,4 @@
-// Rules about a document as a whole, and about extensions that are missing.
+// CheckRules about a document as a whole, and about extensions that are missing.
 #include "strict/extensions/check_looks.h"
 #include "strict/extensions/check_rules.h"
 #include "strict/general_names/general_name_view.h"
@@ -33,74 +33,74 @@ bool HasMailbox(ByteView names) {
 
 }  // namespace
 
-void Encoding(const Case& at) {
+void Encoding(const CheckCase& at) {
   const Refusal& refusal = at.document.refusal;
   if (!refusal || !at.document.is_readable) return;
   at.Fault(at.document.view.der(), refusal);
 }
 
 // Where there is an empty list, nothing else can be told.
-void EmptyExtensions(const Case& at) {
+void EmptyExtensions(const CheckCase& at) {
   const Refusal& refusal = at.document.refusal;
   if (refusal.reason != ORTHOLAN_REASON_EMPTY || at.document.is_readable) return;
   at.Fault({static_cast<const uint8_t*>(refusal.at), 0});
 }
 
-void Version(const Case& at) {
+void Version(const CheckCase& at) {
   if (at.document.view.extensions().size() != 0 && at.document.version != 3) at.Fault();
 }
 
-void ListVersion(const Case& at) {
+void ListVersion(const CheckCase& at) {
   if (at.document.view.extensions().size() != 0 && at.document.version != 2) at.Fault();
 }
 
-void SerialSign(const Case& at) {
+void SerialSign(const CheckCase& at) {
   const ByteView serial = at.document.view.serial();
   const bool is_zero = serial.size == 1 && serial[0] == 0;
   if (serial.empty() || is_zero || (serial[0] & 0x80) != 0) at.Fault(serial);
 }
 
-void SerialSize(const Case& at) {
+void SerialSize(const CheckCase& at) {
   const ByteView serial = at.document.view.serial();
   if (serial.size > kMaxSerialOctets) at.Fault(serial);
 }
 
-void EmptyIssuer(const Case& at) {
+void EmptyIssuer(const CheckCase& at) {
   const ByteView issuer = at.document.view.issuer();
   if (IsEmpty(issuer)) at.Fault(issuer);
 }
 
-void EmptySubjectOfAuthority(const Case& at) {
+void EmptySubjectOfAuthority(const CheckCase& at) {
   const ByteView subject = at.document.view.subject();
   if (at.document.is_authority && IsEmpty(subject)) at.Fault(subject);
 }
 
-void EmptySubjectOfListIssuer(const Case& at) {
+void EmptySubjectOfListIssuer(const CheckCase& at) {
   const ByteView subject = at.document.view.subject();
   if (at.document.HasUsage(kCrlSign) && IsEmpty(subject)) at.Fault(subject);
 }
 
-void EmptySubjectWithoutNames(const Case& at) {
+void EmptySubjectWithoutNames(const CheckCase& at) {
   const ByteView subject = at.document.view.subject();
   if (IsEmpty(subject) && !at.document.Has(kAlternativeNames.view())) at.Fault(subject);
 }
 
-void EmailOutsideNames(const Case& at) {
+void EmailOutsideNames(const CheckCase& at) {
   const ByteView email = EmailOf(at.document.view.subject());
   if (email.empty() || HasMailbox(at.document.Find(kAlternativeNames.view()).value)) return;
   at.Fault(email);
 }
 
 // Whether a certificate is self-signed takes a key; one that is self-issued may be.
-void MissingAuthorityKeyId(const Case& at) {
+void MissingAuthorityKeyId(const CheckCase& at) {
   if (!at.document.IsSelfIssued()) Missing(at);
 }
 
-void MissingInAuthority(const Case& at) {
+void MissingInAuthority(const CheckCase& at) {
   if (at.document.is_authority) Missing(at);
 }
 
-void Missing(const Case& at) {
+void Missing(const CheckCase& at) {
   if (!at.document.Has(at.rule.oid.view())) at.Fault();
 }
 

@@ -1,4 +1,4 @@
-// Rules about extensions that are there.
+// CheckRules about extensions that are there.
 #include <algorithm>
 #include <vector>
 
@@ -55,7 +55,7 @@ const Profiled* FindProfiled(ByteView oid, uint8_t kind) {
   return nullptr;
 }
 
-Critical CriticalOf(const Case& at) {
+Critical CriticalOf(const CheckCase& at) {
   const Profiled* const row = FindProfiled(at.extension.oid, at.document.kind);
   return row != nullptr ? row->critical : Critical::kEither;
 }
@@ -71,9 +71,9 @@ const char* SectionOf(ByteView oid, uint8_t kind) {
 namespace looks {
 
 // A binary search among all, as a list may be of any length.
-void Twice(const Case& at) {
+void Twice(const CheckCase& at) {
   const std::vector<ByteView>& oids = at.document.sorted_oids;
-  const auto same = std::equal_range(oids.begin(), oids.end(), at.extension.oid, IsBefore);
+  const auto same = std::equal_range(oids.begin(), oids.end(), at.extension.oid, AreOctetsBefore);
   const bool is_first = same.first->data == at.extension.oid.data;
   if (same.second - same.first > 1 && !is_first) at.Fault(at.extension.bytes);
 }
@@ -85,16 +85,16 @@ struct Nobody final : ShapeVisitor {};
 // Lists without elements.
 class EmptyListFinder final : public ShapeVisitor {
  public:
-  explicit EmptyListFinder(const Case& at) : at_(at) {}
+  explicit EmptyListFinder(const CheckCase& at) : at_(at) {}
   void EndList(const Shape&, ByteView content, size_t count) override {
     if (count == 0) at_.Fault({content.data, 0});
   }
 
  private:
-  const Case& at_;
+  const CheckCase& at_;
 };
 
-bool ReadValue(const Case& at, Leniency leniency, ShapeVisitor* visitor, Refusal* refusal) {
+bool ReadValue(const CheckCase& at, Leniency leniency, ShapeVisitor* visitor, Refusal* refusal) {
   const KnownExtension* const known = FindExtension(at.extension.oid);
   return known == nullptr ||
          ReadByShape(*known->shape, at.extension.value, leniency, visitor, refusal);
@@ -102,13 +102,13 @@ bool ReadValue(const Case& at, Leniency leniency, ShapeVisitor* visitor, Refusal
 
 }  // namespace
 
-void ValueEncoding(const Case& at) {
+void ValueEncoding(const CheckCase& at) {
   Nobody nobody;
   Refusal refusal;
   if (!ReadValue(at, Leniency::kDer, &nobody, &refusal)) at.Fault(at.extension.value, refusal);
 }
 
-void EmptyLists(const Case& at) {
+void EmptyLists(const CheckCase& at) {
   Nobody nobody;
   EmptyListFinder finder(at);
   if (ReadValue(at, Leniency::kLenient, &nobody, nullptr)) {
@@ -116,33 +116,33 @@ void EmptyLists(const Case& at) {
   }
 }
 
-void IsCritical(const Case& at) {
+void IsCritical(const CheckCase& at) {
   if (at.extension.critical && CriticalOf(at) == Critical::kNever) at.Fault(at.extension.bytes);
 }
 
-void IsNotCritical(const Case& at) {
+void IsNotCritical(const CheckCase& at) {
   if (!at.extension.critical && CriticalOf(at) == Critical::kAlways) at.Fault(at.extension.bytes);
 }
 
-void EmptySubjectNotCritical(const Case& at) {
+void EmptySubjectNotCritical(const CheckCase& at) {
   const ByteView subject = at.document.view.subject();
   if (!at.extension.critical && ContentOf(subject, kSequence).empty()) {
     at.Fault(at.extension.bytes);
   }
 }
 
-void NoUsage(const Case& at) {
+void NoUsage(const CheckCase& at) {
   if (at.document.key_usage == 0) at.Fault(at.extension.bytes);
 }
 
-void CertSignWithoutAuthority(const Case& at) {
+void CertSignWithoutAuthority(const CheckCase& at) {
   if (at.document.HasUsage(kKeyCertSign) && !at.document.is_authority) {
     at.Fault(at.extension.bytes);
   }
 }
 
 // The key is for certificates unless a key usage says otherwise.
-void AuthorityNotCritical(const Case& at) {
+void AuthorityNotCritical(const CheckCase& at) {
   const CheckedDocument& document = at.document;
   const bool signs = !document.has_key_usage || document.HasUsage(kKeyCertSign);
   if (document.is_authority && signs && !at.extension.critical) at.Fault(at.extension.bytes);
@@ -152,7 +152,7 @@ namespace {
 
 // The value's element itself, or those of a SEQUENCE, with the identifier.
 template <class Visit>
-void ForEachPart(const Case& at, uint8_t identifier, Visit visit) {
+void ForEachPart(const CheckCase& at, uint8_t identifier, Visit visit) {
   const auto see = [&](const Element& element) {
     if (element.identifier == identifier) visit(element);
   };
@@ -168,21 +168,21 @@ bool HasPart(ByteView content, uint8_t identifier) {
   return has;
 }
 
-ByteView ListOf(const Case& at) { return ContentOf(at.extension.value, kSequence); }
+ByteView ListOf(const CheckCase& at) { return ContentOf(at.extension.value, kSequence); }
 
-bool HasPathLength(const Case& at) { return HasPart(ListOf(at), kInteger); }
+bool HasPathLength(const CheckCase& at) { return HasPart(ListOf(at), kInteger); }
 
 }  // namespace
 
-void PathLengthWithoutAuthority(const Case& at) {
+void PathLengthWithoutAuthority(const CheckCase& at) {
   if (HasPathLength(at) && !at.document.is_authority) at.Fault(at.extension.bytes);
 }
 
-void PathLengthWithoutCertSign(const Case& at) {
+void PathLengthWithoutCertSign(const CheckCase& at) {
   if (HasPathLength(at) && !at.document.HasUsage(kKeyCertSign)) at.Fault(at.extension.bytes);
 }
 
-void NegativeNumbers(const Case& at) {
+void NegativeNumbers(const CheckCase& at) {
   for (const uint8_t identifier : {uint8_t{kInteger}, Context(0), Context(1)}) {
     ForEachPart(at, identifier, [&at](const Element& number) {
       if (!number.content.empty() && (number.content[0] & 0x80) != 0) at.Fault(number.bytes);
@@ -190,26 +190,26 @@ void NegativeNumbers(const Case& at) {
   }
 }
 
-void NumberSize(const Case& at) {
+void NumberSize(const CheckCase& at) {
   constexpr size_t kMaxOctets = 20;
   const ByteView number = ContentOf(at.extension.value, kInteger);
   if (number.size > kMaxOctets) at.Fault(at.extension.value);
 }
 
-void OutsideAuthority(const Case& at) {
+void OutsideAuthority(const CheckCase& at) {
   if (!at.document.is_authority) at.Fault(at.extension.bytes);
 }
 
-void EmptyStructure(const Case& at) {
+void EmptyStructure(const CheckCase& at) {
   const ByteView value = at.extension.value;
   if (value.size == 2 && value[0] == kSequence && value[1] == 0) at.Fault(value);
 }
 
-void NoKeyId(const Case& at) {
+void NoKeyId(const CheckCase& at) {
   if (!HasPart(ListOf(at), Context(0))) at.Fault(at.extension.value);
 }
 
-void KeyIdHalves(const Case& at) {
+void KeyIdHalves(const CheckCase& at) {
   const ByteView parts = ListOf(at);
   if (HasPart(parts, ContextConstructed(1)) != HasPart(parts, Context(2))) {
     at.Fault(at.extension.value);
@@ -250,28 +250,20 @@ void ForEachText(const Identified& qualifier, Visit visit) {
   });
 }
 
-size_t CharactersOf(const Element& text) {
-  size_t count = 0;
-  ScalarReader scalars(text.identifier, text.content);
-  for (uint32_t scalar; scalars.Next(&scalar);) ++count;
-  return count;
-}
-
 }  // namespace
 
-void PolicyTwice(const Case& at) {
+void PolicyTwice(const CheckCase& at) {
   std::vector<ByteView> oids;
-  ForEachElement(ListOf(at), [&](const Element& policy) {
-    oids.push_back(IdentifiedOf(policy).oid);
-  });
-  std::sort(oids.begin(), oids.end(), IsBefore);
+  ForEachElement(ListOf(at),
+                 [&](const Element& policy) { oids.push_back(IdentifiedOf(policy).oid); });
+  std::sort(oids.begin(), oids.end(), AreOctetsBefore);
   for (size_t i = 1; i < oids.size(); ++i) {
     const bool is_again = i > 1 && SameBytes(oids[i - 2], oids[i]);
     if (SameBytes(oids[i - 1], oids[i]) && !is_again) at.Fault(oids[i]);
   }
 }
 
-void AnyPolicyQualifiers(const Case& at) {
+void AnyPolicyQualifiers(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& element) {
     const Identified policy = IdentifiedOf(element);
     if (!Is(policy.oid, kAnyPolicy)) return;
@@ -282,21 +274,21 @@ void AnyPolicyQualifiers(const Case& at) {
   });
 }
 
-void NoticeSize(const Case& at) {
+void NoticeSize(const CheckCase& at) {
   constexpr size_t kMaxCharacters = 200;
   ForEachElement(ListOf(at), [&at](const Element& policy) {
     ForEachQualifier(IdentifiedOf(policy), [&at](const Element& qualifier) {
       const Identified parts = IdentifiedOf(qualifier);
       if (!Is(parts.oid, kUserNotice)) return;
       ForEachText(parts, [&at](const Element& text) {
-        const size_t count = CharactersOf(text);
+        const size_t count = CountCharacters(text);
         if (count == 0 || count > kMaxCharacters) at.Fault(text.bytes);
       });
     });
   });
 }
 
-void AnyPolicyMapped(const Case& at) {
+void AnyPolicyMapped(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& mapping) {
     bool is_any = false;
     ForEachElement(mapping.content,
@@ -325,24 +317,22 @@ ByteView PartOf(ByteView content, uint8_t identifier) {
 
 }  // namespace
 
-void ReasonsAlone(const Case& at) {
+void ReasonsAlone(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& point) {
-    const bool is_named =
-        HasPart(point.content, kPointName) || HasPart(point.content, kListIssuer);
+    const bool is_named = HasPart(point.content, kPointName) || HasPart(point.content, kListIssuer);
     if (!is_named) at.Fault(point.bytes);
   });
 }
 
-void SomeReasonsOnly(const Case& at) {
+void SomeReasonsOnly(const CheckCase& at) {
   bool is_for_all = false;
   const ByteView points = ListOf(at);
-  ForEachElement(points, [&](const Element& point) {
-    is_for_all |= !HasPart(point.content, kReasons);
-  });
+  ForEachElement(points,
+                 [&](const Element& point) { is_for_all |= !HasPart(point.content, kReasons); });
   if (!points.empty() && !is_for_all) at.Fault(at.extension.value);
 }
 
-void RelativeToSeveral(const Case& at) {
+void RelativeToSeveral(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& point) {
     size_t issuers = 0;
     ForEachElement(PartOf(point.content, kListIssuer), [&issuers](const Element&) { ++issuers; });
@@ -352,7 +342,7 @@ void RelativeToSeveral(const Case& at) {
   });
 }
 
-void ListIssuerForms(const Case& at) {
+void ListIssuerForms(const CheckCase& at) {
   constexpr uint8_t kDirectoryName = ContextConstructed(4);
   ForEachElement(ListOf(at), [&at](const Element& point) {
     ForEachElement(PartOf(point.content, kListIssuer), [&at](const Element& name) {
@@ -361,7 +351,7 @@ void ListIssuerForms(const Case& at) {
   });
 }
 
-void PointsOfFreshest(const Case& at) {
+void PointsOfFreshest(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& point) {
     if (HasPart(point.content, kReasons) || HasPart(point.content, kListIssuer)) {
       at.Fault(point.bytes);
@@ -369,7 +359,7 @@ void PointsOfFreshest(const Case& at) {
   });
 }
 
-void FreshestInDelta(const Case& at) {
+void FreshestInDelta(const CheckCase& at) {
   constexpr OidOctets kDeltaIndicator("2.5.29.27");
   if (at.document.Has(kDeltaIndicator.view())) at.Fault(at.extension.bytes);
 }
@@ -380,14 +370,14 @@ constexpr uint8_t kOnlyUsers = Context(1);
 constexpr uint8_t kOnlyAuthorities = Context(2);
 constexpr uint8_t kOnlyAttributes = Context(5);
 
-bool IsSet(const Case& at, uint8_t flag) {
+bool IsSet(const CheckCase& at, uint8_t flag) {
   const ByteView octets = PartOf(ListOf(at), flag);
   return octets.size == 1 && octets[0] != 0;
 }
 
 }  // namespace
 
-void ScopesOfList(const Case& at) {
+void ScopesOfList(const CheckCase& at) {
   int count = 0;
   for (const uint8_t flag : {kOnlyUsers, kOnlyAuthorities, kOnlyAttributes}) {
     count += IsSet(at, flag) ? 1 : 0;
@@ -395,11 +385,11 @@ void ScopesOfList(const Case& at) {
   if (count > 1) at.Fault(at.extension.value);
 }
 
-void AttributeCertificates(const Case& at) {
+void AttributeCertificates(const CheckCase& at) {
   if (IsSet(at, kOnlyAttributes)) at.Fault(at.extension.value);
 }
 
-void AccessMethodsOfList(const Case& at) {
+void AccessMethodsOfList(const CheckCase& at) {
   constexpr OidOctets kCaIssuers("1.3.6.1.5.5.7.48.2");
   ForEachElement(ListOf(at), [&](const Element& description) {
     if (!Is(IdentifiedOf(description).oid, kCaIssuers)) at.Fault(description.bytes);

@@ -1,4 +1,4 @@
-// Rules about distinguished names and general names.
+// CheckRules about distinguished names and general names.
 #include "strict/der/string_value.h"
 #include "strict/extensions/check_looks.h"
 #include "strict/general_names/general_name_view.h"
@@ -21,26 +21,26 @@ struct Prescribed {
 constexpr uint32_t kUnbounded = 0xFFFFFFFF;
 constexpr uint32_t kName = 32768;
 constexpr Prescribed kPrescribed[] = {
-    {"2.5.4.3", ValueSyntax::kDirectoryString, 1, 64},      // commonName
-    {"2.5.4.4", ValueSyntax::kDirectoryString, 1, kName},   // surname
-    {"2.5.4.5", ValueSyntax::kPrintable, 1, 64},            // serialNumber
-    {"2.5.4.6", ValueSyntax::kPrintable, 2, 2},             // countryName
-    {"2.5.4.7", ValueSyntax::kDirectoryString, 1, 128},     // localityName
-    {"2.5.4.8", ValueSyntax::kDirectoryString, 1, 128},     // stateOrProvinceName
-    {"2.5.4.10", ValueSyntax::kDirectoryString, 1, 64},     // organizationName
-    {"2.5.4.11", ValueSyntax::kDirectoryString, 1, 64},     // organizationalUnitName
-    {"2.5.4.12", ValueSyntax::kDirectoryString, 1, 64},     // title
-    {"2.5.4.41", ValueSyntax::kDirectoryString, 1, kName},  // name
-    {"2.5.4.42", ValueSyntax::kDirectoryString, 1, kName},  // givenName
-    {"2.5.4.43", ValueSyntax::kDirectoryString, 1, kName},  // initials
-    {"2.5.4.44", ValueSyntax::kDirectoryString, 1, kName},  // generationQualifier
-    {"2.5.4.46", ValueSyntax::kPrintable, 0, kUnbounded},   // dnQualifier
-    {"2.5.4.65", ValueSyntax::kDirectoryString, 1, 128},    // pseudonym
+    {"2.5.4.3", ValueSyntax::kDirectoryString, 1, 64},                 // commonName
+    {"2.5.4.4", ValueSyntax::kDirectoryString, 1, kName},              // surname
+    {"2.5.4.5", ValueSyntax::kPrintable, 1, 64},                       // serialNumber
+    {"2.5.4.6", ValueSyntax::kPrintable, 2, 2},                        // countryName
+    {"2.5.4.7", ValueSyntax::kDirectoryString, 1, 128},                // localityName
+    {"2.5.4.8", ValueSyntax::kDirectoryString, 1, 128},                // stateOrProvinceName
+    {"2.5.4.10", ValueSyntax::kDirectoryString, 1, 64},                // organizationName
+    {"2.5.4.11", ValueSyntax::kDirectoryString, 1, 64},                // organizationalUnitName
+    {"2.5.4.12", ValueSyntax::kDirectoryString, 1, 64},                // title
+    {"2.5.4.41", ValueSyntax::kDirectoryString, 1, kName},             // name
+    {"2.5.4.42", ValueSyntax::kDirectoryString, 1, kName},             // givenName
+    {"2.5.4.43", ValueSyntax::kDirectoryString, 1, kName},             // initials
+    {"2.5.4.44", ValueSyntax::kDirectoryString, 1, kName},             // generationQualifier
+    {"2.5.4.46", ValueSyntax::kPrintable, 0, kUnbounded},              // dnQualifier
+    {"2.5.4.65", ValueSyntax::kDirectoryString, 1, 128},               // pseudonym
     {"0.9.2342.19200300.100.1.25", ValueSyntax::kIA5, 0, kUnbounded},  // domainComponent
     {"1.2.840.113549.1.9.1", ValueSyntax::kIA5, 1, 255},               // emailAddress
 };
 
-const Prescribed* Find(ByteView oid) {
+const Prescribed* FindPrescribed(ByteView oid) {
   for (const Prescribed& row : kPrescribed) {
     if (SameBytes(row.oid.view(), oid)) return &row;
   }
@@ -49,11 +49,11 @@ const Prescribed* Find(ByteView oid) {
 
 // Calls `visit` for each attribute that something is prescribed for.
 template <class Visit>
-void ForEachPrescribed(const Case& at, Visit visit) {
+void ForEachPrescribed(const CheckCase& at, Visit visit) {
   NameView name;
   if (!NameView::Read(at.name, Leniency::kLenient, &name, nullptr)) return;
   for (const AttributeView& attribute : name) {
-    if (const Prescribed* const row = Find(attribute.type)) visit(attribute, *row);
+    if (const Prescribed* const row = FindPrescribed(attribute.type)) visit(attribute, *row);
   }
 }
 
@@ -70,36 +70,28 @@ bool IsOfSyntax(uint8_t identifier, ValueSyntax syntax) {
   }
 }
 
-uint32_t CharactersOf(const Element& value) {
-  uint32_t count = 0;
-  if (!IsString(value.identifier)) return count;
-  ScalarReader scalars(value.identifier, value.content);
-  for (uint32_t scalar; scalars.Next(&scalar);) ++count;
-  return count;
-}
-
 }  // namespace
 
-void NameEncoding(const Case& at) {
+void NameEncoding(const CheckCase& at) {
   NameView name;
   Refusal refusal;
   if (!NameView::Read(at.name, Leniency::kDer, &name, &refusal)) at.Fault(at.name, refusal);
 }
 
-void ValueTypes(const Case& at) {
+void ValueTypes(const CheckCase& at) {
   ForEachPrescribed(at, [&at](const AttributeView& attribute, const Prescribed& row) {
     if (!IsOfSyntax(attribute.value.identifier, row.syntax)) at.Fault(attribute.bytes);
   });
 }
 
-void ValueSizes(const Case& at) {
+void ValueSizes(const CheckCase& at) {
   ForEachPrescribed(at, [&at](const AttributeView& attribute, const Prescribed& row) {
-    const uint32_t size = CharactersOf(attribute.value);
+    const size_t size = CountCharacters(attribute.value);
     if (size != 0 && (size < row.least || size > row.most)) at.Fault(attribute.bytes);
   });
 }
 
-void EmptyValues(const Case& at) {
+void EmptyValues(const CheckCase& at) {
   ForEachPrescribed(at, [&at](const AttributeView& attribute, const Prescribed& row) {
     const Element& value = attribute.value;
     if (row.least != 0 && IsString(value.identifier) && value.content.empty()) {
@@ -112,7 +104,7 @@ namespace {
 
 // Calls `visit` for each name of a list of general names.
 template <class Visit>
-void ForEachName(const Case& at, Visit visit) {
+void ForEachName(const CheckCase& at, Visit visit) {
   ForEachElement(ContentOf(at.extension.value, kSequence), [&visit](const Element& element) {
     GeneralNameView name;
     if (GeneralNameView::FromElement(element, &name)) visit(name);
@@ -126,7 +118,7 @@ bool IsOfCharacters(GeneralNameKind kind) {
 
 // Calls `read` for the characters of each name of a kind that has any; a refusal is a fault.
 template <class Read>
-void LookAtCharacters(const Case& at, GeneralNameKind kind, Read read) {
+void LookAtCharacters(const CheckCase& at, GeneralNameKind kind, Read read) {
   ForEachName(at, [&](const GeneralNameView& name) {
     Refusal refusal;
     if (name.kind != kind || name.content.empty()) return;
@@ -137,38 +129,38 @@ void LookAtCharacters(const Case& at, GeneralNameKind kind, Read read) {
 }  // namespace
 
 // Empty text, or a directory name without RDNs.
-void EmptyNames(const Case& at) {
+void EmptyNames(const CheckCase& at) {
   ForEachName(at, [&at](const GeneralNameView& name) {
-    const bool has_nothing =
-        IsOfCharacters(name.kind) ? name.content.empty()
-                                  : name.kind == GeneralNameKind::kDirectory &&
-                                        name.content.size == 2 && name.content[1] == 0;
+    const bool has_nothing = IsOfCharacters(name.kind)
+                                 ? name.content.empty()
+                                 : name.kind == GeneralNameKind::kDirectory &&
+                                       name.content.size == 2 && name.content[1] == 0;
     if (has_nothing) at.Fault(name.bytes);
   });
 }
 
 // RFC 1034 3.5 as RFC 1123 2.1 changes it; "*" as the first label is RFC 9525's affair.
-void Hosts(const Case& at) {
+void Hosts(const CheckCase& at) {
   LookAtCharacters(at, GeneralNameKind::kDns, [](std::string_view text, Refusal* refusal) {
     return CheckHostPattern(text, kPlainHost, refusal);
   });
 }
 
-void Mailboxes(const Case& at) {
+void Mailboxes(const CheckCase& at) {
   LookAtCharacters(at, GeneralNameKind::kMail, [](std::string_view text, Refusal* refusal) {
     Mailbox mailbox;
     return Mailbox::Read(text, Mailbox::kAscii, &mailbox, refusal);
   });
 }
 
-void Uris(const Case& at) {
+void Uris(const CheckCase& at) {
   LookAtCharacters(at, GeneralNameKind::kUri, [](std::string_view text, Refusal* refusal) {
     Uri uri;
     return Uri::Read(text, &uri, refusal);
   });
 }
 
-void UriHosts(const Case& at) {
+void UriHosts(const CheckCase& at) {
   LookAtCharacters(at, GeneralNameKind::kUri, [](std::string_view text, Refusal* refusal) {
     Uri uri;
     if (!Uri::Read(text, &uri, nullptr) || !uri.has_authority) return true;
@@ -177,7 +169,7 @@ void UriHosts(const Case& at) {
   });
 }
 
-void Addresses(const Case& at) {
+void Addresses(const CheckCase& at) {
   ForEachName(at, [&at](const GeneralNameView& name) {
     if (name.kind == GeneralNameKind::kAddress && !IsIpAddressSize(name.content.size)) {
       at.Fault(name.bytes);
@@ -189,7 +181,7 @@ namespace {
 
 // Calls `visit` for each subtree of name constraints: the SEQUENCE, and its base.
 template <class Visit>
-void ForEachSubtree(const Case& at, Visit visit) {
+void ForEachSubtree(const CheckCase& at, Visit visit) {
   ForEachElement(ContentOf(at.extension.value, kSequence), [&visit](const Element& list) {
     ForEachElement(list.content, [&visit](const Element& subtree) {
       Reader fields(subtree.content, Leniency::kLenient, nullptr);
@@ -241,7 +233,7 @@ bool IsBase(const GeneralNameView& base, Refusal* refusal) {
 }  // namespace
 
 // DER leaves the default 0 out, so that whatever stands behind the base is a distance.
-void SubtreeDistances(const Case& at) {
+void SubtreeDistances(const CheckCase& at) {
   constexpr uint8_t kMaximum = Context(1);
   ForEachSubtree(at, [&at](const Element& subtree, const GeneralNameView&, Reader distances) {
     ForEachElement(distances.rest(), [&](const Element& distance) {
@@ -251,7 +243,7 @@ void SubtreeDistances(const Case& at) {
   });
 }
 
-void SubtreeForms(const Case& at) {
+void SubtreeForms(const CheckCase& at) {
   ForEachSubtree(at, [&at](const Element&, const GeneralNameView& base, const Reader&) {
     Refusal refusal;
     if (!IsBase(base, &refusal)) at.Fault(base.bytes, refusal);

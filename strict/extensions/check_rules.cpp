@@ -27,7 +27,7 @@ constexpr const char* kAuthorityAccess = "1.3.6.1.5.5.7.1.1";
 constexpr const char* kNone = "";
 
 // In the order in which faults are told. Sections are those of RFC 5280.
-constexpr Rule kRules[] = {
+constexpr CheckRule kRules[] = {
     {"encoding", "4.1", "the encoding is no DER", kAll, Scope::kEncoding, kNone, looks::Encoding},
     {"no-extensions", "4.1.2.9", "the list of extensions has none", kAll, Scope::kEncoding, kNone,
      looks::EmptyExtensions},
@@ -53,16 +53,18 @@ constexpr Rule kRules[] = {
     {"subject-empty-without-names", "4.2.1.6",
      "the subject has no name, and there are no alternative names", kCertificates, Scope::kDocument,
      kAlternativeNames, looks::EmptySubjectWithoutNames},
-    {"authority-key-id-missing", "4.2.1.1", "the extension is missing, and the certificate is not self-issued",
-     kCertificates, Scope::kDocument, kAuthorityKeyId, looks::MissingAuthorityKeyId},
+    {"authority-key-id-missing", "4.2.1.1",
+     "the extension is missing, and the certificate is not self-issued", kCertificates,
+     Scope::kDocument, kAuthorityKeyId, looks::MissingAuthorityKeyId},
     {"list-authority-key-id-missing", "5.2.1", "the extension is missing", kLists, Scope::kDocument,
      kAuthorityKeyId, looks::Missing},
-    {"subject-key-id-missing", "4.2.1.2", "the extension is missing, and the subject is an authority",
-     kCertificates, Scope::kDocument, kSubjectKeyId, looks::MissingInAuthority},
+    {"subject-key-id-missing", "4.2.1.2",
+     "the extension is missing, and the subject is an authority", kCertificates, Scope::kDocument,
+     kSubjectKeyId, looks::MissingInAuthority},
     {"key-usage-missing", "4.2.1.3", "the extension is missing, and the subject is an authority",
      kCertificates, Scope::kDocument, kKeyUsage, looks::MissingInAuthority},
-    {"crl-number-missing", "5.2.3", "the extension is missing", kLists, Scope::kDocument, kCrlNumber,
-     looks::Missing},
+    {"crl-number-missing", "5.2.3", "the extension is missing", kLists, Scope::kDocument,
+     kCrlNumber, looks::Missing},
 
     {"name-encoding", "4.1.2.4", "the name is no DER, or characters are outside their string type",
      kAll, Scope::kName, kNone, looks::NameEncoding},
@@ -106,8 +108,8 @@ constexpr Rule kRules[] = {
     {"subject-empty-not-critical", "4.2.1.6",
      "the subject has no name, and the alternative names are not critical", kForSubjects,
      Scope::kExtension, kAlternativeNames, looks::EmptySubjectNotCritical},
-    {"name-empty", "4.2.1.6", "a name is empty", kForSubjects, Scope::kExtension,
-     kAlternativeNames, looks::EmptyNames},
+    {"name-empty", "4.2.1.6", "a name is empty", kForSubjects, Scope::kExtension, kAlternativeNames,
+     looks::EmptyNames},
     {"dns-name", "4.2.1.6", "a DNS name is no host name", kForSubjects, Scope::kExtension,
      kAlternativeNames, looks::Hosts},
     {"mailbox", "4.2.1.6", "an e-mail address is no mailbox", kForSubjects, Scope::kExtension,
@@ -148,8 +150,8 @@ constexpr Rule kRules[] = {
      kForSubjects, Scope::kExtension, kNameConstraints, looks::SubtreeDistances},
     {"subtree-form", "4.2.1.10", "the base of a subtree is not of the form of its kind",
      kForSubjects, Scope::kExtension, kNameConstraints, looks::SubtreeForms},
-    {"policy-constraints-empty", "4.2.1.11", "the extension says nothing", kForSubjects, Scope::kExtension,
-     kPolicyConstraints, looks::EmptyStructure},
+    {"policy-constraints-empty", "4.2.1.11", "the extension says nothing", kForSubjects,
+     Scope::kExtension, kPolicyConstraints, looks::EmptyStructure},
     {"skip-certificates-negative", "4.2.1.11", "a number of certificates is negative", kForSubjects,
      Scope::kExtension, kPolicyConstraints, looks::NegativeNumbers},
     {"inhibit-negative", "4.2.1.14", "the number of certificates is negative", kForSubjects,
@@ -163,12 +165,13 @@ constexpr Rule kRules[] = {
      Scope::kExtension, kDistributionPoints, looks::RelativeToSeveral},
     {"point-issuer-form", "4.2.1.13", "the issuer of a CRL is no directory name", kForSubjects,
      Scope::kExtension, kDistributionPoints, looks::ListIssuerForms},
-    {"freshest-of-reasons-alone", "4.2.1.15", "a distribution point has neither a name nor an issuer",
-     kForSubjects, Scope::kExtension, kFreshest, looks::ReasonsAlone},
+    {"freshest-of-reasons-alone", "4.2.1.15",
+     "a distribution point has neither a name nor an issuer", kForSubjects, Scope::kExtension,
+     kFreshest, looks::ReasonsAlone},
     {"list-freshest-parts", "5.2.6", "a distribution point has reasons or an issuer", kLists,
      Scope::kExtension, kFreshest, looks::PointsOfFreshest},
-    {"list-freshest-in-delta", "5.2.6", "the extension stands in a delta CRL", kLists, Scope::kExtension,
-     kFreshest, looks::FreshestInDelta},
+    {"list-freshest-in-delta", "5.2.6", "the extension stands in a delta CRL", kLists,
+     Scope::kExtension, kFreshest, looks::FreshestInDelta},
     {"crl-number-negative", "5.2.3", "the number is negative", kLists, Scope::kExtension,
      kCrlNumber, looks::NegativeNumbers},
     {"crl-number-size", "5.2.3", "the number has more than 20 octets", kLists, Scope::kExtension,
@@ -177,18 +180,19 @@ constexpr Rule kRules[] = {
      kDeltaIndicator, looks::NegativeNumbers},
     {"base-number-size", "5.2.4", "the number has more than 20 octets", kLists, Scope::kExtension,
      kDeltaIndicator, looks::NumberSize},
-    {"issuing-point-empty", "5.2.5", "the extension says nothing", kLists, Scope::kExtension, kIssuingPoint,
-     looks::EmptyStructure},
-    {"issuing-point-scopes", "5.2.5", "the list is said to have several kinds of certificates alone",
-     kLists, Scope::kExtension, kIssuingPoint, looks::ScopesOfList},
-    {"issuing-point-attributes", "5.2.5", "the list is said to have attribute certificates",
-     kLists, Scope::kExtension, kIssuingPoint, looks::AttributeCertificates},
+    {"issuing-point-empty", "5.2.5", "the extension says nothing", kLists, Scope::kExtension,
+     kIssuingPoint, looks::EmptyStructure},
+    {"issuing-point-scopes", "5.2.5",
+     "the list is said to have several kinds of certificates alone", kLists, Scope::kExtension,
+     kIssuingPoint, looks::ScopesOfList},
+    {"issuing-point-attributes", "5.2.5", "the list is said to have attribute certificates", kLists,
+     Scope::kExtension, kIssuingPoint, looks::AttributeCertificates},
     {"list-access-method", "5.2.7", "a method of access is not caIssuers", kLists,
      Scope::kExtension, kAuthorityAccess, looks::AccessMethodsOfList},
 };
 
 }  // namespace
 
-Rules AllRules() { return {kRules, std::size(kRules)}; }
+CheckRules AllRules() { return {kRules, std::size(kRules)}; }
 
 }  // namespace Ortholan::strict

@@ -19,22 +19,22 @@ enum class Scope : uint8_t {
   kExtension,      // that of the rule's identifier
 };
 
-struct Rule {
+struct CheckRule {
   const char* name;
-  const char* section;   // of RFC 5280; "" for that of the extension
+  const char* section;  // of RFC 5280; "" for that of the extension
   const char* sentence;
   uint8_t kinds;
   Scope scope;
   OidOctets oid;  // of kExtension, and of an extension that is missing
   // Adds a fault for each place where the rule is broken.
-  void (*look)(const Case& at);
+  void (*look)(const CheckCase& at);
 };
 
-struct Rules {
-  const Rule* first;
+struct CheckRules {
+  const CheckRule* first;
   size_t count;
 };
-Rules AllRules();
+CheckRules AllRules();
 
 }  // namespace Ortholan::strict
 

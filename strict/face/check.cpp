@@ -1,9 +1,10 @@
 // Names and extensions held against the rules of RFC 5280.
+#include "strict/extensions/check.h"
+
 #include <ortholan/strict/check.h>
 
 #include <new>
 
-#include "strict/extensions/check.h"
 #include "strict/extensions/check_rules.h"
 #include "strict/face/call.h"
 
@@ -30,9 +31,9 @@ ortholan_reason ortholan_check(ortholan_octets der, ortholan_fault* faults, size
 ortholan_reason ortholan_check_rule_at(size_t index, ortholan_check_rule* rule) {
   if (rule == nullptr) return ORTHOLAN_REASON_ARGUMENT;
   *rule = {};
-  const Rules rules = AllRules();
+  const CheckRules rules = AllRules();
   if (index >= rules.count) return ORTHOLAN_REASON_NOT_FOUND;
-  const Rule& found = rules.first[index];
+  const CheckRule& found = rules.first[index];
   *rule = {found.name, found.section, found.sentence};
   return ORTHOLAN_REASON_NONE;
 }

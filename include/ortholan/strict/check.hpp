@@ -23,8 +23,7 @@ inline Result<std::vector<Fault>> Check(Octets der) {
   std::vector<Fault> faults(16);
   size_t count = 0;
   Refusal refusal;
-  ortholan_reason reason =
-      ortholan_check(der, faults.data(), faults.size(), &count, &refusal);
+  ortholan_reason reason = ortholan_check(der, faults.data(), faults.size(), &count, &refusal);
   if (count > faults.size()) {
     faults.resize(count);
     reason = ortholan_check(der, faults.data(), faults.size(), &count, &refusal);
