@@ -4,7 +4,7 @@ PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
 .PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
-  format deb package clean
+  format deb package clean postgresql
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -26,6 +26,7 @@ help:
 	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'
 	@echo '                  and used'
 	@echo 'make compilers    the tests built by clang++, natively and for Windows'
+	@echo 'make postgresql   the extension for PostgreSQL and its tests, on a server of their own'
 	@echo 'make clean        delete build/'
 
 demo:
@@ -105,6 +106,10 @@ package:
 compilers:
 	@scripts/setup.sh test
 	@scripts/test.sh clang windows-clang
+
+postgresql:
+	@scripts/setup.sh postgresql
+	@scripts/bindings/postgresql.sh
 
 clean:
 	rm -rf build

@@ -38,6 +38,7 @@ declare -A allowed=(
   [strict/extensions]="strict/general_names strict/certificates strict/names strict/der bytes"
   [strict/face]="$strict bytes"
   [examples]=""
+  [bindings]=""
   [tests/boundary]="tests"
   [tests/capi]="tests"
   [tests/cli]="tests"
@@ -72,6 +73,10 @@ check_include() {
   target_layer=$(layer_of "$target")
   # What the build picks for tests by platform is named without its directory.
   if [[ $layer == tests* && -f tests/support/posix/$target && -f tests/support/windows/$target ]]; then
+    return
+  fi
+  # What a binding includes by such a path lies beside the file.
+  if [[ $layer == bindings && -f ${file%/*}/$target ]]; then
     return
   fi
   if [[ -z $target_layer ]]; then
