@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
-#   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package
+#   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package|python
 set -euo pipefail
 
 demo=(g++ cmake ninja-build ca-certificates)
@@ -35,8 +35,12 @@ case ${1-} in
     ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
+  python)
+    packages=("${demo[@]}" binutils mypy python3-pip python3-pytest python3-setuptools python3-venv
+      python3-wheel)
+    ;;
   *)
-    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package" >&2
+    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package|python" >&2
     exit 2
     ;;
 esac
