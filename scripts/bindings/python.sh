@@ -27,6 +27,10 @@ $python -m venv --system-site-packages "$build/tests"
 "$build/tests/bin/pip" install --quiet --no-index --no-deps "${wheels[0]}"
 env -u ORTHOLAN_LIBRARY -u PYTHONPATH PYTHONDONTWRITEBYTECODE=1 \
   "$build/tests/bin/python" -m pytest -q -p no:cacheprovider bindings/python/tests "$@"
-$python -m mypy --config-file bindings/python/pyproject.toml --cache-dir "$build/mypy" \
-  bindings/python/ortholan
+# The types, as the package's author and as a user of what is installed sees them.
+check_types() {
+  $python -m mypy --config-file bindings/python/pyproject.toml --cache-dir "$build/mypy" "$@"
+}
+check_types bindings/python/ortholan
+check_types --python-executable "$build/tests/bin/python" bindings/python/examples/show.py
 echo "python.sh: ${wheels[0]#"$PWD"/}"

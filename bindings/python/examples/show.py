@@ -11,14 +11,14 @@ import sys
 import ortholan
 
 
-def show_name(name):
+def show_name(name: ortholan.Name) -> None:
     print("subject:", name)
     for attribute in name:
         # The text of one attribute is safe to show as well: what cannot be seen is escaped.
         print(f"  {attribute.key} ({attribute.type}):", ortholan.Name.build([attribute]))
 
 
-def show_certificate(certificate):
+def show_certificate(certificate: ortholan.Certificate) -> None:
     show_name(certificate.subject or ortholan.Name(""))
     for extension in certificate.extensions:
         print(f"extension {extension.oid}{', critical' if extension.critical else ''}")
@@ -26,7 +26,7 @@ def show_certificate(certificate):
         print(f"  {name.kind.name}: {name}")
 
 
-def show_file(path):
+def show_file(path: pathlib.Path) -> bool:
     """Whether all certificates could be shown: one that cannot does not hide the others."""
     octets, sound = path.read_bytes(), True
     blocks = ortholan.read_pem(octets) if b"-----BEGIN " in octets else [
@@ -40,9 +40,9 @@ def show_file(path):
     return sound
 
 
-def main(arguments):
+def main(arguments: list[str]) -> int:
     if not arguments:
-        print(__doc__.strip(), file=sys.stderr)
+        print((__doc__ or "").strip(), file=sys.stderr)
         return 2
     status = 0
     for argument in arguments:

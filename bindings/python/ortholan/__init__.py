@@ -55,6 +55,16 @@ from .names import (
 )
 from .reasons import Answer, Reason, Refusal, Verdict
 
+__all__ = [
+    "Answer", "Attribute", "CANNOT_TELL", "Certificate", "CertificateKind", "Extension",
+    "Finding", "GeneralName", "HostChoices", "Identity", "Kind", "Mailbox", "Match", "Mismatch",
+    "NO", "Name", "NamePlace", "OtherKind", "OtherName", "PemBlock", "Permission", "Place",
+    "RDN", "Reading", "Reason", "Refusal", "Rule", "TextOptions", "Uri", "Verdict", "YES",
+    "batch", "check_host", "classic", "identify", "identify_by_names", "load_certificates",
+    "permits", "permits_names", "read_extensions", "read_general_names", "read_pem",
+    "short_name", "type_identifier", "write_extensions", "write_general_names",
+]
+
 __version__: str = classic.version()
 
 YES = Answer.YES
