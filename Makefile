@@ -4,7 +4,7 @@ PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
 .PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
-  format deb package clean postgresql
+  format deb package clean postgresql python
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -25,6 +25,7 @@ help:
 	@echo 'make deb          Debian packages into build/package/packages, unpacked and used'
 	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'
 	@echo '                  and used'
+	@echo 'make python       the Python wheel into build/python/dist, installed and tested'
 	@echo 'make compilers    the tests built by clang++, natively and for Windows'
 	@echo 'make postgresql   the extension for PostgreSQL and its tests, on a server of their own'
 	@echo 'make clean        delete build/'
@@ -102,6 +103,10 @@ package:
 	cmake --build --preset windows --target ortholan ortholan_static x509name
 	cpack --config build/windows/CPackConfig.cmake -B build/windows/packages
 	scripts/package_check.sh build/package build/windows
+
+python:
+	@scripts/setup.sh python
+	@scripts/bindings/python.sh
 
 compilers:
 	@scripts/setup.sh test

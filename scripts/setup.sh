@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
-#   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package|postgresql
+#   setup.sh GROUP        a name of the list below
 set -euo pipefail
 
 demo=(g++ cmake ninja-build ca-certificates)
@@ -36,8 +36,12 @@ case ${1-} in
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   postgresql) packages=("${demo[@]}" pkg-config postgresql postgresql-server-dev-all python3) ;;
+  python)
+    packages=("${demo[@]}" binutils mypy python3-pip python3-pytest python3-setuptools python3-venv
+      python3-wheel)
+    ;;
   *)
-    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package|postgresql" >&2
+    echo "usage: setup.sh GROUP, a name of the list in $0" >&2
     exit 2
     ;;
 esac

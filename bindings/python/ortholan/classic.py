@@ -1,4 +1,7 @@
-"""X.509 names, general names and extensions, by the Ortholan library.
+"""The objects of <ortholan/ortholan_c.h>: names, general names and extensions, read generously.
+
+They can be changed, and speak the text form of the library's C++ classes (docs/name-text.md). What
+stands in `ortholan` itself is stricter, and gives verdicts with reasons.
 
     >>> name = Name("CN=Alpha, O=Org, C=RU", sort=True)
     >>> str(name)
@@ -9,23 +12,27 @@
     >>> name == Name.from_der(name.der)
     True
 
-The module needs the shared library alone and nothing but Python's standard library. It is looked for
-in the environment variable ORTHOLAN_LIBRARY (a path), beside this file, and where the system keeps
-its libraries.
-
 Whatever the library refuses is raised as OrtholanError. Objects are not to be used by two threads
 at once.
 """
 
-import ctypes
-import ctypes.util
-import enum
-import os
-import sys
-from collections import namedtuple
+from __future__ import annotations
 
-Attribute = namedtuple("Attribute", "type key value der")
-Attribute.__doc__ = "One attribute of a name: dotted identifier, short key, text, DER of the value."
+import ctypes
+import enum
+from typing import Any, Iterator, NamedTuple, TypeVar
+
+from ._declarations import CLASSIC_FUNCTIONS
+from ._library import declared, structures
+
+
+class Attribute(NamedTuple):
+    """One attribute of a name: dotted identifier, short key, text, DER of the value."""
+
+    type: str
+    key: str
+    value: str
+    der: bytes
 
 
 class Result(enum.IntEnum):
@@ -95,7 +102,7 @@ class Fault(enum.IntEnum):
 class OrtholanError(Exception):
     """A refusal: `result` says what kind, `status` is the library's own code or 0."""
 
-    def __init__(self, result, status, message):
+    def __init__(self, result: int, status: int, message: str) -> None:
         super().__init__(message)
         self.result = result
         self.status = status
@@ -104,138 +111,48 @@ class OrtholanError(Exception):
 class NameTextError(OrtholanError):
     """A name text that is refused: the fault, and its place and length in characters."""
 
-    def __init__(self, status, message, fault, position, length):
+    def __init__(self, status: int, message: str, fault: Fault, position: int,
+                 length: int) -> None:
         super().__init__(Result.NAME_TEXT, status, message)
         self.fault = fault
         self.position = position
         self.length = length
 
 
-class _Attribute(ctypes.Structure):
-    _fields_ = [
-        ("type", ctypes.c_char_p),
-        ("key", ctypes.c_char_p),
-        ("value", ctypes.c_void_p),
-        ("value_size", ctypes.c_size_t),
-        ("der", ctypes.c_void_p),
-        ("der_size", ctypes.c_size_t),
-    ]
+_functions = {name: called for name, (called, _) in declared(CLASSIC_FUNCTIONS).items()}
 
 
-def _load():
-    here = os.path.dirname(os.path.abspath(__file__))
-    file = {"win32": "ortholan.dll", "darwin": "libortholan.dylib"}.get(
-        sys.platform, "libortholan.so.1"
-    )
-    beside = os.path.join(here, file)
-    path = os.environ.get("ORTHOLAN_LIBRARY") or (beside if os.path.exists(beside) else None)
-    if path is None:
-        path = ctypes.util.find_library("ortholan") or file
-    return ctypes.CDLL(path)
-
-
-_library = _load()
-
-# A letter an argument: h handle, H where a handle goes, s text, p octets, z size, u 32 bits, i int,
-# T where text or an array goes, Z where a size goes, I and U where a number goes.
-_ARGUMENTS = {
-    "h": ctypes.c_void_p,
-    "H": ctypes.POINTER(ctypes.c_void_p),
-    "s": ctypes.c_char_p,
-    "p": ctypes.c_char_p,
-    "z": ctypes.c_size_t,
-    "u": ctypes.c_uint32,
-    "i": ctypes.c_int,
-    "T": ctypes.POINTER(ctypes.c_void_p),
-    "Z": ctypes.POINTER(ctypes.c_size_t),
-    "I": ctypes.POINTER(ctypes.c_int),
-    "U": ctypes.POINTER(ctypes.c_uint32),
-}
-_FUNCTIONS = {
-    "name_from_text_n": "szuiH",
-    "name_text_error_n": "szuUZZT",
-    "name_from_der": "pzH",
-    "name_new": "H",
-    "name_copy": "hH",
-    "name_text": "huTZ",
-    "name_der": "hTZ",
-    "name_count": "hZ",
-    "name_attributes": "hTZ",
-    "name_get": "hsTZ",
-    "name_add_n": "hsszu",
-    "name_set_n": "hsszu",
-    "name_remove": "hs",
-    "name_equal": "hhI",
-    "general_name_from_der": "pzH",
-    "general_name_kind": "hU",
-    "general_name_text": "hTZ",
-    "general_name_value": "hTZ",
-    "general_name_der": "hTZ",
-    "general_names_from_der": "pzH",
-    "general_names_count": "hZ",
-    "general_names_get": "hzH",
-    "extension_new": "sipzH",
-    "extension_from_der": "pzH",
-    "extension_oid": "hT",
-    "extension_critical": "hI",
-    "extension_value": "hTZ",
-    "extension_der": "hTZ",
-    "extensions_new": "H",
-    "extensions_from_der": "pzH",
-    "extensions_count": "hZ",
-    "extensions_get": "hzH",
-    "extensions_find": "hsH",
-    "extensions_set": "hh",
-    "extensions_der": "hTZ",
-}
-
-
-def _check(result, _function, _arguments):
+def _check(result: int, _function: Any, _arguments: Any) -> int:
     if result != Result.OK:
-        message = _library.ortholan_last_error_message().decode("utf-8")
-        status = _library.ortholan_last_status()
+        message = _functions["last_error_message"]().decode("utf-8")
+        status = _functions["last_status"]()
         known = result in Result.__members__.values()
         raise OrtholanError(Result(result) if known else result, status, message)
     return result
 
 
-def _declare():
-    for name, arguments in _FUNCTIONS.items():
-        function = getattr(_library, "ortholan_" + name)
-        function.argtypes = [_ARGUMENTS[letter] for letter in arguments]
-        function.restype = ctypes.c_int32
-        function.errcheck = _check
-    for name in ("free", "name_free", "general_name_free", "general_names_free"):
-        getattr(_library, "ortholan_" + name).argtypes = [ctypes.c_void_p]
-        getattr(_library, "ortholan_" + name).restype = None
-    for name in ("extension_free", "extensions_free"):
-        getattr(_library, "ortholan_" + name).argtypes = [ctypes.c_void_p]
-        getattr(_library, "ortholan_" + name).restype = None
-    _library.ortholan_last_status.restype = ctypes.c_uint32
-    _library.ortholan_last_error_message.restype = ctypes.c_char_p
-    _library.ortholan_version.restype = ctypes.c_char_p
+for _called in _functions.values():
+    if _called.restype is ctypes.c_int32:
+        _called.errcheck = _check
 
 
-_declare()
-
-
-def version():
+def version() -> str:
     """Version of the library."""
-    return _library.ortholan_version().decode("ascii")
+    return str(_functions["version"]().decode("ascii"))
 
 
-def _call(name, *arguments):
-    return getattr(_library, "ortholan_" + name)(*arguments)
+def _call(name: str, *arguments: Any) -> Any:
+    return _functions[name](*arguments)
 
 
-def _terminated(text):
+def _terminated(text: str) -> bytes:
     """UTF-8 for an argument that ends at its first NUL."""
     if "\0" in text:
         raise ValueError("NUL in an attribute type or identifier")
     return text.encode("utf-8")
 
 
-def _octets(name, *arguments):
+def _octets(name: str, *arguments: Any) -> bytes:
     """What a function gives out as memory and its size."""
     block = ctypes.c_void_p()
     size = ctypes.c_size_t()
@@ -243,10 +160,10 @@ def _octets(name, *arguments):
     try:
         return ctypes.string_at(block, size.value)
     finally:
-        _library.ortholan_free(block)
+        _functions["free"](block)
 
 
-def _explained(octets, options, error):
+def _explained(octets: bytes, options: int, error: OrtholanError) -> OrtholanError:
     """The refusal of a name text, with the place."""
     fault = ctypes.c_uint32()
     position = ctypes.c_size_t()
@@ -257,7 +174,7 @@ def _explained(octets, options, error):
     try:
         sentence = ctypes.string_at(message).decode("utf-8")
     finally:
-        _library.ortholan_free(message)
+        _functions["free"](message)
     if fault.value == 0:
         return error
     before = octets[: position.value].decode("utf-8")
@@ -265,41 +182,44 @@ def _explained(octets, options, error):
     return NameTextError(error.status, sentence, Fault(fault.value), len(before), len(met))
 
 
-def _number(kind, name, *arguments):
+def _number(kind: Any, name: str, *arguments: Any) -> int:
     number = kind()
     _call(name, *arguments, ctypes.byref(number))
-    return number.value
+    return int(number.value)
+
+
+Made = TypeVar("Made", bound="_Handle")
 
 
 class _Handle:
     """Owns a handle; `_free` is the library's function that takes it back."""
 
-    _free = None
+    _free = ""
 
-    def __init__(self, function, *arguments):
+    def __init__(self, function: str, *arguments: Any) -> None:
         self._handle = None
         handle = ctypes.c_void_p()
         _call(function, *arguments, ctypes.byref(handle))
         self._handle = handle
 
     @classmethod
-    def _made(cls, function, *arguments):
+    def _made(cls: type[Made], function: str, *arguments: Any) -> Made:
         made = cls.__new__(cls)
         _Handle.__init__(made, function, *arguments)
         return made
 
-    def __del__(self):
+    def __del__(self) -> None:
         if getattr(self, "_handle", None) is not None:
-            getattr(_library, self._free)(self._handle)
+            _functions[self._free](self._handle)
             self._handle = None
 
 
 class Name(_Handle):
     """A distinguished name. Changing an attribute leaves the octets of the others alone."""
 
-    _free = "ortholan_name_free"
+    _free = "name_free"
 
-    def __init__(self, text=None, options=0, sort=False):
+    def __init__(self, text: str | None = None, options: int = 0, sort: bool = False) -> None:
         """From a name text; without one, the name without attributes, to be filled with add()."""
         if text is None:
             super().__init__("name_new")
@@ -313,53 +233,53 @@ class Name(_Handle):
                 raise
 
     @classmethod
-    def from_der(cls, der):
+    def from_der(cls, der: bytes) -> Name:
         return cls._made("name_from_der", bytes(der), len(der))
 
     @property
-    def der(self):
+    def der(self) -> bytes:
         return _octets("name_der", self._handle)
 
-    def text(self, style=Style.KEYS):
+    def text(self, style: int = Style.KEYS) -> str:
         """For display: decide by == or by the DER."""
         return _octets("name_text", self._handle, style).decode("utf-8")
 
-    def copy(self):
+    def copy(self) -> Name:
         return self._made("name_copy", self._handle)
 
-    def add(self, type, value, options=0):
+    def add(self, type: str, value: str, options: int = 0) -> Name:
         """Appends an attribute; `type` is a key ("CN") or a dotted identifier. Returns the name."""
         octets = value.encode("utf-8")
         _call("name_add_n", self._handle, _terminated(type), octets, len(octets), options)
         return self
 
-    def attributes(self):
+    def attributes(self) -> list[Attribute]:
         """All attributes, in the order of the encoding."""
         block = ctypes.c_void_p()
         count = ctypes.c_size_t()
         _call("name_attributes", self._handle, ctypes.byref(block), ctypes.byref(count))
         try:
-            array = ctypes.cast(block, ctypes.POINTER(_Attribute))
+            array = ctypes.cast(block, ctypes.POINTER(structures.attribute))
             return [
                 Attribute(
-                    item.type.decode("ascii"),
-                    item.key.decode("utf-8"),
+                    ctypes.string_at(item.type).decode("ascii"),
+                    ctypes.string_at(item.key).decode("utf-8"),
                     ctypes.string_at(item.value, item.value_size).decode("utf-8"),
                     ctypes.string_at(item.der, item.der_size),
                 )
                 for item in array[: count.value]
             ]
         finally:
-            _library.ortholan_free(block)
+            _functions["free"](block)
 
-    def get(self, type, default=None):
+    def get(self, type: str, default: str | None = None) -> str | None:
         """Value of the first attribute of the type."""
         try:
             return self[type]
         except KeyError:
             return default
 
-    def __getitem__(self, type):
+    def __getitem__(self, type: str) -> str:
         try:
             return _octets("name_get", self._handle, _terminated(type)).decode("utf-8")
         except OrtholanError as error:
@@ -367,11 +287,11 @@ class Name(_Handle):
                 raise KeyError(type) from None
             raise
 
-    def __setitem__(self, type, value):
+    def __setitem__(self, type: str, value: str) -> None:
         octets = value.encode("utf-8")
         _call("name_set_n", self._handle, _terminated(type), octets, len(octets), 0)
 
-    def __delitem__(self, type):
+    def __delitem__(self, type: str) -> None:
         try:
             _call("name_remove", self._handle, _terminated(type))
         except OrtholanError as error:
@@ -379,65 +299,65 @@ class Name(_Handle):
                 raise KeyError(type) from None
             raise
 
-    def __contains__(self, type):
+    def __contains__(self, type: str) -> bool:
         return self.get(type) is not None
 
-    def __iter__(self):
+    def __iter__(self) -> Iterator[Attribute]:
         return iter(self.attributes())
 
-    def __len__(self):
+    def __len__(self) -> int:
         return _number(ctypes.c_size_t, "name_count", self._handle)
 
-    def __eq__(self, other):
+    def __eq__(self, other: object) -> bool:
         if not isinstance(other, Name):
             return NotImplemented
         return _number(ctypes.c_int, "name_equal", self._handle, other._handle) != 0
 
-    __hash__ = None
+    __hash__ = None  # type: ignore[assignment]
 
-    def __str__(self):
+    def __str__(self) -> str:
         return self.text()
 
-    def __repr__(self):
+    def __repr__(self) -> str:
         return "<Name %r>" % self.text()
 
 
 class GeneralName(_Handle):
     """One alternative name."""
 
-    _free = "ortholan_general_name_free"
+    _free = "general_name_free"
 
-    def __init__(self, der):
+    def __init__(self, der: bytes) -> None:
         super().__init__("general_name_from_der", bytes(der), len(der))
 
     @property
-    def kind(self):
+    def kind(self) -> int:
         """A Kind, or the number of a tag that has none."""
         kind = _number(ctypes.c_uint32, "general_name_kind", self._handle)
         return Kind(kind) if kind in Kind.__members__.values() else kind
 
     @property
-    def value(self):
+    def value(self) -> bytes:
         """Content octets, without the tag: an address, a Name in DER, characters, ..."""
         return _octets("general_name_value", self._handle)
 
     @property
-    def der(self):
+    def der(self) -> bytes:
         return _octets("general_name_der", self._handle)
 
-    def __str__(self):
+    def __str__(self) -> str:
         """The library's text for display; raw octets for kinds that are no text."""
         return _octets("general_name_text", self._handle).decode("utf-8")
 
-    def __repr__(self):
+    def __repr__(self) -> str:
         return "<GeneralName %s %s>" % (getattr(self.kind, "name", self.kind), self.value.hex())
 
 
 class _GeneralNames(_Handle):
-    _free = "ortholan_general_names_free"
+    _free = "general_names_free"
 
 
-def general_names(der):
+def general_names(der: bytes) -> list[GeneralName]:
     """The names in the value of a subjectAltName extension and the like."""
     names = _GeneralNames("general_names_from_der", bytes(der), len(der))
     count = _number(ctypes.c_size_t, "general_names_count", names._handle)
@@ -447,58 +367,58 @@ def general_names(der):
 class Extension(_Handle):
     """One certificate extension; `value` is the content of its OCTET STRING."""
 
-    _free = "ortholan_extension_free"
+    _free = "extension_free"
 
-    def __init__(self, oid, critical, value):
+    def __init__(self, oid: str, critical: bool, value: bytes) -> None:
         arguments = (_terminated(oid), int(bool(critical)), bytes(value), len(value))
         super().__init__("extension_new", *arguments)
 
     @classmethod
-    def from_der(cls, der):
+    def from_der(cls, der: bytes) -> Extension:
         return cls._made("extension_from_der", bytes(der), len(der))
 
     @property
-    def oid(self):
+    def oid(self) -> str:
         block = ctypes.c_void_p()
         _call("extension_oid", self._handle, ctypes.byref(block))
         try:
             return ctypes.string_at(block).decode("ascii")
         finally:
-            _library.ortholan_free(block)
+            _functions["free"](block)
 
     @property
-    def critical(self):
+    def critical(self) -> bool:
         return _number(ctypes.c_int, "extension_critical", self._handle) != 0
 
     @property
-    def value(self):
+    def value(self) -> bytes:
         return _octets("extension_value", self._handle)
 
     @property
-    def der(self):
+    def der(self) -> bytes:
         return _octets("extension_der", self._handle)
 
-    def __repr__(self):
+    def __repr__(self) -> str:
         return "<Extension %s%s>" % (self.oid, " critical" if self.critical else "")
 
 
 class Extensions(_Handle):
     """A list of extensions, in order, that can be searched and updated by identifier."""
 
-    _free = "ortholan_extensions_free"
+    _free = "extensions_free"
 
-    def __init__(self):
+    def __init__(self) -> None:
         super().__init__("extensions_new")
 
     @classmethod
-    def from_der(cls, der):
+    def from_der(cls, der: bytes) -> Extensions:
         return cls._made("extensions_from_der", bytes(der), len(der))
 
     @property
-    def der(self):
+    def der(self) -> bytes:
         return _octets("extensions_der", self._handle)
 
-    def find(self, oid):
+    def find(self, oid: str) -> Extension | None:
         """The first extension with the identifier, or None."""
         try:
             return Extension._made("extensions_find", self._handle, _terminated(oid))
@@ -507,14 +427,14 @@ class Extensions(_Handle):
                 return None
             raise
 
-    def set(self, extension):
+    def set(self, extension: Extension) -> None:
         """Replaces the first extension with the same identifier, or appends."""
         _call("extensions_set", self._handle, extension._handle)
 
-    def __len__(self):
+    def __len__(self) -> int:
         return _number(ctypes.c_size_t, "extensions_count", self._handle)
 
-    def __getitem__(self, index):
+    def __getitem__(self, index: int) -> Extension:
         if not 0 <= index < len(self):
             raise IndexError(index)
         return Extension._made("extensions_get", self._handle, index)
