@@ -33,6 +33,8 @@ case ${1-} in
     packages=("${demo[@]}" doxygen furo mandoc python3 python3-breathe python3-myst-parser
       python3-sphinx python3-sphinx-copybutton)
     ;;
+  # Node comes with emscripten.
+  wasm) packages=(chromium emscripten node-typescript) ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   postgresql) packages=("${demo[@]}" pkg-config postgresql postgresql-server-dev-all python3) ;;
