@@ -2,6 +2,7 @@
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
 #   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package
+#   setup.sh rust|go|csharp|visual-c|machines
 set -euo pipefail
 
 demo=(g++ cmake ninja-build ca-certificates)
@@ -10,6 +11,8 @@ native=("${demo[@]}" libgtest-dev)
 clang=(clang libclang-rt-14-dev)
 # llvm has the tool for import libraries of Visual C++'s form.
 windows=(g++-mingw-w64-x86-64-posix googletest llvm wine64)
+# What every binding stands on.
+binding=("${demo[@]}" pkg-config python3)
 debian=(dpkg-dev fakeroot file gdb lintian pkg-config python3)
 
 case ${1-} in
@@ -35,6 +38,15 @@ case ${1-} in
     ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
+  rust) packages=("${binding[@]}" cargo rust-clippy rustc) ;;
+  go) packages=("${binding[@]}" golang-go) ;;
+  csharp)
+    packages=("${binding[@]}" libnunit-framework2.6.3-cil mono-mcs mono-runtime nunit-console)
+    ;;
+  visual-c) packages=("${binding[@]}" "${windows[@]}" clang clang-tools lld) ;;
+  machines)
+    packages=("${native[@]}" g++-aarch64-linux-gnu g++-s390x-linux-gnu googletest python3 qemu-user)
+    ;;
   *)
     echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package" >&2
     exit 2
