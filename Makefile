@@ -117,7 +117,7 @@ compilers:
 
 $(BINDINGS):
 	@scripts/setup.sh $@
-	@NAME='$(NAME)' scripts/bindings/$(subst -,_,$@).sh
+	@scripts/bindings/$(subst -,_,$@).sh
 
 clean:
 	rm -rf build
