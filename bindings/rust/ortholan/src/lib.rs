@@ -1,6 +1,10 @@
 #![doc = include_str!("../../README.md")]
 #![warn(missing_docs)]
 
+#[cfg(doctest)]
+#[doc = include_str!("../../../../docs/languages.md")]
+mod languages {}
+
 mod call;
 mod certificate;
 mod constraints;
