@@ -6,7 +6,7 @@ namespace Ortholan
     public abstract class Encoded<T> : IEquatable<T>, IComparable<T> where T : Encoded<T>
     {
         /// <summary>Octets that nobody else holds.</summary>
-        protected readonly byte[] octets;
+        private protected readonly byte[] octets;
 
         /// <summary>Takes octets that nobody else holds.</summary>
         private protected Encoded(byte[] octets)
