@@ -2,9 +2,12 @@
 
 PRESETS ?= native sanitize windows
 
+# Each has a group in scripts/setup.sh and a script in scripts/bindings/.
+BINDINGS := python wasm postgresql rust go csharp visual-c machines
+
 .DEFAULT_GOAL := help
 .PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
-  format deb package clean postgresql python wasm
+  format deb package clean $(BINDINGS)
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -29,6 +32,12 @@ help:
 	@echo 'make python       the Python wheel into build/python/dist, installed and tested'
 	@echo 'make compilers    the tests built by clang++, natively and for Windows'
 	@echo 'make postgresql   the extension for PostgreSQL and its tests, on a server of their own'
+	@echo 'make rust         the crates of bindings/rust, built, tested, and a name converted'
+	@echo '                  (NAME="CN=Alpha,O=Org" says which; the same for go and csharp)'
+	@echo 'make go           the package of bindings/go'
+	@echo 'make csharp       the assembly of bindings/csharp'
+	@echo 'make visual-c     the Windows DLL called by programs that clang builds for Visual C++'
+	@echo 'make machines     the tests on arm64 and s390x, which qemu emulates'
 	@echo 'make clean        delete build/'
 
 demo:
@@ -77,10 +86,6 @@ docs:
 	cmake --preset release
 	cmake --build --preset release --target docs
 
-wasm:
-	@scripts/setup.sh wasm
-	@scripts/bindings/wasm.sh
-
 abi:
 	@scripts/setup.sh test
 	cmake --preset native
@@ -109,17 +114,13 @@ package:
 	cpack --config build/windows/CPackConfig.cmake -B build/windows/packages
 	scripts/package_check.sh build/package build/windows
 
-python:
-	@scripts/setup.sh python
-	@scripts/bindings/python.sh
-
 compilers:
 	@scripts/setup.sh test
 	@scripts/test.sh clang windows-clang
 
-postgresql:
-	@scripts/setup.sh postgresql
-	@scripts/bindings/postgresql.sh
+$(BINDINGS):
+	@scripts/setup.sh $@
+	@scripts/bindings/$(subst -,_,$@).sh
 
 clean:
 	rm -rf build

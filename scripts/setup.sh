@@ -10,6 +10,8 @@ native=("${demo[@]}" libgtest-dev)
 clang=(clang libclang-rt-14-dev)
 # llvm has the tool for import libraries of Visual C++'s form.
 windows=(g++-mingw-w64-x86-64-posix googletest llvm wine64)
+# What every binding stands on.
+binding=("${demo[@]}" pkg-config python3)
 debian=(dpkg-dev fakeroot file gdb lintian pkg-config python3)
 
 case ${1-} in
@@ -41,6 +43,15 @@ case ${1-} in
   python)
     packages=("${demo[@]}" binutils mypy python3-pip python3-pytest python3-setuptools python3-venv
       python3-wheel)
+    ;;
+  rust) packages=("${binding[@]}" cargo rust-clippy rustc) ;;
+  go) packages=("${binding[@]}" golang-go) ;;
+  csharp)
+    packages=("${binding[@]}" libnunit-framework2.6.3-cil mono-mcs mono-runtime nunit-console)
+    ;;
+  visual-c) packages=("${binding[@]}" "${windows[@]}" clang clang-tools lld) ;;
+  machines)
+    packages=("${native[@]}" g++-aarch64-linux-gnu g++-s390x-linux-gnu googletest python3 qemu-user)
     ;;
   *)
     echo "usage: setup.sh GROUP, a name of the list in $0" >&2
