@@ -35,8 +35,7 @@ std::string ReadDescription(const std::string& operand) {
   std::string_view rest = std::string_view(json).substr(start);
   const std::string line = Repaired(std::string(TakeLine(rest)));
   FailAtText(line, {place - start, 1},
-             "line " + std::to_string(number) + ": " +
-                 ortholan_reason_sentence(refusal.reason));
+             "line " + std::to_string(number) + ": " + ortholan_reason_sentence(refusal.reason));
 }
 
 [[noreturn]] void RefuseType(const std::string& type) {
@@ -63,7 +62,7 @@ std::vector<std::uint8_t> Made(const std::string& json, Call call) {
 std::vector<std::uint8_t> MakeValue(const std::string& type, const std::string& json) {
   std::uint8_t room[64];
   std::size_t size = 0;
-  if (ortholan_extension_oid(ortholan::ToText(type), room, sizeof room, &size) ==
+  if (ortholan_extension_oid_from_name(ortholan::ToText(type), room, sizeof room, &size) ==
       ORTHOLAN_REASON_EXTENSION_TYPE) {
     RefuseType(type);
   }
@@ -96,8 +95,10 @@ const Command kMakeCommand = {
     1,
     "JSON",
     "extensions in DER from their description",
-    "JSON is a file, - for standard input, or the text itself. An object is one extension, an array\n"
-    "a list of them, as `show --json` has them: name or oid, critical, value; with --value it is the\n"
+    "JSON is a file, - for standard input, or the text itself. An object is one extension, an "
+    "array\n"
+    "a list of them, as `show --json` has them: name or oid, critical, value; with --value it is "
+    "the\n"
     "value of that extension alone.\n",
     "x509name make --value basicConstraints '{\"cA\":true,\"pathLenConstraint\":0}'\n"
     "    30060101FF020100\n"

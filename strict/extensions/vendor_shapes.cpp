@@ -12,7 +12,6 @@ static constexpr NumberName kNetscapeTypes[] = {
 const Shape kNetscapeTypeShape = NamedBits(kNetscapeTypes);
 
 // 1.2.840.113533.7.65.0
-constexpr uint8_t kGeneralString = 0x1B;
 static constexpr NumberName kEntrustFlags[] = {
     {0, "keyUpdateAllowed"},   {1, "newExtensions"}, {2, "pKIXCertificate"},
     {3, "enterpriseCategory"}, {4, "webCategory"},   {5, "sETCategory"},
@@ -56,12 +55,12 @@ static constexpr Field kToolFields[] = {
 const Shape kIssuerSignToolShape = Sequence(kToolFields);
 
 // 1.2.840.113583.1.1.9.1 and .2
-static constexpr Field kTimestampFields[] = {
+static constexpr Field kAdobeTimestampFields[] = {
     {"version", "version", &kNumberShape},
     {"location", "location", &kNameShape},
     {"requiresAuth", "requires authentication", &kFlagShape, Presence::kDefault},
 };
-const Shape kAdobeTimestampShape = Sequence(kTimestampFields);
+const Shape kAdobeTimestampShape = Sequence(kAdobeTimestampFields);
 static constexpr Field kArchiveFields[] = {{"version", "version", &kNumberShape}};
 const Shape kAdobeArchiveShape = Sequence(kArchiveFields);
 
