@@ -2,6 +2,7 @@
 
 #include <ortholan/strict/certificates.h>
 #include <ortholan/strict/constraints.h>
+#include <ortholan/strict/extensions.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
 #include <ortholan/strict/matching.h>
@@ -140,6 +141,18 @@ constexpr Row kSentences[] = {
     {ORTHOLAN_REASON_DIRECTORY_UNTOLD, "the directory names cannot be compared with certainty"},
     {ORTHOLAN_REASON_BUDGET, "the budget of comparisons is used up"},
     {ORTHOLAN_REASON_UNREADABLE_CERTIFICATE, "this is no certificate that can be read"},
+    {ORTHOLAN_REASON_EXTENSION_TYPE, "no extension is known by this name"},
+    {ORTHOLAN_REASON_TLS_SIZE, "a part of a TLS structure has another size than it says"},
+    {ORTHOLAN_REASON_JSON, "the text is no JSON"},
+    {ORTHOLAN_REASON_JSON_TWICE, "the object has this member already"},
+    {ORTHOLAN_REASON_JSON_DEPTH, "the JSON is nested too deep"},
+    {ORTHOLAN_REASON_JSON_FORM, "another form of JSON has to stand here"},
+    {ORTHOLAN_REASON_JSON_MEMBER, "the structure has no such member"},
+    {ORTHOLAN_REASON_JSON_LACKS, "the object lacks a member that the structure must have"},
+    {ORTHOLAN_REASON_JSON_WORD, "this is no name that is known here"},
+    {ORTHOLAN_REASON_JSON_NUMBER, "the number is not whole or out of range"},
+    {ORTHOLAN_REASON_JSON_TEXT, "the text is not of the form that its field has"},
+    {ORTHOLAN_REASON_JSON_DIFFERENT, "two members stand for different things"},
 };
 
 }  // namespace

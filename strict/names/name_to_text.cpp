@@ -106,4 +106,8 @@ bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out
   return true;
 }
 
+bool PutTextOfRdn(ByteView rdn, const TextOptions& options, Output* out, Refusal* refusal) {
+  return Decoder(options, out, refusal).PutRdn(rdn);
+}
+
 }  // namespace Ortholan::strict

@@ -30,6 +30,9 @@ struct AttributeView {
 bool NextRdn(ByteView* rdns, Element* rdn);
 bool NextAttribute(ByteView* attributes, AttributeView* attribute);
 
+// Checks the content of one RDN, and adds its attributes to the count.
+bool CheckRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count);
+
 class NameView {
  public:
   class Iterator {
