@@ -44,6 +44,41 @@ constexpr IdentifierName kNames[] = {
     {"2.23.140.1.2.3", "individualValidated"},
     {"1.3.6.1.5.5.7.2.1", "cps"},
     {"1.3.6.1.5.5.7.2.2", "userNotice"},
+    // Statements about qualified certificates (RFC 3739 3.2.6, ETSI EN 319 412-5 4, TS 119 495 5).
+    {"1.3.6.1.5.5.7.11.1", "qcsPkixQCSyntax-v1"},
+    {"1.3.6.1.5.5.7.11.2", "qcsPkixQCSyntax-v2"},
+    {"0.4.0.1862.1.1", "qcCompliance"},
+    {"0.4.0.1862.1.2", "qcLimitValue"},
+    {"0.4.0.1862.1.3", "qcRetentionPeriod"},
+    {"0.4.0.1862.1.4", "qcSSCD"},
+    {"0.4.0.1862.1.5", "qcPDS"},
+    {"0.4.0.1862.1.6", "qcType"},
+    {"0.4.0.1862.1.6.1", "qctEsign"},
+    {"0.4.0.1862.1.6.2", "qctEseal"},
+    {"0.4.0.1862.1.6.3", "qctWeb"},
+    {"0.4.0.1862.1.7", "qcCClegislation"},
+    {"0.4.0.19495.2", "psd2QcStatement"},
+    {"0.4.0.19495.1.1", "pspAs"},
+    {"0.4.0.19495.1.2", "pspPi"},
+    {"0.4.0.19495.1.3", "pspAi"},
+    {"0.4.0.19495.1.4", "pspIc"},
+    {"0.4.0.194121.1.1", "semanticsIdNatural"},
+    {"0.4.0.194121.1.2", "semanticsIdLegal"},
+    // Attributes of subjects (RFC 3739 3.2.2).
+    {"1.3.6.1.5.5.7.9.1", "dateOfBirth"},
+    {"1.3.6.1.5.5.7.9.2", "placeOfBirth"},
+    {"1.3.6.1.5.5.7.9.3", "gender"},
+    {"1.3.6.1.5.5.7.9.4", "countryOfCitizenship"},
+    {"1.3.6.1.5.5.7.9.5", "countryOfResidence"},
+    // Reasons of a hold (RFC 3280 5.3.2), languages of proxy policies (RFC 3820 3.8.2).
+    {"1.2.840.10040.2.1", "holdInstructionNone"},
+    {"1.2.840.10040.2.2", "holdInstructionCallIssuer"},
+    {"1.2.840.10040.2.3", "holdInstructionReject"},
+    {"1.3.6.1.5.5.7.21.0", "anyLanguage"},
+    {"1.3.6.1.5.5.7.21.1", "inheritAll"},
+    {"1.3.6.1.5.5.7.21.2", "independent"},
+    // Windows.
+    {"1.3.6.1.4.1.311.25.2.1", "ntdsObjectSid"},
 };
 
 }  // namespace

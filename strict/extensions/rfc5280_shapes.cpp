@@ -74,12 +74,13 @@ static constexpr Field kMappingFields[] = {
 static constexpr Shape kMappingShape = Sequence(kMappingFields, "mapping");
 const Shape kPolicyMappingsShape = SequenceOf(&kMappingShape);
 
-// 4.2.1.8. Values are of the type that the attribute has; what is none of these stays octets.
-static constexpr Shape kAnyValueShape = {ShapeKind::kAny};
-static constexpr Shape kAnyValuesShape = SetOf(&kAnyValueShape);
+// 4.2.1.8; dateOfBirth is a time (RFC 3739 3.2.2).
+static constexpr OpenType kAttributeTypes[] = {{"1.3.6.1.5.5.7.9.1", &kTimeShape}};
+static constexpr Shape kAttributeValueShape = Open(kAttributeTypes);
+static constexpr Shape kAttributeValuesShape = SetOf(&kAttributeValueShape);
 static constexpr Field kAttributeFields[] = {
     {"type", "", &kOidShape},
-    {"values", "values", &kAnyValuesShape},
+    {"values", "values", &kAttributeValuesShape},
 };
 static constexpr Shape kAttributeShape = Sequence(kAttributeFields, "attribute");
 const Shape kDirectoryAttributesShape = SequenceOf(&kAttributeShape);

@@ -18,12 +18,13 @@ enum class ShapeKind : uint8_t {
   kBoolean,
   kInteger,
   kEnumerated,
-  kBits,         // BIT STRING with names
-  kOctets,       // OCTET STRING
-  kAsciiOctets,  // OCTET STRING that holds characters
-  kTlsOctets,    // OCTET STRING that holds a TLS structure
+  kBits,       // BIT STRING with names
+  kOctets,     // OCTET STRING
+  kAscii,      // characters of ASCII in an OCTET STRING or a GeneralString
+  kTlsOctets,  // OCTET STRING that holds a TLS structure
   kNull,
   kOid,
+  kUtcTime,
   kTime,    // GeneralizedTime
   kString,  // of one type or several
   kAny,
@@ -96,7 +97,8 @@ struct Shape {
   const Shape* element = nullptr;  // of a list; what octets hold
   Rows<NumberName> names = {};
   Rows<OpenType> types = {};
-  uint32_t number = 0;  // identifiers of strings as bits; octets of a TLS part
+  // Identifiers of strings as bits; identifier of ASCII; octets of a TLS part.
+  uint32_t number = 0;
 };
 
 constexpr Shape Sequence(Rows<Field> fields, const char* words = "") {
@@ -115,8 +117,18 @@ constexpr Shape Open(Rows<OpenType> types) { return {ShapeKind::kOpen, "", {}, {
 constexpr Shape StringOf(uint32_t identifiers) {
   return {ShapeKind::kString, "", {}, {}, {}, {}, identifiers};
 }
+constexpr Shape AsciiIn(uint8_t identifier) {
+  return {ShapeKind::kAscii, "", {}, {}, {}, {}, identifier};
+}
 constexpr Shape TlsPart(ShapeKind kind, uint32_t octets = 0) {
   return {kind, "", {}, {}, {}, {}, octets};
+}
+constexpr Shape TlsList(const Shape* element) { return {ShapeKind::kTlsList, "", {}, element}; }
+constexpr Shape TlsRecord(Rows<Field> fields, const char* words) {
+  return {ShapeKind::kTlsRecord, words, fields};
+}
+constexpr Shape TlsInOctets(const Shape* structure) {
+  return {ShapeKind::kTlsOctets, "", {}, structure};
 }
 
 // Whether octets inside the implicit tag of a shape hold elements.
@@ -137,13 +149,16 @@ constexpr uint8_t IdentifierOf(const Shape& shape) {
     case ShapeKind::kBits:
       return kBitString;
     case ShapeKind::kOctets:
-    case ShapeKind::kAsciiOctets:
     case ShapeKind::kTlsOctets:
       return kOctetString;
+    case ShapeKind::kAscii:
+      return static_cast<uint8_t>(shape.number);
     case ShapeKind::kNull:
       return kNull;
     case ShapeKind::kOid:
       return kOid;
+    case ShapeKind::kUtcTime:
+      return kUtcTime;
     case ShapeKind::kTime:
       return kGeneralizedTime;
     case ShapeKind::kSequence:

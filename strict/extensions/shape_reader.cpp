@@ -216,9 +216,9 @@ bool IsMinimal(ByteView content, Leniency leniency) {
   return content[0] != (content[1] >= 0x80 ? 0xFF : 0x00);
 }
 
-bool IsTime(ByteView content) {
+bool IsTime(uint8_t identifier, ByteView content) {
   Output none(nullptr, 0);
-  return PutTimeText(kGeneralizedTime, content, &none);
+  return PutTimeText(identifier, content, &none);
 }
 
 bool Walk::CheckLeaf(const Shape& shape, const Element& element) {
@@ -235,9 +235,10 @@ bool Walk::CheckLeaf(const Shape& shape, const Element& element) {
       return content.empty() || Fail(ORTHOLAN_REASON_NULL, content);
     case ShapeKind::kOid:
       return IsIdentifier(content) || Fail(ORTHOLAN_REASON_OID, content);
+    case ShapeKind::kUtcTime:
     case ShapeKind::kTime:
-      return IsTime(content) || Fail(ORTHOLAN_REASON_TIME, content);
-    case ShapeKind::kAsciiOctets:
+      return IsTime(IdentifierOf(shape), content) || Fail(ORTHOLAN_REASON_TIME, content);
+    case ShapeKind::kAscii:
       return CheckText(kIA5String, element);
     case ShapeKind::kString:
       return CheckText(IdentifierOf(shape) != 0 ? IdentifierOf(shape) : element.identifier,

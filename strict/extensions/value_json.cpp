@@ -69,11 +69,12 @@ void JsonVisitor::Leaf(const Shape& shape, const Element& element) {
       return PutBits(shape, content);
     case ShapeKind::kOid:
       return PutText([content](Output* out) { PutIdentifierName(content, out); });
+    case ShapeKind::kUtcTime:
     case ShapeKind::kTime:
-      return PutText([content](Output* out) { PutTimeText(kGeneralizedTime, content, out); });
+      return PutText([&](Output* out) { PutTimeText(IdentifierOf(shape), content, out); });
     case ShapeKind::kTlsTime:
       return PutText([content](Output* out) { PutMilliseconds(TlsNumber(content), out); });
-    case ShapeKind::kAsciiOctets:
+    case ShapeKind::kAscii:
     case ShapeKind::kString:
       return PutString(shape, element);
     case ShapeKind::kGeneralName:
@@ -119,8 +120,7 @@ void JsonVisitor::PutBits(const Shape& shape, ByteView content) {
 }
 
 void JsonVisitor::PutString(const Shape& shape, const Element& element) {
-  const uint8_t only =
-      shape.kind == ShapeKind::kAsciiOctets ? uint8_t{kIA5String} : IdentifierOf(shape);
+  const uint8_t only = shape.kind == ShapeKind::kAscii ? uint8_t{kIA5String} : IdentifierOf(shape);
   if (only == 0) return PutKind(element.identifier, element);
   std::string text;
   if (!StringText(only, element.content, &text)) return PutOctets(element.bytes);

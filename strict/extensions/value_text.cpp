@@ -142,12 +142,13 @@ void PutLeaf(const Shape& shape, const Element& element, Output* out) {
       return PutBits(shape, content, out);
     case ShapeKind::kOid:
       return PutIdentifierName(content, out);
+    case ShapeKind::kUtcTime:
     case ShapeKind::kTime:
-      PutTimeText(kGeneralizedTime, content, out);
+      PutTimeText(IdentifierOf(shape), content, out);
       return;
     case ShapeKind::kTlsTime:
       return PutMilliseconds(TlsNumber(content), out);
-    case ShapeKind::kAsciiOctets:
+    case ShapeKind::kAscii:
       return PutString(kIA5String, element, out);
     case ShapeKind::kString: {
       const uint8_t only = IdentifierOf(shape);
