@@ -23,30 +23,6 @@ constexpr StringKind kStringKinds[] = {
 
 constexpr int64_t kLargestShort = INT64_C(0x1FFFFFFFFFFFFF);  // 2^53 - 1
 
-// Year, month and day of a day since 1970, by the rule that years begin in March.
-struct Date {
-  uint64_t year, month, day;
-};
-
-Date DateOf(uint64_t days) {
-  const uint64_t shifted = days + 719468;  // since 0000-03-01
-  const uint64_t era = shifted / 146097;   // days of 400 years
-  const uint64_t day_of_era = shifted % 146097;
-  const uint64_t year_of_era =
-      (day_of_era - day_of_era / 1460 + day_of_era / 36524 - day_of_era / 146096) / 365;
-  const uint64_t day_of_year =
-      day_of_era - (365 * year_of_era + year_of_era / 4 - year_of_era / 100);
-  const uint64_t shifted_month = (5 * day_of_year + 2) / 153;
-  const uint64_t month = shifted_month < 10 ? shifted_month + 3 : shifted_month - 9;
-  const uint64_t year = year_of_era + era * 400 + (month <= 2 ? 1 : 0);
-  return {year, month, day_of_year - (153 * shifted_month + 2) / 5 + 1};
-}
-
-void PutPart(char before, uint64_t number, Output* out, size_t digits = 2) {
-  out->Put(before);
-  PutDecimal(number, out, digits);
-}
-
 }  // namespace
 
 bool IsShortInteger(ByteView content, int64_t* number) {
@@ -67,19 +43,6 @@ const char* NameOf(const Shape& shape, uint64_t number) {
     if (row.number == number) return row.name;
   }
   return nullptr;
-}
-
-void PutMilliseconds(uint64_t time, Output* out) {
-  const uint64_t seconds = time / 1000;
-  const Date date = DateOf(seconds / 86400);
-  PutDecimal(date.year, out, 4);
-  PutPart('-', date.month, out);
-  PutPart('-', date.day, out);
-  PutPart('T', seconds / 3600 % 24, out);
-  PutPart(':', seconds / 60 % 60, out);
-  PutPart(':', seconds % 60, out);
-  PutPart('.', time % 1000, out, 3);
-  out->Put('Z');
 }
 
 const char* StringKindName(uint8_t identifier) {

@@ -25,9 +25,6 @@ void ForEachBit(ByteView content, Put put) {
   }
 }
 
-// Puts "2026-11-21T22:05:00.123Z" for milliseconds since 1970, at most kLastTlsTime.
-void PutMilliseconds(uint64_t time, Output* out);
-
 // The name of a string type, "utf8String"; null for what is no string that is shown as text.
 const char* StringKindName(uint8_t identifier);
 // The identifier of such a name; 0 for others.

@@ -265,4 +265,10 @@ bool ReadByShape(const Shape& shape, ByteView der, Leniency leniency, ShapeVisit
   return Walk(leniency, visitor, refusal).ReadValue(shape, &in) && in.End();
 }
 
+bool CheckByShape(const Shape& shape, ByteView der, Leniency leniency, Refusal* refusal) {
+  struct Nobody final : ShapeVisitor {
+  } nobody;
+  return ReadByShape(shape, der, leniency, &nobody, refusal);
+}
+
 }  // namespace Ortholan::strict

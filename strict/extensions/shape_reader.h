@@ -38,6 +38,9 @@ class ShapeVisitor {
 bool ReadByShape(const Shape& shape, ByteView der, Leniency leniency, ShapeVisitor* visitor,
                  Refusal* refusal);
 
+// The same where nobody listens.
+bool CheckByShape(const Shape& shape, ByteView der, Leniency leniency, Refusal* refusal);
+
 // A value of any type.
 extern const Shape kAnyShape;
 

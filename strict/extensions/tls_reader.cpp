@@ -2,6 +2,8 @@
 
 #include <ortholan/strict/extensions.h>
 
+#include "strict/extensions/milliseconds.h"
+
 namespace Ortholan::strict {
 namespace {
 
@@ -21,7 +23,7 @@ class TlsWalk {
         return TakeVector(in, &part) && Tell(shape, part);
       case ShapeKind::kTlsTime:
         return Take(in, shape.number, &part) &&
-               (TlsNumber(part) <= kLastTlsTime || Fail(ORTHOLAN_REASON_TIME, part)) &&
+               (TlsNumber(part) <= kLastMillisecond || Fail(ORTHOLAN_REASON_TIME, part)) &&
                Tell(shape, part);
       default:
         return Take(in, shape.number, &part) && Tell(shape, part);

@@ -10,9 +10,6 @@ namespace Ortholan::strict {
 // Octets of a size in front of a vector.
 constexpr size_t kTlsSizeOctets = 2;
 
-// The last millisecond that has four digits of a year, 9999-12-31T23:59:59.999Z.
-constexpr uint64_t kLastTlsTime = UINT64_C(253402300799999);
-
 // A number of at most eight octets.
 inline uint64_t TlsNumber(ByteView octets) {
   uint64_t number = 0;

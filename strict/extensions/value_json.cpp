@@ -4,6 +4,7 @@
 #include "strict/der/string_value.h"
 #include "strict/extensions/identifier_names.h"
 #include "strict/extensions/leaf_text.h"
+#include "strict/extensions/milliseconds.h"
 #include "strict/extensions/name_text.h"
 #include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_reader.h"

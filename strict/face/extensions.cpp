@@ -5,6 +5,8 @@
 
 #include "strict/der/identifier.h"
 #include "strict/extensions/extensions_json.h"
+#include "strict/extensions/json_extensions.h"
+#include "strict/extensions/json_writer.h"
 #include "strict/extensions/known_extensions.h"
 #include "strict/extensions/value_json.h"
 #include "strict/extensions/value_text.h"
@@ -26,6 +28,14 @@ const Shape* ShapeOf(ByteView oid) {
   return known != nullptr ? known->shape : nullptr;
 }
 
+// Puts the identifier that a name or dotted digits stand for.
+bool PutOidOf(std::string_view name, Output* out) {
+  const KnownExtension* const known = FindExtension(name);
+  if (known == nullptr) return PutIdentifier(name, out);
+  out->Put(known->oid.view());
+  return true;
+}
+
 // Runs `put`, which puts what octets are into the room.
 template <class Put>
 ortholan_reason Show(ortholan_octets value, int32_t mode, char* out, size_t room, size_t* size,
@@ -42,6 +52,25 @@ ortholan_reason Show(ortholan_octets value, int32_t mode, char* out, size_t room
     return Report(ORTHOLAN_REASON_MEMORY, refusal);
   }
   return Finish(text, size, refusal);
+}
+
+// Runs `put`, which puts what JSON describes into the room.
+template <class Put>
+ortholan_reason Write(ortholan_text json, uint8_t* out, size_t room, size_t* size,
+                      ortholan_refusal* refusal, Put put) {
+  Clear(size, refusal);
+  if (!IsGiven(json) || !IsRoom(out, room)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  BackwardOutput der(out, room);
+  Refusal found;
+  try {
+    JsonValue value;
+    if (!ReadJson(View(json), &value, &found) || !put(value, &der, &found)) {
+      return Report(found, json.data, refusal);
+    }
+  } catch (const std::bad_alloc&) {
+    return Report(ORTHOLAN_REASON_MEMORY, refusal);
+  }
+  return Finish(&der, size, refusal);
 }
 
 }  // namespace
@@ -74,12 +103,7 @@ ortholan_reason ortholan_extension_oid_from_name(ortholan_text name, uint8_t* ou
   Clear(size, nullptr);
   if (!IsGiven(name) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;
   Output octets(out, room);
-  const KnownExtension* const known = FindExtension(View(name));
-  if (known != nullptr) {
-    octets.Put(known->oid.view());
-  } else if (!PutIdentifier(View(name), &octets)) {
-    return ORTHOLAN_REASON_EXTENSION_TYPE;
-  }
+  if (!PutOidOf(View(name), &octets)) return ORTHOLAN_REASON_EXTENSION_TYPE;
   return Finish(octets, size);
 }
 
@@ -115,4 +139,28 @@ ortholan_reason ortholan_extensions_json(ortholan_octets der, int32_t mode, char
                 PutExtensionsJson(extensions, leniency, text);
                 return true;
               });
+}
+
+ortholan_reason ortholan_extension_from_json(ortholan_text type, ortholan_text json, uint8_t* out,
+                                             size_t room, size_t* size, ortholan_refusal* refusal) {
+  if (!IsGiven(type)) {
+    Clear(size, refusal);
+    return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  }
+  uint8_t oid[kMaxIdentifierOctets];
+  Output octets(oid, sizeof oid);
+  if (!PutOidOf(View(type), &octets)) {
+    Clear(size, refusal);
+    return Report(ORTHOLAN_REASON_EXTENSION_TYPE, refusal);
+  }
+  const Shape* const shape = ShapeOf({oid, octets.size()});
+  return Write(json, out, room, size, refusal,
+               [shape](const JsonValue& value, BackwardOutput* der, Refusal* found) {
+                 return PutValueOfJson(shape, value, der, found);
+               });
+}
+
+ortholan_reason ortholan_extensions_from_json(ortholan_text json, uint8_t* out, size_t room,
+                                              size_t* size, ortholan_refusal* refusal) {
+  return Write(json, out, room, size, refusal, PutExtensionsOfJson);
 }

@@ -119,9 +119,9 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_extensions_json(ortholan_octets der, in
 
 // The value of an extension in DER from its JSON: what ortholan_extension_json puts, where members
 // with a default may be missing, names and identifiers stand by name or digits, and a string alone
-// stands for a UTF8String where several types may stand. Refuses the first place of the JSON that
-// is wrong, counted in octets; what is refused in names and texts has the reason of the reader of
-// these, at the string's place.
+// stands for a UTF8String where several types may stand. Refuses a place of the JSON that is
+// wrong, counted in octets, of several the last; what is refused in names and texts has the reason
+// of the reader of these, at the string's place.
 //   type  name or dotted digits of the extension; refused with EXTENSION_TYPE and no place
 ORTHOLAN_EXPORT ortholan_reason ortholan_extension_from_json(ortholan_text type, ortholan_text json,
                                                              uint8_t* out, size_t room,
