@@ -1,4 +1,4 @@
-#include "strict/extensions/milliseconds.h"
+#include "strict/extensions/moment.h"
 
 #include "bytes/ascii.h"
 #include "strict/extensions/leaf_text.h"
@@ -29,12 +29,14 @@ Date DateOf(uint64_t daysSince1970) {
           month >= 10 ? month - 9 : month + 3, day - DaysBeforeMonth(month) + 1};
 }
 
-uint64_t DaysSince1970(const Date& date) {
+// Years are counted 400 further on, so that none is below zero.
+int64_t DaysSince1970(const Date& date) {
   const bool is_early = date.month <= 2;
-  const uint64_t year = date.year - (is_early ? 1 : 0);
+  const uint64_t year = date.year + 400 - (is_early ? 1 : 0);
   const uint64_t month = is_early ? date.month + 9 : date.month - 3;
-  return year / 400 * kDaysOf400Years + DaysBeforeYear(year % 400) + DaysBeforeMonth(month) +
-         date.day - 1 - kDaysTo1970;
+  const uint64_t days = year / 400 * kDaysOf400Years + DaysBeforeYear(year % 400) +
+                        DaysBeforeMonth(month) + date.day - 1;
+  return static_cast<int64_t>(days) - static_cast<int64_t>(kDaysOf400Years + kDaysTo1970);
 }
 
 void PutPart(char before, uint64_t number, Output* out, size_t digits = 2) {
@@ -72,15 +74,20 @@ void PutMilliseconds(uint64_t time, Output* out) {
   out->Put('Z');
 }
 
-// A day that the month has not, or an hour 24, comes back as another moment.
-bool MillisecondsOf(std::string_view text, uint64_t* time) {
-  if (!HasForm(text)) return false;
+int64_t SecondsOf(std::string_view text) {
   const Date date = {NumberIn(text.substr(0, 4)), NumberIn(text.substr(5, 2)),
                      NumberIn(text.substr(8, 2))};
-  if (date.year < 1970 || date.month == 0 || date.month > 12 || date.day == 0) return false;
-  const uint64_t seconds = DaysSince1970(date) * 86400 + NumberIn(text.substr(11, 2)) * 3600 +
-                           NumberIn(text.substr(14, 2)) * 60 + NumberIn(text.substr(17, 2));
-  *time = seconds * 1000 + NumberIn(text.substr(20, 3));
+  const uint64_t second_of_day = NumberIn(text.substr(11, 2)) * 3600 +
+                                 NumberIn(text.substr(14, 2)) * 60 + NumberIn(text.substr(17, 2));
+  return DaysSince1970(date) * 86400 + static_cast<int64_t>(second_of_day);
+}
+
+// A month or day that there is not, or an hour 24, comes back as another moment.
+bool MillisecondsOf(std::string_view text, uint64_t* time) {
+  if (!HasForm(text) || text.substr(0, 4) < "1970" || text.substr(5, 2) == "00") return false;
+  const int64_t seconds = SecondsOf(text);
+  if (seconds < 0) return false;
+  *time = static_cast<uint64_t>(seconds) * 1000 + NumberIn(text.substr(20, 3));
   const uint64_t moment = *time;
   return moment <= kLastMillisecond &&
          TextOf([moment](Output* out) { PutMilliseconds(moment, out); }) == text;
