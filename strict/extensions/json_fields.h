@@ -8,6 +8,9 @@ namespace Ortholan::strict {
 
 // Refuses a value or a member at its place; false.
 bool RefuseJson(ortholan_reason reason, std::string_view rest, Refusal* refusal);
+inline bool RefuseJson(ortholan_reason reason, const JsonValue& json, Refusal* refusal) {
+  return RefuseJson(reason, json.rest, refusal);
+}
 
 // Takes the members of an object apart by name: `values[i]` is that of `names[i]`, null where it is
 // not there. Refuses what is no object, a member of another name, and one that stands twice.

@@ -20,19 +20,15 @@ constexpr int64_t kMostBit = 0xFFFFF;
 using Leaf = bool (*)(const Shape& shape, const JsonValue& json, std::string* content,
                       Refusal* refusal);
 
-bool Fail(ortholan_reason reason, const JsonValue& json, Refusal* refusal) {
-  return RefuseJson(reason, json.rest, refusal);
-}
-
 bool BooleanOf(const Shape&, const JsonValue& json, std::string* content, Refusal* refusal) {
   *content = json.form == JsonForm::kTrue ? '\xFF' : '\0';
   return json.form == JsonForm::kTrue || json.form == JsonForm::kFalse ||
-         Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+         RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
 }
 
 bool NullOf(const Shape&, const JsonValue& json, std::string* content, Refusal* refusal) {
   content->clear();
-  return json.form == JsonForm::kNull || Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  return json.form == JsonForm::kNull || RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
 }
 
 // X.690 8.3.2: as few octets as hold the number and its sign.
@@ -62,9 +58,9 @@ bool NumberOf(const Shape& shape, const JsonValue& json, int64_t* number) {
 }
 
 bool FailNumber(const JsonValue& json, Refusal* refusal) {
-  if (json.form == JsonForm::kNumber) return Fail(ORTHOLAN_REASON_JSON_NUMBER, json, refusal);
-  return Fail(json.IsString() ? ORTHOLAN_REASON_JSON_WORD : ORTHOLAN_REASON_JSON_FORM, json,
-              refusal);
+  if (json.form == JsonForm::kNumber) return RefuseJson(ORTHOLAN_REASON_JSON_NUMBER, json, refusal);
+  return RefuseJson(json.IsString() ? ORTHOLAN_REASON_JSON_WORD : ORTHOLAN_REASON_JSON_FORM, json,
+                    refusal);
 }
 
 bool IsMinimal(std::string_view content) {
@@ -81,19 +77,19 @@ bool IntegerOf(const Shape& shape, const JsonValue& json, std::string* content, 
   }
   if (!json.IsString()) return FailNumber(json, refusal);
   return OctetsOfJson(json, content, refusal) &&
-         (IsMinimal(*content) || Fail(ORTHOLAN_REASON_JSON_TEXT, json, refusal));
+         (IsMinimal(*content) || RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal));
 }
 
 // X.690 11.2: no zeros behind the last bit.
 bool BitsOf(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal) {
-  if (json.form != JsonForm::kArray) return Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  if (json.form != JsonForm::kArray) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
   content->assign(1, '\0');
   size_t bits = 0;
   for (const JsonMember& member : json.members) {
     int64_t bit = 0;
     if (!NumberOf(shape, member.value, &bit)) return FailNumber(member.value, refusal);
     if (bit < 0 || bit > kMostBit) {
-      return Fail(ORTHOLAN_REASON_JSON_NUMBER, member.value, refusal);
+      return RefuseJson(ORTHOLAN_REASON_JSON_NUMBER, member.value, refusal);
     }
     const auto place = static_cast<size_t>(bit);
     bits = std::max(bits, place + 1);
@@ -107,19 +103,19 @@ bool BitsOf(const Shape& shape, const JsonValue& json, std::string* content, Ref
 bool OctetsOf(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal) {
   if (!OctetsOfJson(json, content, refusal)) return false;
   return shape.kind != ShapeKind::kTlsFixed || content->size() == shape.number ||
-         Fail(ORTHOLAN_REASON_TLS_SIZE, json, refusal);
+         RefuseJson(ORTHOLAN_REASON_TLS_SIZE, json, refusal);
 }
 
 bool OidOf(const Shape&, const JsonValue& json, std::string* content, Refusal* refusal) {
-  if (!json.IsString()) return Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  if (!json.IsString()) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
   bool is_oid = true;
   *content = TextOf([&](Output* out) { is_oid = PutIdentifierOf(json.text, out); });
-  return is_oid || Fail(ORTHOLAN_REASON_JSON_WORD, json, refusal);
+  return is_oid || RefuseJson(ORTHOLAN_REASON_JSON_WORD, json, refusal);
 }
 
 // "2026-11-21T22:05:00Z" without what is no digit, and in a UTCTime without the century.
 bool TimeOf(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal) {
-  if (!json.IsString()) return Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  if (!json.IsString()) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
   content->clear();
   for (const char c : json.text) {
     if (IsAsciiDigit(static_cast<uint8_t>(c)) || c == 'Z') *content += c;
@@ -128,7 +124,7 @@ bool TimeOf(const Shape& shape, const JsonValue& json, std::string* content, Ref
   if (identifier == kUtcTime && content->size() > 2) content->erase(0, 2);
   const ByteView octets = AsBytes(content->data(), content->size());
   return TextOf([=](Output* out) { PutTimeText(identifier, octets, out); }) == json.text ||
-         Fail(ORTHOLAN_REASON_JSON_TEXT, json, refusal);
+         RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal);
 }
 
 // Numbers of TLS, the most significant octet first.
@@ -139,9 +135,10 @@ std::string TlsContentOf(uint64_t number, size_t octets) {
 }
 
 bool TlsTimeOf(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal) {
-  if (!json.IsString()) return Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  if (!json.IsString()) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
   uint64_t time = 0;
-  if (!MillisecondsOf(json.text, &time)) return Fail(ORTHOLAN_REASON_JSON_TEXT, json, refusal);
+  if (!MillisecondsOf(json.text, &time))
+    return RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal);
   *content = TlsContentOf(time, shape.number);
   return true;
 }
@@ -151,7 +148,7 @@ bool TlsNumberOf(const Shape& shape, const JsonValue& json, std::string* content
   int64_t number = 0;
   if (!NumberOf(shape, json, &number)) return FailNumber(json, refusal);
   if (number < 0 || number >> (8 * shape.number) != 0) {
-    return Fail(ORTHOLAN_REASON_JSON_NUMBER, json, refusal);
+    return RefuseJson(ORTHOLAN_REASON_JSON_NUMBER, json, refusal);
   }
   *content = TlsContentOf(static_cast<uint64_t>(number), shape.number);
   return true;
@@ -191,7 +188,7 @@ bool LeafOfJson(const Shape& shape, const JsonValue& json, std::string* content,
   for (const LeafRow& row : kLeaves) {
     if (row.kind == shape.kind) return row.make(shape, json, content, refusal);
   }
-  return Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
 }
 
 }  // namespace Ortholan::strict

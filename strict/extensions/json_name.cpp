@@ -15,19 +15,15 @@
 namespace Ortholan::strict {
 namespace {
 
-enum Part : size_t { kKind, kText, kOctetsPart, kPartCount };
-constexpr const char* kParts[] = {"kind", "text", "octets"};
-
-bool Fail(ortholan_reason reason, const JsonValue& json, Refusal* refusal) {
-  return RefuseJson(reason, json.rest, refusal);
-}
+enum NamePart : size_t { kKind, kText, kNameOctets, kNamePartCount };
+constexpr const char* kNameParts[] = {"kind", "text", "octets"};
 
 // The parts of {"kind","text","octets"} that stand there, all of them strings.
 bool TakeParts(const JsonValue& json, const JsonValue** parts, Refusal* refusal) {
-  if (!TakeMembers(json, kParts, kPartCount, parts, refusal)) return false;
-  for (size_t i = 0; i < kPartCount; ++i) {
+  if (!TakeMembers(json, kNameParts, kNamePartCount, parts, refusal)) return false;
+  for (size_t i = 0; i < kNamePartCount; ++i) {
     if (parts[i] != nullptr && !parts[i]->IsString()) {
-      return Fail(ORTHOLAN_REASON_JSON_FORM, *parts[i], refusal);
+      return RefuseJson(ORTHOLAN_REASON_JSON_FORM, *parts[i], refusal);
     }
   }
   return true;
@@ -67,7 +63,7 @@ bool NameOfText(const Shape& shape, const std::string& text, const JsonValue& js
     BackwardOutput measure(nullptr, 0);
     Refusal found;
     if (!PutGeneralNameOfText(text, is_base, &measure, &found)) {
-      return Fail(found.reason, json, refusal);
+      return RefuseJson(found.reason, json, refusal);
     }
     element->assign(measure.size(), '\0');
     BackwardOutput out(element->data(), element->size());
@@ -75,13 +71,13 @@ bool NameOfText(const Shape& shape, const std::string& text, const JsonValue& js
   }
   Refusal found;
   return CheckByShape(shape, Bytes(*element), Leniency::kDer, &found) ||
-         Fail(found.reason, json, refusal);
+         RefuseJson(found.reason, json, refusal);
 }
 
 // Octets stand for themselves; kind and text beside them have to be theirs.
 bool NameOfOctets(const Shape& shape, const JsonValue* const* parts, std::string* element,
                   Refusal* refusal) {
-  const JsonValue& octets = *parts[kOctetsPart];
+  const JsonValue& octets = *parts[kNameOctets];
   if (!OctetsOfJson(octets, element, refusal)) return false;
   struct Keep final : ShapeVisitor {
     void Leaf(const Shape&, const Element& each) override { name = each; }
@@ -89,14 +85,14 @@ bool NameOfOctets(const Shape& shape, const JsonValue* const* parts, std::string
   } keep;
   Refusal found;
   if (!ReadByShape(shape, Bytes(*element), Leniency::kDer, &keep, &found)) {
-    return Fail(found.reason, octets, refusal);
+    return RefuseJson(found.reason, octets, refusal);
   }
   const std::string text = TextOfName(keep.name);
   const size_t colon = text.find(':');
   const bool is_same =
       (parts[kKind] == nullptr || text.compare(0, colon, parts[kKind]->text) == 0) &&
       (parts[kText] == nullptr || text.compare(colon + 1, text.npos, parts[kText]->text) == 0);
-  return is_same || Fail(ORTHOLAN_REASON_JSON_DIFFERENT, octets, refusal);
+  return is_same || RefuseJson(ORTHOLAN_REASON_JSON_DIFFERENT, octets, refusal);
 }
 
 bool RdnOfOctets(const JsonValue& octets, const JsonValue* text, std::string* content,
@@ -105,10 +101,10 @@ bool RdnOfOctets(const JsonValue& octets, const JsonValue* text, std::string* co
   Refusal found;
   size_t count = 0;
   if (!CheckRdn(Bytes(*content), Leniency::kDer, &found, &count)) {
-    return Fail(found.reason, octets, refusal);
+    return RefuseJson(found.reason, octets, refusal);
   }
   return text == nullptr || TextOfRdn(Bytes(*content)) == text->text ||
-         Fail(ORTHOLAN_REASON_JSON_DIFFERENT, octets, refusal);
+         RefuseJson(ORTHOLAN_REASON_JSON_DIFFERENT, octets, refusal);
 }
 
 uint8_t FirstString(uint32_t identifiers) {
@@ -121,10 +117,10 @@ uint8_t FirstString(uint32_t identifiers) {
 }  // namespace
 
 bool TextOfJson(uint8_t identifier, const JsonValue& json, std::string* content, Refusal* refusal) {
-  if (!json.IsString()) return Fail(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  if (!json.IsString()) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
   StringFault fault;
   *content = TextOf([&](Output* out) { fault = PutString(identifier, Bytes(json.text), out); });
-  return fault.reason == ORTHOLAN_REASON_NONE || Fail(fault.reason, json, refusal);
+  return fault.reason == ORTHOLAN_REASON_NONE || RefuseJson(fault.reason, json, refusal);
 }
 
 bool StringOfJson(uint32_t identifiers, const JsonValue& json, std::string* element,
@@ -132,14 +128,14 @@ bool StringOfJson(uint32_t identifiers, const JsonValue& json, std::string* elem
   uint8_t identifier = FirstString(identifiers);
   const JsonValue* text = &json;
   if (!json.IsString()) {
-    const JsonValue* parts[kPartCount];
-    if (!TakeMembers(json, kParts, kOctetsPart, parts, refusal)) return false;
+    const JsonValue* parts[kNamePartCount];
+    if (!TakeMembers(json, kNameParts, kNameOctets, parts, refusal)) return false;
     if (parts[kKind] == nullptr || parts[kText] == nullptr) {
-      return Fail(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
+      return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
     }
     identifier = StringKindOf(parts[kKind]->text);
     if (identifier == 0 || (identifiers >> identifier & 1) == 0) {
-      return Fail(ORTHOLAN_REASON_JSON_WORD, *parts[kKind], refusal);
+      return RefuseJson(ORTHOLAN_REASON_JSON_WORD, *parts[kKind], refusal);
     }
     text = parts[kText];
   }
@@ -150,30 +146,30 @@ bool StringOfJson(uint32_t identifiers, const JsonValue& json, std::string* elem
 }
 
 bool NameOfJson(const Shape& shape, const JsonValue& json, std::string* element, Refusal* refusal) {
-  const JsonValue* parts[kPartCount];
+  const JsonValue* parts[kNamePartCount];
   if (!TakeParts(json, parts, refusal)) return false;
-  if (parts[kOctetsPart] != nullptr) return NameOfOctets(shape, parts, element, refusal);
+  if (parts[kNameOctets] != nullptr) return NameOfOctets(shape, parts, element, refusal);
   if (parts[kKind] == nullptr || parts[kText] == nullptr) {
-    return Fail(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
+    return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
   }
   return NameOfText(shape, parts[kKind]->text + ":" + parts[kText]->text, *parts[kText], element,
                     refusal);
 }
 
 bool RdnOfJson(const JsonValue& json, std::string* content, Refusal* refusal) {
-  const JsonValue* parts[kPartCount] = {};
+  const JsonValue* parts[kNamePartCount] = {};
   const JsonValue* text = &json;
   if (!json.IsString()) {
     if (!TakeParts(json, parts, refusal)) return false;
     text = parts[kText];
-    if (parts[kKind] != nullptr) return Fail(ORTHOLAN_REASON_JSON_MEMBER, json, refusal);
-    if (parts[kOctetsPart] != nullptr) {
-      return RdnOfOctets(*parts[kOctetsPart], text, content, refusal);
+    if (parts[kKind] != nullptr) return RefuseJson(ORTHOLAN_REASON_JSON_MEMBER, json, refusal);
+    if (parts[kNameOctets] != nullptr) {
+      return RdnOfOctets(*parts[kNameOctets], text, content, refusal);
     }
-    if (text == nullptr) return Fail(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
+    if (text == nullptr) return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
   }
   Refusal found;
-  return RdnOfText(text->text, content, &found) || Fail(found.reason, *text, refusal);
+  return RdnOfText(text->text, content, &found) || RefuseJson(found.reason, *text, refusal);
 }
 
 }  // namespace Ortholan::strict

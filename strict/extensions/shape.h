@@ -82,14 +82,14 @@ enum class Presence : uint8_t {
 };
 enum class Tagging : uint8_t { kNone, kImplicit, kExplicit };
 
-constexpr size_t kNoPlace = SIZE_MAX;
+constexpr size_t kNoMember = SIZE_MAX;
 
 // A part of a SEQUENCE, or an alternative of a CHOICE.
 struct Field {
   const char* name;   // as in its ASN.1
   const char* words;  // for people; "" for what stands on the line of the whole
   const Shape* shape;
-  size_t place;  // offset in the structure of C; kNoPlace where there is none
+  size_t place;  // offset in the structure of C; kNoMember where there is none
   Presence presence = Presence::kRequired;
   Tagging tagging = Tagging::kNone;
   uint8_t tag = 0;

@@ -91,8 +91,8 @@ class Filler final : public ShapeVisitor {
 
 void Filler::BeginField(const Field& field, ByteView bytes) {
   if (passed_ != 0) return;
-  is_whole_ = field.place == kNoPlace || field.shape->kind == ShapeKind::kOpen;
-  if (field.place == kNoPlace) return;
+  is_whole_ = field.place == kNoMember || field.shape->kind == ShapeKind::kOpen;
+  if (field.place == kNoMember) return;
   place_ = base_ + field.place;
   bytes_ = bytes;
   if (is_whole_) Store(Octets(bytes), place_);

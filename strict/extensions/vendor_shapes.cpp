@@ -14,7 +14,6 @@ static constexpr NumberName kNetscapeTypes[] = {
 const Shape kNetscapeTypeShape = NamedBits(kNetscapeTypes);
 
 // 1.2.840.113533.7.65.0
-constexpr uint8_t kGeneralString = 0x1B;
 static constexpr NumberName kEntrustFlags[] = {
     {0, "keyUpdateAllowed"},   {1, "newExtensions"}, {2, "pKIXCertificate"},
     {3, "enterpriseCategory"}, {4, "webCategory"},   {5, "sETCategory"},
@@ -22,8 +21,8 @@ static constexpr NumberName kEntrustFlags[] = {
 static constexpr Shape kEntrustTextShape = AsciiIn(kGeneralString);
 static constexpr Shape kEntrustFlagsShape = NamedBits(kEntrustFlags);
 static constexpr Field kEntrustFields[] = {
-    {"entrustVers", "version", &kEntrustTextShape, kNoPlace},
-    {"entrustInfoFlags", "flags", &kEntrustFlagsShape, kNoPlace},
+    {"entrustVers", "version", &kEntrustTextShape, kNoMember},
+    {"entrustInfoFlags", "flags", &kEntrustFlagsShape, kNoMember},
 };
 const Shape kEntrustVersionShape = Sequence(kEntrustFields);
 
@@ -39,33 +38,33 @@ const Shape kCapabilitiesShape = SequenceOf(&kCapabilityShape);
 
 // RFC 3820 3.8
 static constexpr Field kProxyPolicyFields[] = {
-    {"policyLanguage", "", &kOidShape, kNoPlace},
-    {"policy", "policy", &kOctetsShape, kNoPlace, Presence::kOptional},
+    {"policyLanguage", "", &kOidShape, kNoMember},
+    {"policy", "policy", &kOctetsShape, kNoMember, Presence::kOptional},
 };
 static constexpr Shape kProxyPolicyShape = Sequence(kProxyPolicyFields);
 static constexpr Field kProxyFields[] = {
-    {"pCPathLenConstraint", "path length", &kNumberShape, kNoPlace, Presence::kOptional},
-    {"proxyPolicy", "language of the policy", &kProxyPolicyShape, kNoPlace},
+    {"pCPathLenConstraint", "path length", &kNumberShape, kNoMember, Presence::kOptional},
+    {"proxyPolicy", "language of the policy", &kProxyPolicyShape, kNoMember},
 };
 const Shape kProxyInformationShape = Sequence(kProxyFields);
 
 // 1.2.643.100.112, tools of a signing authority
 static constexpr Field kToolFields[] = {
-    {"signTool", "signing tool", &kUtf8Shape, kNoPlace},
-    {"cATool", "tool of the authority", &kUtf8Shape, kNoPlace},
-    {"signToolCert", "certificate of the signing tool", &kUtf8Shape, kNoPlace},
-    {"cAToolCert", "certificate of the authority's tool", &kUtf8Shape, kNoPlace},
+    {"signTool", "signing tool", &kUtf8Shape, kNoMember},
+    {"cATool", "tool of the authority", &kUtf8Shape, kNoMember},
+    {"signToolCert", "certificate of the signing tool", &kUtf8Shape, kNoMember},
+    {"cAToolCert", "certificate of the authority's tool", &kUtf8Shape, kNoMember},
 };
 const Shape kIssuerSignToolShape = Sequence(kToolFields);
 
 // 1.2.840.113583.1.1.9.1 and .2
-static constexpr Field kTimestampFields[] = {
-    {"version", "version", &kNumberShape, kNoPlace},
-    {"location", "location", &kNameShape, kNoPlace},
-    {"requiresAuth", "requires authentication", &kFlagShape, kNoPlace, Presence::kDefault},
+static constexpr Field kAdobeFields[] = {
+    {"version", "version", &kNumberShape, kNoMember},
+    {"location", "location", &kNameShape, kNoMember},
+    {"requiresAuth", "requires authentication", &kFlagShape, kNoMember, Presence::kDefault},
 };
-const Shape kAdobeTimestampShape = Sequence(kTimestampFields);
-static constexpr Field kArchiveFields[] = {{"version", "version", &kNumberShape, kNoPlace}};
+const Shape kAdobeTimestampShape = Sequence(kAdobeFields);
+static constexpr Field kArchiveFields[] = {{"version", "version", &kNumberShape, kNoMember}};
 const Shape kAdobeArchiveShape = Sequence(kArchiveFields);
 
 }  // namespace Ortholan::strict

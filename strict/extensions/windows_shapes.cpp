@@ -33,8 +33,8 @@ const Shape kSecurityIdentifierShape = Sequence(kSidNameFields);
 // 1.3.6.1.4.1.311.21.4: a Time of X.509.
 static constexpr Shape kUtcTimeShape = {ShapeKind::kUtcTime};
 static constexpr Field kTimeFields[] = {
-    {"utcTime", "time", &kUtcTimeShape, kNoPlace},
-    {"generalTime", "time", &kTimeShape, kNoPlace},
+    {"utcTime", "time", &kUtcTimeShape, kNoMember},
+    {"generalTime", "time", &kTimeShape, kNoMember},
 };
 const Shape kNextPublishShape = Choice(kTimeFields);
 
