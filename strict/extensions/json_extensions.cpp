@@ -14,17 +14,13 @@
 namespace Ortholan::strict {
 namespace {
 
-enum Part : size_t { kOidPart, kName, kCritical, kValue, kPartCount };
-constexpr const char* kParts[] = {"oid", "name", "critical", "value"};
+enum ExtensionPart : size_t { kOidPart, kName, kCritical, kValue, kExtensionPartCount };
+constexpr const char* kExtensionParts[] = {"oid", "name", "critical", "value"};
 
 struct Parts {
-  const JsonValue* values[kPartCount];
+  const JsonValue* values[kExtensionPartCount];
   std::string oid;
 };
-
-bool Fail(ortholan_reason reason, const JsonValue& json, Refusal* refusal) {
-  return RefuseJson(reason, json.rest, refusal);
-}
 
 // The identifier that name and dotted digits stand for, where both are there the same.
 bool ReadOid(const JsonValue& json, Parts* parts, Refusal* refusal) {
@@ -33,26 +29,30 @@ bool ReadOid(const JsonValue& json, Parts* parts, Refusal* refusal) {
   if (digits != nullptr) {
     bool is_oid = digits->IsString();
     parts->oid = TextOf([&](Output* out) { is_oid = PutIdentifier(digits->text, out) && is_oid; });
-    if (!is_oid) return Fail(ORTHOLAN_REASON_EXTENSION_TYPE, *digits, refusal);
+    if (!is_oid) return RefuseJson(ORTHOLAN_REASON_EXTENSION_TYPE, *digits, refusal);
   }
-  if (name == nullptr) return digits != nullptr || Fail(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
+  if (name == nullptr)
+    return digits != nullptr || RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
   const KnownExtension* const known = FindExtension(std::string_view(name->text));
-  if (known == nullptr) return Fail(ORTHOLAN_REASON_EXTENSION_TYPE, *name, refusal);
+  if (known == nullptr) return RefuseJson(ORTHOLAN_REASON_EXTENSION_TYPE, *name, refusal);
   const std::string_view oid = AsText(known->oid.view());
   if (digits != nullptr && parts->oid != oid) {
-    return Fail(ORTHOLAN_REASON_JSON_DIFFERENT, *name, refusal);
+    return RefuseJson(ORTHOLAN_REASON_JSON_DIFFERENT, *name, refusal);
   }
   parts->oid = oid;
   return true;
 }
 
 bool ReadParts(const JsonValue& json, Parts* parts, Refusal* refusal) {
-  if (!TakeMembers(json, kParts, kPartCount, parts->values, refusal)) return false;
+  if (!TakeMembers(json, kExtensionParts, kExtensionPartCount, parts->values, refusal))
+    return false;
   if (!ReadOid(json, parts, refusal)) return false;
-  if (parts->values[kValue] == nullptr) return Fail(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
+  if (parts->values[kValue] == nullptr)
+    return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
   const JsonValue* const critical = parts->values[kCritical];
   return critical == nullptr || critical->form == JsonForm::kTrue ||
-         critical->form == JsonForm::kFalse || Fail(ORTHOLAN_REASON_JSON_FORM, *critical, refusal);
+         critical->form == JsonForm::kFalse ||
+         RefuseJson(ORTHOLAN_REASON_JSON_FORM, *critical, refusal);
 }
 
 bool PutExtensionOf(const Parts& parts, BackwardOutput* out, Refusal* refusal) {
@@ -76,13 +76,13 @@ bool PutExtensionsOfJson(const JsonValue& json, BackwardOutput* out, Refusal* re
   if (json.form != JsonForm::kArray) {
     return ReadParts(json, &parts, refusal) && PutExtensionOf(parts, out, refusal);
   }
-  if (json.members.empty()) return Fail(ORTHOLAN_REASON_EMPTY, json, refusal);
+  if (json.members.empty()) return RefuseJson(ORTHOLAN_REASON_EMPTY, json, refusal);
   std::set<std::string> seen;
   for (size_t i = json.members.size(); i-- != 0;) {
     const JsonValue& extension = json.members[i].value;
     if (!ReadParts(extension, &parts, refusal)) return false;
     if (!seen.insert(parts.oid).second) {
-      return Fail(ORTHOLAN_REASON_DUPLICATE_EXTENSION, extension, refusal);
+      return RefuseJson(ORTHOLAN_REASON_DUPLICATE_EXTENSION, extension, refusal);
     }
     if (!PutExtensionOf(parts, out, refusal)) return false;
   }

@@ -10,7 +10,7 @@
 #include "strict/extensions/json_fields.h"
 #include "strict/extensions/json_name.h"
 #include "strict/extensions/leaf_text.h"
-#include "strict/extensions/milliseconds.h"
+#include "strict/extensions/moment.h"
 
 namespace Ortholan::strict {
 namespace {

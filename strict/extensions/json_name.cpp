@@ -15,7 +15,7 @@
 namespace Ortholan::strict {
 namespace {
 
-enum NamePart : size_t { kKind, kText, kOctetsPart, kNamePartCount };
+enum NamePart : size_t { kKind, kText, kNameOctets, kNamePartCount };
 constexpr const char* kNameParts[] = {"kind", "text", "octets"};
 
 // The parts of {"kind","text","octets"} that stand there, all of them strings.
@@ -77,7 +77,7 @@ bool NameOfText(const Shape& shape, const std::string& text, const JsonValue& js
 // Octets stand for themselves; kind and text beside them have to be theirs.
 bool NameOfOctets(const Shape& shape, const JsonValue* const* parts, std::string* element,
                   Refusal* refusal) {
-  const JsonValue& octets = *parts[kOctetsPart];
+  const JsonValue& octets = *parts[kNameOctets];
   if (!OctetsOfJson(octets, element, refusal)) return false;
   struct Keep final : ShapeVisitor {
     void Leaf(const Shape&, const Element& each) override { name = each; }
@@ -129,7 +129,7 @@ bool StringOfJson(uint32_t identifiers, const JsonValue& json, std::string* elem
   const JsonValue* text = &json;
   if (!json.IsString()) {
     const JsonValue* parts[kNamePartCount];
-    if (!TakeMembers(json, kNameParts, kOctetsPart, parts, refusal)) return false;
+    if (!TakeMembers(json, kNameParts, kNameOctets, parts, refusal)) return false;
     if (parts[kKind] == nullptr || parts[kText] == nullptr) {
       return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
     }
@@ -148,7 +148,7 @@ bool StringOfJson(uint32_t identifiers, const JsonValue& json, std::string* elem
 bool NameOfJson(const Shape& shape, const JsonValue& json, std::string* element, Refusal* refusal) {
   const JsonValue* parts[kNamePartCount];
   if (!TakeParts(json, parts, refusal)) return false;
-  if (parts[kOctetsPart] != nullptr) return NameOfOctets(shape, parts, element, refusal);
+  if (parts[kNameOctets] != nullptr) return NameOfOctets(shape, parts, element, refusal);
   if (parts[kKind] == nullptr || parts[kText] == nullptr) {
     return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
   }
@@ -163,8 +163,8 @@ bool RdnOfJson(const JsonValue& json, std::string* content, Refusal* refusal) {
     if (!TakeParts(json, parts, refusal)) return false;
     text = parts[kText];
     if (parts[kKind] != nullptr) return RefuseJson(ORTHOLAN_REASON_JSON_MEMBER, json, refusal);
-    if (parts[kOctetsPart] != nullptr) {
-      return RdnOfOctets(*parts[kOctetsPart], text, content, refusal);
+    if (parts[kNameOctets] != nullptr) {
+      return RdnOfOctets(*parts[kNameOctets], text, content, refusal);
     }
     if (text == nullptr) return RefuseJson(ORTHOLAN_REASON_JSON_LACKS, json, refusal);
   }

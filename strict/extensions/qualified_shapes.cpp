@@ -1,54 +1,58 @@
 #include "strict/extensions/qualified_shapes.h"
 
+#include <ortholan/strict/extension_values.h>
+
 #include "strict/extensions/common_shapes.h"
 
 namespace Ortholan::strict {
 
 // RFC 3739 3.2.6
 static constexpr Field kSemanticsFields[] = {
-    {"semanticsIdentifier", "semantics", &kOidShape, Presence::kOptional},
-    {"nameRegistrationAuthorities", "name registration authorities", &kNamesShape,
+    {"semanticsIdentifier", "semantics", &kOidShape, offsetof(ortholan_qc_semantics, oid),
      Presence::kOptional},
+    {"nameRegistrationAuthorities", "name registration authorities", &kNamesShape,
+     offsetof(ortholan_qc_semantics, authorities), Presence::kOptional},
 };
-static constexpr Shape kSemanticsShape = Sequence(kSemanticsFields);
+const Shape kSemanticsShape = Sequence(kSemanticsFields);
 
 // ETSI EN 319 412-5 4.3.2
 static constexpr Field kCurrencyFields[] = {
-    {"alphabetic", "currency", &kPrintableShape},
-    {"numeric", "currency", &kNumberShape},
+    {"alphabetic", "currency", &kPrintableShape, offsetof(ortholan_qc_currency, alphabetic)},
+    {"numeric", "currency", &kNumberShape, offsetof(ortholan_qc_currency, numeric)},
 };
 static constexpr Shape kCurrencyShape = Choice(kCurrencyFields);
 static constexpr Field kValueFields[] = {
-    {"currency", "currency", &kCurrencyShape},
-    {"amount", "amount", &kNumberShape},
-    {"exponent", "exponent of 10", &kNumberShape},
+    {"currency", "currency", &kCurrencyShape, offsetof(ortholan_qc_limit, currency)},
+    {"amount", "amount", &kNumberShape, offsetof(ortholan_qc_limit, amount)},
+    {"exponent", "exponent of 10", &kNumberShape, offsetof(ortholan_qc_limit, exponent)},
 };
-static constexpr Shape kValueShape = Sequence(kValueFields);
+const Shape kValueShape = Sequence(kValueFields);
 
 // 4.3.4
 static constexpr Field kPlaceFields[] = {
-    {"url", "", &kIA5Shape},
-    {"language", "language", &kPrintableShape},
+    {"url", "", &kIA5Shape, offsetof(ortholan_qc_place, url)},
+    {"language", "language", &kPrintableShape, offsetof(ortholan_qc_place, language)},
 };
-static constexpr Shape kPlaceShape = Sequence(kPlaceFields, "disclosure statement");
-static constexpr Shape kPlacesShape = SequenceOf(&kPlaceShape);
+const Shape kPlaceShape = Sequence(kPlaceFields, "disclosure statement");
+const Shape kPlacesShape = SequenceOf(&kPlaceShape);
 
 // 4.2.4
-static constexpr Shape kCountriesShape = SequenceOf(&kPrintableShape);
+const Shape kCountriesShape = SequenceOf(&kPrintableShape);
 
 // ETSI TS 119 495 5.1
 static constexpr Field kRoleFields[] = {
-    {"roleOfPspOid", "", &kOidShape},
-    {"roleOfPspName", "name", &kUtf8Shape},
+    {"roleOfPspOid", "", &kOidShape, offsetof(ortholan_psd2_role, oid)},
+    {"roleOfPspName", "name", &kUtf8Shape, offsetof(ortholan_psd2_role, name)},
 };
-static constexpr Shape kRoleShape = Sequence(kRoleFields, "role");
+const Shape kRoleShape = Sequence(kRoleFields, "role");
 static constexpr Shape kRolesShape = SequenceOf(&kRoleShape);
 static constexpr Field kPaymentFields[] = {
-    {"rolesOfPSP", "roles", &kRolesShape},
-    {"nCAName", "competent authority", &kUtf8Shape},
-    {"nCAId", "identifier of the authority", &kUtf8Shape},
+    {"rolesOfPSP", "roles", &kRolesShape, offsetof(ortholan_psd2_statement, roles)},
+    {"nCAName", "competent authority", &kUtf8Shape, offsetof(ortholan_psd2_statement, authority)},
+    {"nCAId", "identifier of the authority", &kUtf8Shape,
+     offsetof(ortholan_psd2_statement, authority_identifier)},
 };
-static constexpr Shape kPaymentShape = Sequence(kPaymentFields);
+const Shape kPaymentShape = Sequence(kPaymentFields);
 
 static constexpr OpenType kStatements[] = {
     {"1.3.6.1.5.5.7.11.1", &kSemanticsShape}, {"1.3.6.1.5.5.7.11.2", &kSemanticsShape},
@@ -58,19 +62,23 @@ static constexpr OpenType kStatements[] = {
 };
 static constexpr Shape kInformationShape = Open(kStatements);
 static constexpr Field kStatementFields[] = {
-    {"statementId", "", &kOidShape},
-    {"statementInfo", "value", &kInformationShape, Presence::kOptional},
+    {"statementId", "", &kOidShape, offsetof(ortholan_qc_statement, oid)},
+    {"statementInfo", "value", &kInformationShape, offsetof(ortholan_qc_statement, info),
+     Presence::kOptional},
 };
-static constexpr Shape kStatementShape = Sequence(kStatementFields, "statement");
+const Shape kStatementShape = Sequence(kStatementFields, "statement");
 const Shape kQualifiedStatementsShape = SequenceOf(&kStatementShape);
 
 // Guidelines for extended validation, 9.8.2
 static constexpr Field kOrganizationFields[] = {
-    {"registrationSchemeIdentifier", "scheme", &kPrintableShape},
-    {"registrationCountry", "country", &kPrintableShape},
-    {"registrationStateOrProvince", "state or province", &kPrintableShape, Presence::kOptional,
-     Tagging::kImplicit, 0},
-    {"registrationReference", "reference", &kUtf8Shape},
+    {"registrationSchemeIdentifier", "scheme", &kPrintableShape,
+     offsetof(ortholan_organization_identifier, scheme)},
+    {"registrationCountry", "country", &kPrintableShape,
+     offsetof(ortholan_organization_identifier, country)},
+    {"registrationStateOrProvince", "state or province", &kPrintableShape,
+     offsetof(ortholan_organization_identifier, state), Presence::kOptional, Tagging::kImplicit, 0},
+    {"registrationReference", "reference", &kUtf8Shape,
+     offsetof(ortholan_organization_identifier, reference)},
 };
 const Shape kOrganizationIdentifierShape = Sequence(kOrganizationFields);
 

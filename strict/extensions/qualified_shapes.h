@@ -10,6 +10,16 @@ namespace Ortholan::strict {
 extern const Shape kQualifiedStatementsShape;
 extern const Shape kOrganizationIdentifierShape;
 
+// Parts of these.
+extern const Shape kStatementShape;
+extern const Shape kSemanticsShape;
+extern const Shape kValueShape;
+extern const Shape kPlaceShape;
+extern const Shape kPlacesShape;
+extern const Shape kCountriesShape;
+extern const Shape kRoleShape;
+extern const Shape kPaymentShape;
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_QUALIFIED_SHAPES_H_

@@ -20,6 +20,16 @@ extern const Shape kInformationAccessShape;
 extern const Shape kIssuingDistributionPointShape;
 extern const Shape kReasonCodeShape;
 
+// Parts of these.
+extern const Shape kPolicyShape;
+extern const Shape kQualifierShape;
+extern const Shape kNoticeShape;
+extern const Shape kMappingShape;
+extern const Shape kAttributeShape;
+extern const Shape kSubtreeShape;
+extern const Shape kPointShape;
+extern const Shape kAccessShape;
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_RFC5280_SHAPES_H_

@@ -2,8 +2,10 @@
 // reader, the writer, JSON, words for people and the structures of C all go by these rows.
 //
 //   constexpr Field kFields[] = {
-//       {"cA", "certificate authority", &kFlag, Presence::kToldDefault},
-//       {"pathLenConstraint", "path length", &kNumber, Presence::kOptional},
+//       {"cA", "certificate authority", &kFlag, offsetof(Basic, is_authority),
+//        Presence::kToldDefault},
+//       {"pathLenConstraint", "path length", &kNumber, offsetof(Basic, path_length),
+//        Presence::kOptional},
 //   };
 //   constexpr Shape kBasicConstraints = Sequence(kFields);
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_SHAPE_H_
@@ -80,11 +82,14 @@ enum class Presence : uint8_t {
 };
 enum class Tagging : uint8_t { kNone, kImplicit, kExplicit };
 
+constexpr size_t kNoMember = SIZE_MAX;
+
 // A part of a SEQUENCE, or an alternative of a CHOICE.
 struct Field {
   const char* name;   // as in its ASN.1
   const char* words;  // for people; "" for what stands on the line of the whole
   const Shape* shape;
+  size_t place;  // offset in the structure of C; kNoMember where there is none
   Presence presence = Presence::kRequired;
   Tagging tagging = Tagging::kNone;
   uint8_t tag = 0;

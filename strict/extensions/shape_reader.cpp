@@ -114,7 +114,7 @@ class Walk {
         IsDefault(element.content)) {
       return in->RefuseAt(ORTHOLAN_REASON_DEFAULT, place);
     }
-    visitor_->BeginField(field);
+    visitor_->BeginField(field, element.bytes);
     if (field.tagging == Tagging::kExplicit) return ReadInside(*field.shape, element.content);
     return ReadElement(*field.shape, element);
   }
@@ -140,7 +140,7 @@ class Walk {
     for (const Field& field : shape.fields) {
       if (!MayBegin(field, element.identifier)) continue;
       visitor_->BeginFields(shape);
-      visitor_->BeginField(field);
+      visitor_->BeginField(field, element.bytes);
       const bool is_read = field.tagging == Tagging::kExplicit
                                ? ReadInside(*field.shape, element.content)
                                : ReadElement(*field.shape, element);

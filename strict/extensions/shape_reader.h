@@ -23,8 +23,9 @@ class ShapeVisitor {
   virtual void EndList(const Shape&, ByteView content, size_t count) {
     static_cast<void>(content), static_cast<void>(count);
   }
-  // What comes next is the value of the field.
-  virtual void BeginField(const Field&) {}
+  // What comes next is the value of the field, which stands there with its tag as `bytes`; a field
+  // of a TLS record has none.
+  virtual void BeginField(const Field&, ByteView bytes) { static_cast<void>(bytes); }
   // The field has its default.
   virtual void Default(const Field&) {}
   // A value without parts. Of a type that nobody knows the shape is kAny.

@@ -2,7 +2,7 @@
 
 #include <ortholan/strict/extensions.h>
 
-#include "strict/extensions/milliseconds.h"
+#include "strict/extensions/moment.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -28,6 +28,10 @@ class TlsWalk {
       default:
         return Take(in, shape.number, &part) && Tell(shape, part);
     }
+  }
+  // An element of a list, behind its size.
+  bool ReadSized(const Shape& shape, ByteView* in, ByteView* bytes) {
+    return TakeVector(in, bytes) && ReadElement(shape, *bytes);
   }
   bool End(ByteView rest) { return rest.empty() || Fail(ORTHOLAN_REASON_TLS_SIZE, rest); }
 
@@ -55,7 +59,7 @@ class TlsWalk {
     size_t count = 0;
     visitor_->BeginList(shape);
     for (ByteView rest = content, element; !rest.empty(); ++count) {
-      if (!TakeVector(&rest, &element) || !ReadElement(*shape.element, element)) return false;
+      if (!ReadSized(*shape.element, &rest, &element)) return false;
     }
     visitor_->EndList(shape, content, count);
     return true;
@@ -70,7 +74,7 @@ class TlsWalk {
   bool ReadRecord(const Shape& shape, ByteView* in) {
     visitor_->BeginFields(shape);
     for (const Field& field : shape.fields) {
-      visitor_->BeginField(field);
+      visitor_->BeginField(field, {});
       if (!Read(*field.shape, in)) return false;
     }
     visitor_->EndFields(shape);
@@ -86,6 +90,10 @@ class TlsWalk {
 bool ReadTls(const Shape& shape, ByteView in, ShapeVisitor* visitor, Refusal* refusal) {
   TlsWalk walk(visitor, refusal);
   return walk.Read(shape, &in) && walk.End(in);
+}
+
+bool ReadTlsElement(const Shape& shape, ByteView* list, ByteView* bytes, ShapeVisitor* visitor) {
+  return TlsWalk(visitor, nullptr).ReadSized(shape, list, bytes);
 }
 
 }  // namespace Ortholan::strict

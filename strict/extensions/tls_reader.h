@@ -20,6 +20,9 @@ inline uint64_t TlsNumber(ByteView octets) {
 // Reads one value that is the whole of `in`.
 bool ReadTls(const Shape& shape, ByteView in, ShapeVisitor* visitor, Refusal* refusal);
 
+// Takes the element at the front of a list that was read; `*bytes` are those behind its size.
+bool ReadTlsElement(const Shape& shape, ByteView* list, ByteView* bytes, ShapeVisitor* visitor);
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_TLS_READER_H_

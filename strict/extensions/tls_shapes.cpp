@@ -1,5 +1,7 @@
 #include "strict/extensions/tls_shapes.h"
 
+#include <ortholan/strict/extension_values.h>
+
 #include "strict/extensions/common_shapes.h"
 
 namespace Ortholan::strict {
@@ -25,15 +27,16 @@ static constexpr Shape kVectorShape = TlsPart(ShapeKind::kTlsVector);
 static constexpr Shape kHashShape = NamedNumbers(ShapeKind::kTlsNumber, kHashes, 1);
 static constexpr Shape kSignatureShape = NamedNumbers(ShapeKind::kTlsNumber, kSignatures, 1);
 static constexpr Field kTimestampFields[] = {
-    {"sctVersion", "", &kVersionShape},
-    {"logID", "log", &kLogIdShape},
-    {"timestamp", "time", &kTimestampTimeShape},
-    {"extensions", "extensions", &kVectorShape},
-    {"hash", "hash", &kHashShape},
-    {"signature", "signature algorithm", &kSignatureShape},
-    {"signatureValue", "signature", &kVectorShape},
+    {"sctVersion", "", &kVersionShape, offsetof(ortholan_signed_timestamp, version)},
+    {"logID", "log", &kLogIdShape, offsetof(ortholan_signed_timestamp, log_id)},
+    {"timestamp", "time", &kTimestampTimeShape, offsetof(ortholan_signed_timestamp, time)},
+    {"extensions", "extensions", &kVectorShape, offsetof(ortholan_signed_timestamp, extensions)},
+    {"hash", "hash", &kHashShape, offsetof(ortholan_signed_timestamp, hash)},
+    {"signature", "signature algorithm", &kSignatureShape,
+     offsetof(ortholan_signed_timestamp, signature_algorithm)},
+    {"signatureValue", "signature", &kVectorShape, offsetof(ortholan_signed_timestamp, signature)},
 };
-static constexpr Shape kTimestampShape = TlsRecord(kTimestampFields, "signed timestamp");
+const Shape kTimestampShape = TlsRecord(kTimestampFields, "signed timestamp");
 static constexpr Shape kTimestampListShape = TlsList(&kTimestampShape);
 const Shape kTimestampsShape = TlsInOctets(&kTimestampListShape);
 

@@ -9,6 +9,9 @@ namespace Ortholan::strict {
 extern const Shape kTlsFeaturesShape;
 extern const Shape kTimestampsShape;
 
+// Parts of these.
+extern const Shape kTimestampShape;
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_TLS_SHAPES_H_

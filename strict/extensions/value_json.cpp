@@ -4,7 +4,7 @@
 #include "strict/der/string_value.h"
 #include "strict/extensions/identifier_names.h"
 #include "strict/extensions/leaf_text.h"
-#include "strict/extensions/milliseconds.h"
+#include "strict/extensions/moment.h"
 #include "strict/extensions/name_text.h"
 #include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_reader.h"
@@ -20,7 +20,7 @@ class JsonVisitor final : public ShapeVisitor {
   void EndFields(const Shape&) override { json_.End('}'); }
   void BeginList(const Shape&) override { json_.Begin('['); }
   void EndList(const Shape&, ByteView, size_t) override { json_.End(']'); }
-  void BeginField(const Field& field) override { json_.Member(field.name); }
+  void BeginField(const Field& field, ByteView) override { json_.Member(field.name); }
   void Default(const Field& field) override {
     json_.Member(field.name);
     json_.Literal(field.shape->kind == ShapeKind::kBoolean ? "false" : "0");

@@ -6,7 +6,7 @@
 #include "strict/der/string_value.h"
 #include "strict/extensions/identifier_names.h"
 #include "strict/extensions/leaf_text.h"
-#include "strict/extensions/milliseconds.h"
+#include "strict/extensions/moment.h"
 #include "strict/extensions/name_text.h"
 #include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_reader.h"
@@ -34,7 +34,7 @@ class TextVisitor final : public ShapeVisitor {
     if (count == 0) PutLine({}, "none");
     Leave();
   }
-  void BeginField(const Field& field) override {
+  void BeginField(const Field& field, ByteView) override {
     if (*field.words != '\0') label_ = field.words;
   }
   void Default(const Field& field) override {

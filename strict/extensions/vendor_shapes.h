@@ -14,6 +14,9 @@ extern const Shape kIssuerSignToolShape;
 extern const Shape kAdobeTimestampShape;
 extern const Shape kAdobeArchiveShape;
 
+// Parts of these.
+extern const Shape kCapabilityShape;
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_VENDOR_SHAPES_H_
