@@ -6,6 +6,7 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/certificates.hpp>
+#include <ortholan/strict/check.hpp>
 #include <ortholan/strict/constraints.hpp>
 #include <ortholan/strict/extension_values.hpp>
 #include <ortholan/strict/extensions.hpp>
