@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "examples/commands.h"
-#include "examples/document.h"
 #include "examples/document_file.h"
 #include "examples/failure.h"
 #include "examples/general_names.h"

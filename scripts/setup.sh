@@ -18,7 +18,7 @@ case ${1-} in
   demo) packages=("${demo[@]}") ;;
   native) packages=("${native[@]}") ;;
   test)
-    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb jq
       libgnutls28-dev libssl-dev lld mandoc pkg-config python3 valgrind zsh)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
