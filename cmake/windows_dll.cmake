@@ -14,6 +14,8 @@ set_source_files_properties(platform/windows/ortholan.rc PROPERTIES
 # g++ exports what its attributes mark, but no member that is defined in its class. All members of the
 # list of extensions are exported, the others by their names in the object.
 if(MINGW)
+  set_source_files_properties(extensions/cert_extension_list.cpp PROPERTIES
+    SKIP_UNITY_BUILD_INCLUSION ON)
   set(ORTHOLAN_LIST_OBJECT
     "$<FILTER:$<TARGET_OBJECTS:ortholan_objects>,INCLUDE,cert_extension_list>")
   set(ORTHOLAN_LIST_MEMBERS "${PROJECT_BINARY_DIR}/list_members.def")

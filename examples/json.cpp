@@ -15,7 +15,7 @@ std::string UnitEscape(unsigned unit) {
 }
 
 // RFC 8259 7: a pair of surrogates outside the basic plane.
-std::string Escape(char32_t character) {
+std::string JsonEscape(char32_t character) {
   const auto value = static_cast<unsigned>(character);
   if (value <= 0xFFFF) return UnitEscape(value);
   return UnitEscape(0xD800 + ((value - 0x10000) >> 10)) + UnitEscape(0xDC00 + (value & 0x3FF));
@@ -32,7 +32,7 @@ std::string JsonString(const std::string& text) {
     const char32_t character = TakeCharacter(rest);
     if (character == U'"' || character == U'\\') quoted += '\\';
     if (IsHidden(character)) {
-      quoted += Escape(character);
+      quoted += JsonEscape(character);
     } else {
       quoted.append(start, rest.data());
     }

@@ -24,15 +24,15 @@ const Option kOptionsOption = {"--options", "N",
 
 namespace {
 
-struct Word {
+struct OptionWord {
   const char* text;
   DWORD bits;
 };
-constexpr Word kStyles[] = {
+constexpr OptionWord kStyles[] = {
     {"values", ORTHOLAN_STYLE_VALUES}, {"1", ORTHOLAN_STYLE_VALUES},  {"oids", ORTHOLAN_STYLE_OIDS},
     {"2", ORTHOLAN_STYLE_OIDS},        {"keys", ORTHOLAN_STYLE_KEYS}, {"3", ORTHOLAN_STYLE_KEYS},
 };
-constexpr Word kSeparators[] = {
+constexpr OptionWord kSeparators[] = {
     {",", ORTHOLAN_ENCODE_COMMA},
     {";", ORTHOLAN_ENCODE_SEMICOLON},
     {"crlf", ORTHOLAN_ENCODE_CRLF},
@@ -44,11 +44,12 @@ constexpr DWORD kDecoderBits = 3 | ORTHOLAN_SEPARATE_SEMICOLON | ORTHOLAN_SEPARA
 
 // The bits of the option's word, 0 where it is not given.
 template <std::size_t Count>
-DWORD WordBits(const Arguments& arguments, const Option& option, const Word (&words)[Count]) {
+DWORD WordBits(const Arguments& arguments, const Option& option, const OptionWord (&words)[Count]) {
   const std::optional<std::string> text = arguments.Value(option.name);
   if (!text) return 0;
-  const auto* const word = std::find_if(std::begin(words), std::end(words),
-                                        [&text](const Word& each) { return *text == each.text; });
+  const auto* const word =
+      std::find_if(std::begin(words), std::end(words),
+                   [&text](const OptionWord& each) { return *text == each.text; });
   if (word == std::end(words)) {
     throw UsageError{std::string(option.name) + ": there is no \"" + *text + "\", but " +
                      option.about};

@@ -9,6 +9,7 @@
 
 #include "examples/der.h"
 #include "examples/failure.h"
+#include "examples/name_options.h"
 #include "examples/name_tree.h"
 #include "examples/text.h"
 
@@ -17,8 +18,6 @@ namespace Example {
 using namespace Ortholan;
 
 namespace {
-
-constexpr DWORD kShortKeys = CERT_X500_NAME_STR;
 
 // What in the tree of `name` the decoders refuse without a code; empty where it is not the tree.
 std::string ShapeFault(const IdentObj& name) {

@@ -10,13 +10,14 @@
 #include <iterator>
 #include <utility>
 
+#include "examples/name_options.h"
+
 namespace Example {
 
 using namespace Ortholan;
 
 namespace {
 
-constexpr DWORD kShortKeys = CERT_X500_NAME_STR;
 constexpr DWORD kObjectIdentifier = 6;
 constexpr DWORD kSequence = 16;
 constexpr DWORD kSet = 17;

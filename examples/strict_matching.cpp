@@ -30,7 +30,7 @@ ortholan::MatchRule EqualRule(const Arguments& arguments) {
   return any_order ? ortholan::kRfc5280 | ortholan::kAnyOrder : ortholan::kRfc5280;
 }
 
-int RunEqual(const Arguments& arguments) {
+int RunStrictEqual(const Arguments& arguments) {
   const IdentObj first = ReadElement(arguments.operands[0], Kind::kName);
   const IdentObj second = ReadElement(arguments.operands[1], Kind::kName);
   return Finish(ortholan::MatchNames(OctetsOf(first), OctetsOf(second), EqualRule(arguments)));
@@ -101,7 +101,7 @@ ItemWork EqualRfc5280Lines(const Arguments& arguments) {
 
 const Option kEqualRfc5280Option = {
     "--rfc5280", nullptr, "as RFC 5280 has it: in order, letter case and blanks do not count",
-    RunEqual};
+    RunStrictEqual};
 const Option kAnyOrderOption = {"--any-order", nullptr, "with --rfc5280: RDNs in any order"};
 
 void RequireRfc5280(const Arguments& arguments) {

@@ -19,6 +19,7 @@
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/kinds.h"
+#include "examples/name_options.h"
 #include "examples/name_text.h"
 #include "examples/progress.h"
 #include "examples/text.h"
@@ -29,7 +30,6 @@ using namespace Ortholan;
 
 namespace {
 
-constexpr DWORD kShortKeys = CERT_X500_NAME_STR;
 constexpr DWORD kIdentifiers = CERT_OID_NAME_STR;
 
 bool EncodeText(const std::wstring& text, IdentObj& der) {

@@ -83,7 +83,7 @@ std::string Escaped(std::string_view text, Escape escape) {
   return shown;
 }
 
-std::string Escape(char32_t character) {
+std::string VisibleEscape(char32_t character) {
   if (character == U'\\') return "\\\\";
   return IsHidden(character) ? CharacterEscape(character) : std::string();
 }
@@ -97,7 +97,7 @@ bool IsHidden(char32_t character) {
   });
 }
 
-std::string Visible(std::string_view text) { return Escaped(text, Escape); }
+std::string Visible(std::string_view text) { return Escaped(text, VisibleEscape); }
 
 std::string VisibleInMessage(std::string_view text) {
   return Escaped(text, [](char32_t character) {
@@ -109,7 +109,7 @@ std::string Output(const std::string& text) {
   if (!IsTerminal(Stream::kOutput)) return text;
   return Escaped(text, [](char32_t character) {
     const bool isLeft = character == U'\r' || character == U'\n' || character == U'\t';
-    return isLeft ? std::string() : Escape(character);
+    return isLeft ? std::string() : VisibleEscape(character);
   });
 }
 

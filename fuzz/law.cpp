@@ -23,4 +23,10 @@ void Break(const char* law, const char* file, int line) {
   std::abort();
 }
 
+std::wstring Joined(const std::list<std::wstring>& values) {
+  std::wstring text;
+  for (const std::wstring& value : values) text += (text.empty() ? L"" : L"\n") + value;
+  return text;
+}
+
 }  // namespace Ortholan::fuzzing

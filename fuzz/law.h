@@ -7,6 +7,7 @@
 #include <ortholan/status.h>
 
 #include <exception>
+#include <list>
 #include <string>
 #include <utility>
 
@@ -52,6 +53,9 @@ std::pair<bool, DWORD> Answer(Call&& call) {
   const bool done = call();
   return {done, GetLastError()};
 }
+
+// The values of one pair of a decoded name, a line each.
+std::wstring Joined(const std::list<std::wstring>& values);
 
 }  // namespace Ortholan::fuzzing
 

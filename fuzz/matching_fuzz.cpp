@@ -16,28 +16,28 @@ namespace {
 using namespace strict;
 
 constexpr size_t kNames = 3;
-constexpr const char* kTypes[] = {"\x55\x04\x03", "\x55\x04\x0A",
-                                  "\x09\x92\x26\x89\x93\xF2\x2C\x64\x01\x19",
-                                  "\x2A\x86\x48\x86\xF7\x0D\x01\x09\x01"};
+constexpr const char* kMatchedTypes[] = {"\x55\x04\x03", "\x55\x04\x0A",
+                                         "\x09\x92\x26\x89\x93\xF2\x2C\x64\x01\x19",
+                                         "\x2A\x86\x48\x86\xF7\x0D\x01\x09\x01"};
 constexpr uint8_t kTags[] = {kUtf8String,    kPrintableString, kIA5String,       kBmpString,
                              kTeletexString, kUtf8String,      kUniversalString, kOctetString};
 // What is likely to fold, join or be refused.
-constexpr const char* kTexts[] = {"a",
-                                  "A",
-                                  " ",
-                                  "  ",
-                                  "e",
-                                  "\xCC\x81",
-                                  "\xC3\x89",
-                                  "\xC3\xA9",
-                                  "\xD0\x90",
-                                  "\xE1\x84\x92",
-                                  "\xE1\x85\xA1",
-                                  "\xF0\x9F\x98\x80",
-                                  "\xC2\xAD",
-                                  "ss",
-                                  "\xC3\x9F",
-                                  "@"};
+constexpr const char* kPieces[] = {"a",
+                                   "A",
+                                   " ",
+                                   "  ",
+                                   "e",
+                                   "\xCC\x81",
+                                   "\xC3\x89",
+                                   "\xC3\xA9",
+                                   "\xD0\x90",
+                                   "\xE1\x84\x92",
+                                   "\xE1\x85\xA1",
+                                   "\xF0\x9F\x98\x80",
+                                   "\xC2\xAD",
+                                   "ss",
+                                   "\xC3\x9F",
+                                   "@"};
 
 std::string Element(uint8_t tag, const std::string& content) {
   uint8_t header[16];
@@ -47,7 +47,7 @@ std::string Element(uint8_t tag, const std::string& content) {
 
 std::string Text(Input* input) {
   std::string text;
-  for (size_t pieces = input->Below(6); pieces != 0; --pieces) text += input->Pick(kTexts);
+  for (size_t pieces = input->Below(6); pieces != 0; --pieces) text += input->Pick(kPieces);
   return input->Below(8) == 0 ? text + input->Bytes(input->Below(4)) : text;
 }
 
@@ -69,16 +69,16 @@ std::string Value(uint8_t tag, const std::string& text) {
   return Element(tag, unit != 0 ? InUnits(text, unit) : text);
 }
 
-std::string Attribute(const std::string& type, const std::string& value) {
+std::string AttributeOf(const std::string& type, const std::string& value) {
   return Element(kSequence, Element(kOid, type) + value);
 }
 
 std::string Rdn(Input* input) {
   std::string attributes;
   for (size_t count = 1 + input->Below(3); count != 0; --count) {
-    const std::string type = input->Pick(kTypes);
+    const std::string type = input->Pick(kMatchedTypes);
     const uint8_t tag = input->Pick(kTags);
-    attributes += Attribute(type, Value(tag, Text(input)));
+    attributes += AttributeOf(type, Value(tag, Text(input)));
   }
   return Element(kSet, attributes);
 }
@@ -113,7 +113,7 @@ void CheckPair(const NameView& a, const NameView& b, MatchRule rule, RdnOrder or
 // The same text in two string types that can hold it.
 void CheckTypes(const std::string& text) {
   const auto name = [&](uint8_t tag) {
-    return Element(kSequence, Element(kSet, Attribute(kTypes[0], Value(tag, text))));
+    return Element(kSequence, Element(kSet, AttributeOf(kMatchedTypes[0], Value(tag, text))));
   };
   const std::string utf8 = name(kUtf8String);
   const std::string units = name(kUniversalString);

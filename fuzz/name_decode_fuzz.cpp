@@ -82,15 +82,6 @@ bool SamePairs(const A& a, const B& b) {
   return true;
 }
 
-std::wstring Joined(const std::list<std::wstring>& values) {
-  std::wstring text;
-  for (const std::wstring& value : values) {
-    if (!text.empty()) text += L'\n';
-    text += value;
-  }
-  return text;
-}
-
 std::wstring Quoted(const std::wstring& value) {
   static const std::wstring kSpace =
       L"\t\n\v\f\r \u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A"

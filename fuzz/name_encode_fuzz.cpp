@@ -136,12 +136,6 @@ void CheckModel(const std::wstring& text, DWORD options, bool sort) {
   LAW(static_cast<const IdentObj&>(thrown) == der);
 }
 
-std::wstring Joined(const std::list<std::wstring>& values) {
-  std::wstring text;
-  for (const std::wstring& value : values) text += (text.empty() ? L"" : L"\n") + value;
-  return text;
-}
-
 // The text that the encoding is shown as parses back to the same types and values, and is encoded
 // as it was. A NUL at the front of a value ends a text.
 void CheckRoundTrip(const IdentObj& der, DWORD options) {

@@ -37,6 +37,7 @@ endforeach()
 file(CONFIGURE OUTPUT headers/surrounded.cpp CONTENT "@surroundings@" @ONLY)
 
 add_library(headers_alone OBJECT ${alone})
+set_target_properties(headers_alone PROPERTIES UNITY_BUILD OFF)
 add_library(headers_surrounded OBJECT "${CMAKE_CURRENT_BINARY_DIR}/headers/surrounded.cpp")
 set_target_properties(headers_alone PROPERTIES CXX_STANDARD 17)
 set_target_properties(headers_surrounded PROPERTIES CXX_STANDARD 20)

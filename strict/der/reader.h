@@ -38,6 +38,7 @@ enum Identifier : uint8_t {
   kUtcTime = 0x17,
   kGeneralizedTime = 0x18,
   kVisibleString = 0x1A,
+  kGeneralString = 0x1B,
   kUniversalString = 0x1C,
   kBmpString = 0x1E,
   kSequence = 0x30,

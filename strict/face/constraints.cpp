@@ -30,7 +30,7 @@ ortholan_reason Ask(const ortholan_permit_options* options, ortholan_verdict* ve
   return ORTHOLAN_REASON_NONE;
 }
 
-bool Clear(ortholan_verdict* verdict, size_t* count) {
+bool ClearVerdict(ortholan_verdict* verdict, size_t* count) {
   if (count != nullptr) *count = 0;
   if (verdict == nullptr) return false;
   *verdict = ORTHOLAN_VERDICT_CANNOT_TELL;
@@ -42,7 +42,7 @@ bool Clear(ortholan_verdict* verdict, size_t* count) {
 ortholan_reason ortholan_permits(const ortholan_octets* chain, size_t chain_size,
                                  const ortholan_permit_options* options, ortholan_verdict* verdict,
                                  ortholan_finding* findings, size_t room, size_t* count) {
-  if (!Clear(verdict, count) || chain == nullptr || chain_size == 0 ||
+  if (!ClearVerdict(verdict, count) || chain == nullptr || chain_size == 0 ||
       (findings == nullptr && room != 0)) {
     return ORTHOLAN_REASON_ARGUMENT;
   }
@@ -59,7 +59,7 @@ ortholan_reason ortholan_permits_names(ortholan_octets constraints, ortholan_oct
                                        const ortholan_permit_options* options,
                                        ortholan_verdict* verdict, ortholan_finding* findings,
                                        size_t room, size_t* count) {
-  if (!Clear(verdict, count) || !IsGiven(constraints) || !IsGiven(subject) ||
+  if (!ClearVerdict(verdict, count) || !IsGiven(constraints) || !IsGiven(subject) ||
       !IsGiven(alternative_names) || (findings == nullptr && room != 0)) {
     return ORTHOLAN_REASON_ARGUMENT;
   }

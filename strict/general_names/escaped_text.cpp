@@ -9,7 +9,7 @@
 namespace Ortholan::strict {
 namespace {
 
-void PutOctets(ByteView octets, Output* out) {
+void PutEscapedOctets(ByteView octets, Output* out) {
   for (const uint8_t& octet : octets) {
     out->Put('\\');
     PutHex({&octet, 1}, out);
@@ -48,7 +48,7 @@ void PutEscapedText(std::string_view text, Characters characters, std::string_vi
     } else if (is_text && IsShown(scalar) && !is_edge_blank && !ends_part) {
       out->Put(rest.First(size));
     } else {
-      PutOctets(rest.First(size), out);
+      PutEscapedOctets(rest.First(size), out);
     }
     rest = rest.From(size);
   }

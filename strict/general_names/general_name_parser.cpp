@@ -21,8 +21,6 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr uint8_t kGeneralString = 0x1B;
-
 class NameParser {
  public:
   NameParser(std::string_view text, bool allowsRange, BackwardOutput* out, Refusal* refusal)

@@ -13,7 +13,7 @@
 namespace Ortholan::strict {
 namespace {
 
-void PutOctets(ByteView octets, Output* out) {
+void PutHexForm(ByteView octets, Output* out) {
   out->Put('#');
   PutHex(octets, out);
 }
@@ -23,7 +23,7 @@ void PutIdentifierOrOctets(ByteView oid, Output* out) {
   if (oid.size <= kMaxIdentifierOctets && IsIdentifier(oid)) {
     PutIdentifierText(oid, out);
   } else {
-    PutOctets(oid, out);
+    PutHexForm(oid, out);
   }
 }
 
@@ -89,14 +89,14 @@ void PutUntyped(ByteView content, Output* out) {
   const OtherNameView other(content);
   if (other.value.bytes.empty() || !IsIdentifier(other.type) ||
       other.type.size > kMaxIdentifierOctets) {
-    return PutOctets(content, out);
+    return PutHexForm(content, out);
   }
   PutIdentifierText(other.type, out);
   out->Put(';');
   const uint8_t type = other.value.identifier;
   const bool is_text = (type == kUtf8String || type == kIA5String) &&
                        FindStringFault(type, other.value.content, true).reason == 0;
-  if (!is_text) return PutOctets(other.value.bytes, out);
+  if (!is_text) return PutHexForm(other.value.bytes, out);
   out->Put(type == kUtf8String ? kUtf8Tag : kIA5Tag);
   PutEscapedText(AsText(other.value.content), Characters::kUtf8, {}, out);
 }
@@ -119,7 +119,7 @@ void PutDirectoryName(ByteView content, Output* out) {
     return;
   }
   out->Rewind(before);
-  PutOctets(content, out);
+  PutHexForm(content, out);
 }
 
 void PutEdiParty(ByteView content, Output* out) {
@@ -127,7 +127,7 @@ void PutEdiParty(ByteView content, Output* out) {
   const bool is_text = EdiParty::Read(content, Leniency::kDer, &name, nullptr) &&
                        name.party.identifier == kUtf8String &&
                        (name.assigner.bytes.empty() || name.assigner.identifier == kUtf8String);
-  if (!is_text) return PutOctets(content, out);
+  if (!is_text) return PutHexForm(content, out);
   if (!name.assigner.bytes.empty()) {
     PutEscapedText(AsText(name.assigner.content), Characters::kUtf8, ";#", out);
     out->Put(';');
@@ -142,7 +142,7 @@ void PutTextOfGeneralName(const GeneralNameView& name, Output* out) {
   out->Put(PrefixOf(name.kind));
   switch (name.kind) {
     case GeneralNameKind::kAddress:
-      if (!PutIpName(name.content, out)) PutOctets(name.content, out);
+      if (!PutIpName(name.content, out)) PutHexForm(name.content, out);
       return;
     case GeneralNameKind::kRegisteredId:
       return PutIdentifierOrOctets(name.content, out);
@@ -151,7 +151,7 @@ void PutTextOfGeneralName(const GeneralNameView& name, Output* out) {
     case GeneralNameKind::kDirectory:
       return PutDirectoryName(name.content, out);
     case GeneralNameKind::kX400:
-      return PutOctets(name.content, out);
+      return PutHexForm(name.content, out);
     default:
       return PutEscapedText(AsText(name.content), Characters::kAscii, {}, out);
   }

@@ -11,7 +11,6 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr uint8_t kGeneralString = 0x1B;
 constexpr size_t kMaxServiceOctets = 16;  // 15 behind the underscore (RFC 6335 5.1)
 
 bool RefuseIn(Reader* reader, ByteView whole, size_t at, ortholan_reason reason) {

@@ -12,7 +12,7 @@ namespace Ortholan::strict {
 namespace {
 
 // What a character does in a value that is not quoted.
-enum Role : uint8_t { kOrdinary, kSeparator, kBackslash, kForbidden };
+enum Role : uint8_t { kOrdinary, kSeparator, kEscape, kForbidden };
 
 struct RoleTable {
   uint8_t roles[256];
@@ -22,7 +22,7 @@ constexpr RoleTable MakeRoles() {
   RoleTable table = {};
   for (const char c : {',', ';', '+'}) table.roles[static_cast<uint8_t>(c)] = kSeparator;
   for (const char c : {'"', '<', '>', '\0'}) table.roles[static_cast<uint8_t>(c)] = kForbidden;
-  table.roles[static_cast<uint8_t>('\\')] = kBackslash;
+  table.roles[static_cast<uint8_t>('\\')] = kEscape;
   return table;
 }
 

@@ -135,7 +135,7 @@ getting_started() {
 # The work directory stays, so that only the first run compiles the library. It has no optimisation
 # and the compiler's own warnings.
 add_subdirectory() {
-  configure -DORTHOLAN_SOURCE_DIR="$1"
+  configure -DORTHOLAN_SOURCE_DIR="$1" -DCMAKE_UNITY_BUILD=ON
   build consumer_shared consumer_static
   check "$work/consumer_static" static ""
   check "$work/consumer_shared" shared "$work/ortholan"

@@ -4,13 +4,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "tests/extensions/extension_shown.h"
 #include "tests/support/calls.h"
-#include "tests/support/hex.h"
 
 namespace Ortholan::testing {
 namespace {
-
-constexpr DWORD kUntouched = 7777;
 
 IdentObj Characters(const char* text) { return ExactCopy(text); }
 
@@ -20,12 +18,6 @@ CertExtension Make(const char* oid, BOOL critical, const char* value) {
   extension.critical = critical;
   extension.value = Blob(value);
   return extension;
-}
-
-// "2.5.29.15 1 03 02"
-std::string Shown(const CertExtension& extension) {
-  return std::string(AsText(extension.oid)) + ' ' + std::to_string(extension.critical) + ' ' +
-         Hex(extension.value);
 }
 
 TEST(CertExtension, CopiesThePlatformsRecord) {
@@ -154,7 +146,7 @@ TEST(CertExtension, CodecFailuresLeaveEverythingAlone) {
 }
 
 // "1.2 0 05; 1.3 1 06"
-std::string Shown(const CertExtensionList& list) {
+std::string ShownList(const CertExtensionList& list) {
   std::string text;
   for (const CertExtension& extension : list) text += (text.empty() ? "" : "; ") + Shown(extension);
   return text;
@@ -200,13 +192,13 @@ std::string Found(const VectorRow& row) {
 std::string Updated(const VectorRow& row) {
   CertExtensionList list = ReadList(row.text("in"));
   const bool changed = list.Update(Read(row.text("arg")));
-  return (changed ? "changed: " : "same: ") + Shown(list);
+  return (changed ? "changed: " : "same: ") + ShownList(list);
 }
 
 std::string Merged(const VectorRow& row) {
   CertExtensionList list = ReadList(row.text("in"));
   list.MergeLists(ReadList(row.text("arg")));
-  return Shown(list);
+  return ShownList(list);
 }
 
 TEST(ExtensionValues, Answer) {
@@ -217,19 +209,19 @@ TEST(ExtensionValues, Answer) {
 TEST(CertExtensionList, TakesItselfAndItsElements) {
   CertExtensionList list = ReadList("1.2 1 05; 1.3 2 06");
   EXPECT_TRUE(list.FindExtension("1.2", list.front()));
-  EXPECT_EQ(Shown(list), "1.2 1 05; 1.3 2 06");
+  EXPECT_EQ(ShownList(list), "1.2 1 05; 1.3 2 06");
   EXPECT_TRUE(list.FindExtension("1.2", list.back()));
-  EXPECT_EQ(Shown(list), "1.2 1 05; 1.2 1 05");
+  EXPECT_EQ(ShownList(list), "1.2 1 05; 1.2 1 05");
   EXPECT_FALSE(list.FindExtension("1.3", list.back()));
-  EXPECT_EQ(Shown(list), "1.2 1 05;  1 05");
+  EXPECT_EQ(ShownList(list), "1.2 1 05;  1 05");
 
   list = ReadList("1.2 2 05; 1.3 0 09; 1.2 0 07");
   EXPECT_TRUE(list.Update(list.back()));
-  EXPECT_EQ(Shown(list), "1.2 0 07; 1.3 0 09; 1.2 0 07");
+  EXPECT_EQ(ShownList(list), "1.2 0 07; 1.3 0 09; 1.2 0 07");
   CertExtensionList& same = list;
   list.MergeLists(same);
   same = list;
-  EXPECT_EQ(Shown(CertExtensionList(list)), "1.2 0 07; 1.3 0 09; 1.2 0 07");
+  EXPECT_EQ(ShownList(CertExtensionList(list)), "1.2 0 07; 1.3 0 09; 1.2 0 07");
   EXPECT_EQ(CertExtensionList().GetObjectSize(), 4u);
   EXPECT_EQ(ReadList("1.2 1 05 00;  0 ").GetObjectSize(), 4u + 17 + 12);
 }

@@ -4,13 +4,11 @@
 
 #include <cstdio>
 
-#include "tests/support/hex.h"
+#include "tests/extensions/extension_shown.h"
 
 namespace Ortholan::testing {
 namespace {
 
-constexpr DWORD kUntouched = 7777;
-constexpr DWORD kCorrupt = 0x80093103;
 constexpr char kPath[] = "extension_file_test.tmp";
 
 class FileTest : public ::testing::Test {

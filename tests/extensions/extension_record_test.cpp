@@ -1,20 +1,12 @@
 #include <gtest/gtest.h>
 #include <ortholan/cert_extension.h>
 
+#include "tests/extensions/extension_shown.h"
 #include "tests/support/calls.h"
 #include "tests/support/data_lines.h"
-#include "tests/support/hex.h"
 
 namespace Ortholan::testing {
 namespace {
-
-constexpr DWORD kUntouched = 7777;
-constexpr DWORD kCorrupt = 0x80093103;
-
-std::string Shown(const CertExtension& extension) {
-  return std::string(AsText(extension.oid)) + ' ' + std::to_string(extension.critical) + ' ' +
-         Hex(extension.value);
-}
 
 CertExtension Make(std::string_view oid, BOOL critical, const IdentObj& value) {
   CertExtension extension;

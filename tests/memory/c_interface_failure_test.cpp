@@ -12,13 +12,13 @@ namespace Ortholan::testing {
 namespace {
 
 // More attributes than scratch space holds without allocating, and letters outside ASCII.
-std::string LongText() {
+std::string LongUtf8Text() {
   std::string text = "CN=\xD0\x90 name of some length";
   for (int i = 0; i < 40; ++i) text += ", OU=\xD0\x91 unit with a name of some length";
   return text;
 }
 
-const std::string kText = LongText();
+const std::string kText = LongUtf8Text();
 const OctetsIn kNameDer("\x30\x0D\x31\x0B\x30\x09\x06\x03\x55\x04\x06\x13\x02RU");
 const OctetsIn kGeneral(
     "\x82\x03"
@@ -77,14 +77,14 @@ ortholan_result Armed(std::size_t number, const Call& call) {
   return result;
 }
 
-struct Case {
+struct HandleCall {
   const char* label;
   std::function<ortholan_result(const Handles& handles, std::size_t number)> run;
 };
 
 // A call that gives out a handle.
 template <class Handle>
-Case Makes(const char* label, ortholan_result (*call)(const Handles&, Handle**)) {
+HandleCall Makes(const char* label, ortholan_result (*call)(const Handles&, Handle**)) {
   return {label, [call](const Handles& handles, std::size_t number) {
             ortholan_result result = ORTHOLAN_OK;
             const auto made = Made<Handle>(&result, [&](Handle** out) {
@@ -97,7 +97,7 @@ Case Makes(const char* label, ortholan_result (*call)(const Handles&, Handle**))
 
 // A call that gives out memory and its size.
 template <class Item>
-Case Gives(const char* label, ortholan_result (*call)(const Handles&, Item**, size_t*)) {
+HandleCall Gives(const char* label, ortholan_result (*call)(const Handles&, Item**, size_t*)) {
   return {label, [call](const Handles& handles, std::size_t number) {
             ortholan_result result = ORTHOLAN_OK;
             const std::string given = Given<Item>(&result, [&](Item** out, size_t* size) {
@@ -108,7 +108,7 @@ Case Gives(const char* label, ortholan_result (*call)(const Handles&, Item**, si
           }};
 }
 
-std::string Text(const Owned<ortholan_name>& name) {
+std::string TextOf(const Owned<ortholan_name>& name) {
   ortholan_result result = ORTHOLAN_OK;
   return Given<char>(&result, [&](char** text, size_t* size) {
     return ortholan_name_text(name.get(), ORTHOLAN_STYLE_KEYS, text, size);
@@ -116,11 +116,11 @@ std::string Text(const Owned<ortholan_name>& name) {
 }
 
 // A call that changes a name.
-Case Changes(const char* label, ortholan_result (*call)(ortholan_name*)) {
+HandleCall Changes(const char* label, ortholan_result (*call)(ortholan_name*)) {
   return {label, [call](const Handles& handles, std::size_t number) {
-            const std::string before = Text(handles.name);
+            const std::string before = TextOf(handles.name);
             const ortholan_result result = Armed(number, [&] { return call(handles.name.get()); });
-            EXPECT_EQ(result != ORTHOLAN_OK, Text(handles.name) == before);
+            EXPECT_EQ(result != ORTHOLAN_OK, TextOf(handles.name) == before);
             return result;
           }};
 }
@@ -132,7 +132,7 @@ std::string Der(const Owned<ortholan_extensions>& list) {
   });
 }
 
-Case Sets(const char* label, const char* oid) {
+HandleCall Sets(const char* label, const char* oid) {
   return {label, [oid](const Handles& handles, std::size_t number) {
             const auto extension = MakeExtension(oid);
             const std::string before = Der(handles.list);
@@ -167,7 +167,7 @@ ortholan_result Compare(const Handles& handles, std::size_t number) {
   return result;
 }
 
-const Case kCases[] = {
+const HandleCall kHandleCalls[] = {
     {"text error", TellError},
     {"equal", Compare},
     Makes<ortholan_name>(
@@ -283,7 +283,7 @@ const Case kCases[] = {
 };
 
 TEST(CInterfaceFailure, IsReportedAndLeaksNothing) {
-  for (const Case& row : kCases) {
+  for (const HandleCall& row : kHandleCalls) {
     SCOPED_TRACE(row.label);
     std::size_t failures = 0;
     for (bool reached_end = false; !reached_end; ++failures) {

@@ -43,7 +43,7 @@ const std::string kEmpty;
 const std::string kCertificate = CertificateOf("");
 
 ortholan_octets Octets(const std::string& octets) { return ortholan::Octets(octets); }
-ortholan_text Text(std::string_view text) { return {text.data(), text.size()}; }
+ortholan_text TextOf(std::string_view text) { return {text.data(), text.size()}; }
 
 ortholan_name_view View(const std::string& der) {
   ortholan_name_view view;
@@ -55,8 +55,8 @@ const ortholan_name_view kManyView = View(kMany);
 
 ortholan_new_attribute Attribute(const std::string& type, const std::string& text, int32_t joins) {
   ortholan_new_attribute attribute = {};
-  attribute.type = Text(type);
-  attribute.text = Text(text);
+  attribute.type = TextOf(type);
+  attribute.text = TextOf(text);
   attribute.joins_rdn = joins;
   return attribute;
 }
@@ -83,18 +83,18 @@ ortholan_reason Match(const std::string& first, const std::string& second, int32
 }
 
 ortholan_reason ReadText(std::string_view text, Out* out) {
-  return ortholan_rfc4514_read(Text(text), nullptr, out->octets, sizeof out->octets, &out->size,
+  return ortholan_rfc4514_read(TextOf(text), nullptr, out->octets, sizeof out->octets, &out->size,
                                &out->refusal);
 }
 // Without room a value is written where it can be looked at.
 ortholan_reason CountText(Out* out) {
   const ortholan_reason reason =
-      ortholan_rfc4514_read(Text(kEscapedName), nullptr, nullptr, 0, &out->size, &out->refusal);
+      ortholan_rfc4514_read(TextOf(kEscapedName), nullptr, nullptr, 0, &out->size, &out->refusal);
   return reason == ORTHOLAN_REASON_ROOM ? ORTHOLAN_REASON_NONE : reason;
 }
 ortholan_reason ReadGeneralName(std::string_view text, Out* out) {
-  return ortholan_general_name_from_text(Text(text), 0, out->octets, sizeof out->octets, &out->size,
-                                         &out->refusal);
+  return ortholan_general_name_from_text(TextOf(text), 0, out->octets, sizeof out->octets,
+                                         &out->size, &out->refusal);
 }
 
 ortholan_reason Permits(const std::string& constraints, const std::string& subject, Out* out) {
@@ -124,12 +124,12 @@ ortholan_reason Say(Out* out) {
   return ortholan_finding_sentence(&finding, out->text(), sizeof out->octets, &out->size);
 }
 
-struct Case {
+struct StrictCall {
   const char* label;
   ortholan_reason (*call)(Out*);
 };
 
-const Case kCases[] = {
+const StrictCall kStrictCalls[] = {
     {"text of a name",
      [](Out* out) {
        return ortholan_rfc4514_write(&kManyView, nullptr, out->text(), sizeof out->octets,
@@ -173,7 +173,7 @@ const Case kCases[] = {
      }},
     {"prepared text",
      [](Out* out) {
-       return ortholan_prepare_text(Text(kMarks), out->text(), sizeof out->octets, &out->size,
+       return ortholan_prepare_text(TextOf(kMarks), out->text(), sizeof out->octets, &out->size,
                                     &out->refusal);
      }},
     {"text of a general name",
@@ -187,7 +187,7 @@ const Case kCases[] = {
      [](Out* out) { return ReadGeneralName("GUID:00112233-4455-6677-8899-aabbccddeeff", out); }},
     {"alternative names of text",
      [](Out* out) {
-       const ortholan_text texts[] = {Text(kEscapedUpn)};
+       const ortholan_text texts[] = {TextOf(kEscapedUpn)};
        return ortholan_alternative_names_from_text(
            texts, std::size(texts), ORTHOLAN_ALTERNATIVE_NAMES_VALUE, out->octets,
            sizeof out->octets, &out->size, nullptr, &out->refusal);
@@ -199,7 +199,7 @@ const Case kCases[] = {
 };
 
 TEST(StrictFailure, IsReportedAndLeaksNothing) {
-  for (const Case& row : kCases) {
+  for (const StrictCall& row : kStrictCalls) {
     SCOPED_TRACE(row.label);
     std::size_t failures = 0;
     for (bool reached_end = false; !reached_end; ++failures) {

@@ -19,6 +19,7 @@ namespace Ortholan::testing {
 
 // The last error before each call: a code that no call sets.
 inline constexpr DWORD kUntouched = 7777;
+inline constexpr DWORD kEncoding = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
 
 // For failures whose code the library does not look at.
 inline constexpr DWORD kAnyError = 0xFFFFFFFF;

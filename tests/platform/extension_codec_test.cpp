@@ -9,7 +9,6 @@
 namespace Ortholan::testing {
 namespace {
 
-constexpr DWORD kEncoding = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
 constexpr DWORD kNoIdentifier = static_cast<DWORD>(CRYPT_E_ASN1_ERROR);
 constexpr DWORD kNotIa5 = static_cast<DWORD>(CRYPT_E_INVALID_IA5_STRING);
 constexpr DWORD kNotPrintable = static_cast<DWORD>(CRYPT_E_INVALID_PRINTABLE_STRING);
@@ -17,14 +16,14 @@ constexpr DWORD kNoTime = static_cast<DWORD>(CRYPT_E_BAD_ENCODE);
 constexpr DWORD kNoCodec = ERROR_FILE_NOT_FOUND;
 constexpr DWORD kInvalidArgument = 0x80070057;
 
-struct Answer {
+struct CodecAnswer {
   DWORD error = 0;  // 0 for success, kUntouched where nobody may rely on any answer
   std::string text;
   bool is_elsewhere = false;
 };
 
 // What a row of platform_structures.tsv expects of this realisation.
-Answer AnswerHere(const VectorRow& row) {
+CodecAnswer AnswerHere(const VectorRow& row) {
   const bool elsewhere = ThisRealisation() == kWine || row.text("where") == "the system";
   if (ThisRealisation() != kNative && row.has("where") && elsewhere) {
     const std::string& cell = row.text("elsewhere");
@@ -87,7 +86,7 @@ const StructureKind& KindOf(const VectorRow& row) {
 TEST(ExtensionCodecs, ReadAndWriteAgain) {
   for (const VectorRow& row : ReadVectors("platform_structures.tsv")) {
     SCOPED_TRACE(row.where());
-    const Answer expected = AnswerHere(row);
+    const CodecAnswer expected = AnswerHere(row);
     if (expected.error == kUntouched) continue;
     const StructureKind& kind = KindOf(row);
     const Decoded decoded = Decode(kind, kind.type, row.octets("der"));

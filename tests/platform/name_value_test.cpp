@@ -5,7 +5,6 @@
 namespace Ortholan::testing {
 namespace {
 
-constexpr DWORD kEncoding = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
 constexpr DWORD kTooLarge = static_cast<DWORD>(CRYPT_E_ASN1_LARGE);
 constexpr DWORD kAccessViolation = 0xC0000005;
 

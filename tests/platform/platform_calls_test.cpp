@@ -12,8 +12,6 @@
 namespace Ortholan::testing {
 namespace {
 
-constexpr DWORD kEncoding = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
-
 UINT Type(const VectorRow& row) { return static_cast<UINT>(row.number("type")); }
 DWORD Flags(const VectorRow& row) { return static_cast<DWORD>(row.number("flags")); }
 
@@ -73,7 +71,7 @@ std::string Narrow(const VectorRow& row) {
 }
 
 // A structure's encoding, or the last error; for text with the place that is stored as the size.
-std::string Encoded(const VectorRow& row, LPCSTR structure) {
+std::string EncodedOctets(const VectorRow& row, LPCSTR structure) {
   const std::string octets = row.octets("in");
   // An empty value that the realisation must not look at still has a place.
   auto value = ExactBlock<char>::CopyOf(octets.empty() ? std::string(2, '\0') : octets);
@@ -91,12 +89,14 @@ std::string Encoded(const VectorRow& row, LPCSTR structure) {
   EXPECT_EQ(size, needed);
   return Hex(std::string(out.data(), size));
 }
-std::string EncodedValue(const VectorRow& row) { return Encoded(row, X509_NAME_VALUE); }
-std::string EncodedText(const VectorRow& row) { return Encoded(row, X509_UNICODE_NAME_VALUE); }
+std::string EncodedValue(const VectorRow& row) { return EncodedOctets(row, X509_NAME_VALUE); }
+std::string EncodedText(const VectorRow& row) {
+  return EncodedOctets(row, X509_UNICODE_NAME_VALUE);
+}
 
 // "type: octets" or the last error. Text is terminated behind its size, but where Wine counts the
 // terminator.
-std::string Decoded(const VectorRow& row, LPCSTR structure) {
+std::string DecodedText(const VectorRow& row, LPCSTR structure) {
   auto der = ExactBlock<char>::CopyOf(row.octets("in"));
   const auto der_size = static_cast<DWORD>(der.size());
   DWORD size = 0;
@@ -120,8 +120,8 @@ std::string Decoded(const VectorRow& row, LPCSTR structure) {
   }
   return std::to_string(value.dwValueType) + ": " + Hex(rest.substr(0, value.Value.cbData));
 }
-std::string DecodedValue(const VectorRow& row) { return Decoded(row, X509_NAME_VALUE); }
-std::string DecodedText(const VectorRow& row) { return Decoded(row, X509_UNICODE_NAME_VALUE); }
+std::string DecodedValue(const VectorRow& row) { return DecodedText(row, X509_NAME_VALUE); }
+std::string DecodedText(const VectorRow& row) { return DecodedText(row, X509_UNICODE_NAME_VALUE); }
 
 // The text without its terminator, which the size counts; "none" where there is not even that.
 template <class Char, class ToStr>

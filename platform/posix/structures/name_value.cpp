@@ -11,7 +11,7 @@
 namespace Ortholan::posix {
 namespace {
 
-constexpr DWORD kInvalidArgument = 0x80070057;
+constexpr DWORD kAnyTypeRefused = 0x80070057;
 constexpr std::size_t kValueOffset = offsetof(CERT_NAME_VALUE, Value);
 
 enum class Form : BYTE {
@@ -108,7 +108,7 @@ std::size_t ReadUtf16Le(DWORD type, ByteView content, BYTE* out) noexcept {
 
 DWORD WriteNameValue(const Field& /*field*/, const BYTE* value, DerWriter* out) {
   const auto type = Load<DWORD>(value);
-  if (type == CERT_RDN_ANY_TYPE) return kInvalidArgument;
+  if (type == CERT_RDN_ANY_TYPE) return kAnyTypeRefused;
   const TypeRow row = type < std::size(kTypes) ? kTypes[type] : kTypes[CERT_RDN_ANY_TYPE];
   if (row.form == Form::kRefused) return CRYPT_E_ASN1_CHOICE;
   ByteView octets;

@@ -9,7 +9,7 @@
 namespace Ortholan::posix {
 namespace {
 
-enum class Form : BYTE { kOctets, kBmp, kUniversal, kUtf8 };
+enum class UnicodeForm : BYTE { kSingleOctets, kBmp, kUniversal, kUtf8 };
 
 // Which units a type takes, and the code of the refusal.
 struct Alphabet {
@@ -37,40 +37,40 @@ constexpr Alphabet kIa5 = {IsAscii, CRYPT_E_INVALID_IA5_STRING};
 constexpr Alphabet kEightBit = {IsOctet, CRYPT_E_INVALID_X500_STRING};
 constexpr Alphabet kUnicode = {IsAny, ERROR_SUCCESS};
 
-constexpr std::size_t kValueOffset = offsetof(CERT_NAME_VALUE, Value);
-constexpr std::size_t kUnitSize = 2;       // octets of a UTF-16 unit
+constexpr std::size_t kUnicodeValueOffset = offsetof(CERT_NAME_VALUE, Value);
+constexpr std::size_t kUtf16UnitSize = 2;  // octets of a UTF-16 unit
 constexpr std::size_t kUniversalSize = 4;  // octets of a UniversalString's character
 
-struct TypeRow {
+struct UnicodeTypeRow {
   DWORD type;
   BYTE tag;
-  Form form;
+  UnicodeForm form;
   Alphabet alphabet;
 };
 
-constexpr TypeRow kTypes[] = {
-    {CERT_RDN_NUMERIC_STRING, 0x12, Form::kOctets, kNumeric},
-    {CERT_RDN_PRINTABLE_STRING, 0x13, Form::kOctets, kPrintable},
-    {CERT_RDN_TELETEX_STRING, 0x14, Form::kOctets, kEightBit},
-    {CERT_RDN_VIDEOTEX_STRING, 0x15, Form::kOctets, kEightBit},
-    {CERT_RDN_IA5_STRING, 0x16, Form::kOctets, kIa5},
-    {CERT_RDN_GRAPHIC_STRING, 0x19, Form::kOctets, kEightBit},
-    {CERT_RDN_VISIBLE_STRING, 0x1A, Form::kOctets, kEightBit},
-    {CERT_RDN_GENERAL_STRING, 0x1B, Form::kOctets, kEightBit},
-    {CERT_RDN_UNIVERSAL_STRING, 0x1C, Form::kUniversal, kUnicode},
-    {CERT_RDN_BMP_STRING, 0x1E, Form::kBmp, kUnicode},
-    {CERT_RDN_UTF8_STRING, 0x0C, Form::kUtf8, kUnicode},
+constexpr UnicodeTypeRow kUnicodeTypes[] = {
+    {CERT_RDN_NUMERIC_STRING, 0x12, UnicodeForm::kSingleOctets, kNumeric},
+    {CERT_RDN_PRINTABLE_STRING, 0x13, UnicodeForm::kSingleOctets, kPrintable},
+    {CERT_RDN_TELETEX_STRING, 0x14, UnicodeForm::kSingleOctets, kEightBit},
+    {CERT_RDN_VIDEOTEX_STRING, 0x15, UnicodeForm::kSingleOctets, kEightBit},
+    {CERT_RDN_IA5_STRING, 0x16, UnicodeForm::kSingleOctets, kIa5},
+    {CERT_RDN_GRAPHIC_STRING, 0x19, UnicodeForm::kSingleOctets, kEightBit},
+    {CERT_RDN_VISIBLE_STRING, 0x1A, UnicodeForm::kSingleOctets, kEightBit},
+    {CERT_RDN_GENERAL_STRING, 0x1B, UnicodeForm::kSingleOctets, kEightBit},
+    {CERT_RDN_UNIVERSAL_STRING, 0x1C, UnicodeForm::kUniversal, kUnicode},
+    {CERT_RDN_BMP_STRING, 0x1E, UnicodeForm::kBmp, kUnicode},
+    {CERT_RDN_UTF8_STRING, 0x0C, UnicodeForm::kUtf8, kUnicode},
 };
 
-const TypeRow* RowOfType(DWORD type) {
-  for (const TypeRow& row : kTypes) {
+const UnicodeTypeRow* RowOfType(DWORD type) {
+  for (const UnicodeTypeRow& row : kUnicodeTypes) {
     if (row.type == type) return &row;
   }
   return nullptr;
 }
 
-const TypeRow* RowOfTag(BYTE tag) {
-  for (const TypeRow& row : kTypes) {
+const UnicodeTypeRow* RowOfTag(BYTE tag) {
+  for (const UnicodeTypeRow& row : kUnicodeTypes) {
     if (row.tag == tag) return &row;
   }
   return nullptr;
@@ -109,36 +109,36 @@ Sink ReadUniversal(ByteView content, Sink sink) {
   return sink;
 }
 
-bool EndsWithCharacter(Form form, std::size_t contentSize) {
-  const std::size_t width = form == Form::kUniversal ? kUniversalSize
-                            : form == Form::kBmp     ? kUnitSize
-                                                     : 1;
+bool EndsWithCharacter(UnicodeForm form, std::size_t contentSize) {
+  const std::size_t width = form == UnicodeForm::kUniversal ? kUniversalSize
+                            : form == UnicodeForm::kBmp     ? kUtf16UnitSize
+                                                            : 1;
   return contentSize % width == 0;
 }
 
-std::size_t CountUnits(Form form, ByteView content) {
+std::size_t CountUnits(UnicodeForm form, ByteView content) {
   switch (form) {
-    case Form::kBmp:
-      return content.size / kUnitSize;
-    case Form::kUniversal:
+    case UnicodeForm::kBmp:
+      return content.size / kUtf16UnitSize;
+    case UnicodeForm::kUniversal:
       return ReadUniversal(content, UnitCounter{}).size;
-    case Form::kUtf8:
+    case UnicodeForm::kUtf8:
       return FromUtf8(content.data, content.size, UnitCounter{}).sink.size;
     default:
       return content.size;
   }
 }
 
-void ReadText(Form form, ByteView content, BYTE* out) {
+void ReadText(UnicodeForm form, ByteView content, BYTE* out) {
   LittleEndianWriter writer{out};
   switch (form) {
-    case Form::kBmp:
+    case UnicodeForm::kBmp:
       SwapUnits(content.data, content.size, out);
       break;
-    case Form::kUniversal:
+    case UnicodeForm::kUniversal:
       ReadUniversal(content, writer);
       break;
-    case Form::kUtf8:
+    case UnicodeForm::kUtf8:
       FromUtf8(content.data, content.size, writer);
       break;
     default:
@@ -153,8 +153,8 @@ std::size_t FirstRefused(const Alphabet& alphabet, LittleEndianSource text, std:
   return i;
 }
 
-void WriteText(const TypeRow& row, LittleEndianSource text, std::size_t units, BYTE* out) {
-  if (row.form == Form::kUniversal) {
+void WriteText(const UnicodeTypeRow& row, LittleEndianSource text, std::size_t units, BYTE* out) {
+  if (row.form == UnicodeForm::kUniversal) {
     WriteUniversal(text, units, out);
     return;
   }
@@ -163,20 +163,20 @@ void WriteText(const TypeRow& row, LittleEndianSource text, std::size_t units, B
 
 // Text is checked against its type.
 DWORD WriteString(const Field& field, const BYTE* value, DerWriter* out) {
-  const TypeRow* const row = RowOfType(Load<DWORD>(value));
+  const UnicodeTypeRow* const row = RowOfType(Load<DWORD>(value));
   // BMPString and UTF8String are written alike from both structures.
-  if (row == nullptr || row->form == Form::kBmp || row->form == Form::kUtf8) {
+  if (row == nullptr || row->form == UnicodeForm::kBmp || row->form == UnicodeForm::kUtf8) {
     return WriteNameValue(field, value, out);
   }
   ByteView octets;
-  if (!LoadOctets(value + kValueOffset, &octets)) return ERROR_INVALID_PARAMETER;
+  if (!LoadOctets(value + kUnicodeValueOffset, &octets)) return ERROR_INVALID_PARAMETER;
   const LittleEndianSource text{octets.data};
-  const std::size_t units = octets.size / kUnitSize;
+  const std::size_t units = octets.size / kUtf16UnitSize;
   const std::size_t refused = FirstRefused(row->alphabet, text, units);
   if (refused != units) return out->RefuseText(row->alphabet.refusal, refused);
 
   const std::size_t mark = out->size();
-  const bool universal = row->form == Form::kUniversal;
+  const bool universal = row->form == UnicodeForm::kUniversal;
   BYTE* const content = out->Take(universal ? WriteUniversal(text, units, nullptr) : units);
   if (content != nullptr) WriteText(*row, text, units, content);
   out->PutHeader(row->tag, mark);
@@ -193,13 +193,13 @@ bool IsUnicodeNameValue(const Field& /*field*/, BYTE tag) { return RowOfTag(tag)
 // Text is followed by U+0000, which its size does not count.
 DWORD ReadUnicodeNameValue(const Field& /*field*/, const Element& element, std::size_t place,
                            StructRoom* room) {
-  const TypeRow& row = *RowOfTag(element.tag);
+  const UnicodeTypeRow& row = *RowOfTag(element.tag);
   const ByteView content = element.content;
   if (!EndsWithCharacter(row.form, content.size)) return CRYPT_E_ASN1_CORRUPT;
   room->Put(place, row.type);
-  const std::size_t size = kUnitSize * CountUnits(row.form, content);
-  BYTE* const text = room->PutBlob(place + kValueOffset, size);
-  if (size != 0) room->Take(kUnitSize, 1);
+  const std::size_t size = kUtf16UnitSize * CountUnits(row.form, content);
+  BYTE* const text = room->PutBlob(place + kUnicodeValueOffset, size);
+  if (size != 0) room->Take(kUtf16UnitSize, 1);
   if (text != nullptr) ReadText(row.form, content, text);
   return ERROR_SUCCESS;
 }

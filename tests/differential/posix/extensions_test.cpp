@@ -19,8 +19,8 @@ namespace {
 using openssl::Part;
 
 // One record in both readings.
-struct Case {
-  explicit Case(const std::string& record)
+struct RecordCase {
+  explicit RecordCase(const std::string& record)
       : octets(record), theirs(openssl::ReadExtension(record)) {
     for (const Part& part : openssl::Parts(record, Part::kAttribute)) {
       if (part.depth == 1) children.push_back(part);
@@ -38,50 +38,50 @@ struct Case {
   DWORD size = 0;
 };
 
-const Rule<Case> kTheyRefuse[] = {
+const Rule<RecordCase> kTheyRefuseRecord[] = {
     {"outer tag", "RFC 5280 4.1; here any constructed element",
-     [](const Case& record) {
+     [](const RecordCase& record) {
        return record.IsRefusedFor(ASN1_R_WRONG_TAG) && record.octets[0] != 0x30;
      }},
     {"value in no primitive OCTET STRING", "RFC 5280 4.1; here the last child is not looked at",
-     [](const Case& record) {
+     [](const RecordCase& record) {
        return !record.children.empty() && record.children.back().identifier != 0x04;
      }},
     {"BOOLEAN of other than one octet", "X.690 8.2.1; here the flag is set where any octet is",
-     [](const Case& record) {
+     [](const RecordCase& record) {
        return record.IsRefusedFor(ASN1_R_BOOLEAN_IS_WRONG_LENGTH) && record.children.size() == 3 &&
               record.children[1].content.size() != 1;
      }},
     {"padded arc", kPaddedReason,
-     [](const Case& record) {
+     [](const RecordCase& record) {
        return record.IsRefusedFor(ASN1_R_INVALID_OBJECT_ENCODING) &&
               HasPaddedArc(record.children[0].content);
      }},
     {"length 0 in the long form at an end", "X.690 8.1.3.5; OpenSSL wants an octet behind it",
-     [](const Case& record) {
+     [](const RecordCase& record) {
        return record.IsRefusedFor(ASN1_R_HEADER_TOO_LONG) &&
               record.children.back().content.empty() && record.children.back().header_size > 2;
      }},
 };
 
-const Rule<Case> kWeRefuse[] = {
+const Rule<RecordCase> kWeRefuseRecord[] = {
     {"BOOLEAN with a long tag", "X.690 8.1.2.2; here its first octet is 01",
-     [](const Case& record) {
+     [](const RecordCase& record) {
        return record.children.size() == 3 && record.children[1].identifier == 0x1F;
      }},
     {"arc above 32 bits", kLongArcReason,
-     [](const Case& record) { return HasLongArc(record.children[0].content); }},
+     [](const RecordCase& record) { return HasLongArc(record.children[0].content); }},
 };
 
-const Rule<Case> kAnswersDiffer[] = {
+const Rule<RecordCase> kAnswersDiffer[] = {
     {"first octet of an identifier above 119", kFirstOctetReason,
-     [](const Case& record) { return HasOtherFirstArc(record.children[0].content); }},
+     [](const RecordCase& record) { return HasOtherFirstArc(record.children[0].content); }},
     {"value in a constructed OCTET STRING", "not in DER, X.690 10.2; here its content as it stands",
-     [](const Case& record) { return record.children.back().identifier == 0x24; }},
+     [](const RecordCase& record) { return record.children.back().identifier == 0x24; }},
 };
 
 // Records that show what none of tests/data does.
-constexpr Crafted kCrafted[] = {
+constexpr Crafted kCraftedRecords[] = {
     {"long tag of a BOOLEAN", "30 0A 06 01 2A 1F 01 01 FF 04 01 00"},
     {"long form of length 0", "30 06 06 01 2A 04 81 00"},
     {"arc of 33 bits", "30 0B 06 06 2A 90 80 80 80 00 04 01 00"},
@@ -99,7 +99,7 @@ std::string Shown(const X509_EXTENSION* extension) {
                openssl::Content(X509_EXTENSION_get_data(theirs)));
 }
 
-void ExpectSame(const Case& record, Differences<Case>* answers_differ) {
+void ExpectSame(const RecordCase& record, Differences<RecordCase>* answers_differ) {
   const CertExtension& ours = record.ours;
   const std::string shown =
       Shown(std::string(AsText(ours.oid)), ours.critical != 0, AsText(ours.value));
@@ -119,10 +119,10 @@ void ExpectSame(const Case& record, Differences<Case>* answers_differ) {
 }
 
 TEST(ExtensionsByOpenssl, AreReadAlike) {
-  Differences<Case> answers_differ(kAnswersDiffer);
-  Comparison<Case>(kTheyRefuse, kWeRefuse)
-      .Run("extensions.txt", kCrafted, 25, 2000,
-           [&](const Case& record) { ExpectSame(record, &answers_differ); });
+  Differences<RecordCase> answers_differ(kAnswersDiffer);
+  Comparison<RecordCase>(kTheyRefuseRecord, kWeRefuseRecord)
+      .Run("extensions.txt", kCraftedRecords, 25, 2000,
+           [&](const RecordCase& record) { ExpectSame(record, &answers_differ); });
   answers_differ.ExpectEachApplied();
 }
 

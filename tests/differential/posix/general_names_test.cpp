@@ -18,8 +18,9 @@ namespace Ortholan::testing {
 namespace {
 
 // One general name in both readings.
-struct Case {
-  explicit Case(const std::string& name) : octets(name), theirs(openssl::ReadGeneralName(name)) {
+struct GeneralNameCase {
+  explicit GeneralNameCase(const std::string& name)
+      : octets(name), theirs(openssl::ReadGeneralName(name)) {
     failure = Thrown([&] { ours = GeneralName::DerDecode(ExactCopy(name)); });
     if (failure == "0") failure = Thrown([&] { text = ours.ToString(0, 0); });
     ASNT_ASN_STRUCT_INFO info;
@@ -43,67 +44,71 @@ struct Case {
   std::string failure;
 };
 
-bool IsString(const Case& name) {
+bool IsString(const GeneralNameCase& name) {
   return name.Number() == GEN_EMAIL || name.Number() == GEN_DNS || name.Number() == GEN_URI;
 }
 // The tag is read without its class and the constructed bit.
-bool IsOtherForm(const Case& name) {
+bool IsOtherForm(const GeneralNameCase& name) {
   const bool constructed = (name.Identifier() & 0x20) != 0;
   return constructed && (IsString(name) || name.Number() == GEN_RID || name.Number() == GEN_IPADD);
 }
 
-const Rule<Case> kTheyRefuse[] = {
+const Rule<GeneralNameCase> kTheyRefuseGeneralName[] = {
     {"kind shown without a look at its content",
      "other names, X.400 addresses, directory names, addresses, and numbers above 8",
-     [](const Case& name) {
+     [](const GeneralNameCase& name) {
        const unsigned number = name.Number();
        return number == GEN_OTHERNAME || number == GEN_X400 || number == GEN_DIRNAME ||
               number == GEN_IPADD || number > GEN_RID;
      }},
     {"class other than context-specific", "RFC 5280 4.2.1.6; here the number alone is looked at",
-     [](const Case& name) {
+     [](const GeneralNameCase& name) {
        return name.IsRefusedFor(ASN1_R_NO_MATCHING_CHOICE_TYPE) &&
               (name.Identifier() & 0xC0) != 0x80;
      }},
     {"constructed form of a primitive kind", "X.690 10.2; here encoding makes every kind so",
      IsOtherForm},
     {"primitive string in the indefinite form", "X.690 8.1.3.2; here it ends at two zero octets",
-     [](const Case& name) { return IsString(name) && name.octets[1] == '\x80'; }},
+     [](const GeneralNameCase& name) { return IsString(name) && name.octets[1] == '\x80'; }},
     {"EDI party name of other parts", "RFC 5280 4.2.1.6; here they are passed over",
-     [](const Case& name) { return name.Number() == GEN_EDIPARTY; }},
+     [](const GeneralNameCase& name) { return name.Number() == GEN_EDIPARTY; }},
     {"padded arc", kPaddedReason,
-     [](const Case& name) {
+     [](const GeneralNameCase& name) {
        return name.Number() == GEN_RID && name.IsRefusedFor(ASN1_R_INVALID_OBJECT_ENCODING) &&
               HasPaddedArc(name.content);
      }},
     {"length 0 in the long form at the end", "X.690 8.1.3.5; OpenSSL wants an octet behind it",
-     [](const Case& name) {
+     [](const GeneralNameCase& name) {
        return name.IsRefusedFor(ASN1_R_HEADER_TOO_LONG) && name.content.empty() &&
               name.octets.size() > 2;
      }},
 };
 
-const Rule<Case> kWeRefuse[] = {
+const Rule<GeneralNameCase> kWeRefuseGeneralName[] = {
     {"constructed string in the indefinite form", "not in DER, X.690 10.2",
-     [](const Case& name) { return IsString(name) && name.octets[1] == '\x80'; }},
+     [](const GeneralNameCase& name) { return IsString(name) && name.octets[1] == '\x80'; }},
     {"arc above 32 bits", kLongArcReason,
-     [](const Case& name) { return name.Number() == GEN_RID && HasLongArc(name.content); }},
+     [](const GeneralNameCase& name) {
+       return name.Number() == GEN_RID && HasLongArc(name.content);
+     }},
 };
 
-const Rule<Case> kValuesDiffer[] = {
+const Rule<GeneralNameCase> kValuesDiffer[] = {
     {"constructed form of a primitive kind", "X.690 10.2; here its content as it stands",
      IsOtherForm},
     {"IA5String that is no UTF-8", "not ASCII either; each broken part is shown as U+FFFD",
-     [](const Case& name) {
+     [](const GeneralNameCase& name) {
        std::wstring text;
        return IsString(name) && !openssl::FromUtf8(name.content, &text);
      }},
     {"EDI party name that is no UTF-8", "each broken part is shown as U+FFFD",
-     [](const Case& name) {
+     [](const GeneralNameCase& name) {
        return name.Number() == GEN_EDIPARTY && name.text.find(L'\xFFFD') != std::wstring::npos;
      }},
     {"first octet of an identifier above 119", kFirstOctetReason,
-     [](const Case& name) { return name.Number() == GEN_RID && HasOtherFirstArc(name.content); }},
+     [](const GeneralNameCase& name) {
+       return name.Number() == GEN_RID && HasOtherFirstArc(name.content);
+     }},
 };
 
 std::wstring Wide(const std::string& ascii) { return {ascii.begin(), ascii.end()}; }
@@ -126,20 +131,20 @@ std::wstring ShownParty(const EDIPARTYNAME& party) {
   return L"Имя партии: " + PartyText(party.partyName) + L"\n";
 }
 
-bool HasSameString(const Case& name, const ASN1_STRING* theirs) {
+bool HasSameString(const GeneralNameCase& name, const ASN1_STRING* theirs) {
   std::wstring text;
   openssl::FromUtf8(openssl::Content(theirs), &text);
   return name.content == openssl::Content(theirs) && name.text == text;
 }
 
-bool HasSameName(const Case& name, const ::X509_NAME* theirs) {
+bool HasSameName(const GeneralNameCase& name, const ::X509_NAME* theirs) {
   const openssl::Read<::X509_NAME> ours = openssl::ReadName(name.content);
   return ours.value != nullptr && X509_NAME_cmp(ours.value.get(), theirs) == 0 &&
          name.text == Wide(Hex(name.octets));
 }
 
 // The identifier, and the value in its explicit tag.
-bool HasSameParts(const Case& name, const OTHERNAME& theirs) {
+bool HasSameParts(const GeneralNameCase& name, const OTHERNAME& theirs) {
   std::list<IdentObj> children;
   DWORD status = 0;
   const IdentObj& all = name.ours.GetContent();
@@ -154,7 +159,7 @@ bool HasSameParts(const Case& name, const OTHERNAME& theirs) {
          ASN1_TYPE_cmp(value.value.get(), theirs.value) == 0;
 }
 
-bool HasSameValue(const Case& name) {
+bool HasSameValue(const GeneralNameCase& name) {
   const GENERAL_NAME& theirs = *name.theirs.value;
   switch (theirs.type) {
     case GEN_OTHERNAME:
@@ -180,7 +185,7 @@ bool HasSameValue(const Case& name) {
 }
 
 // General names that show what none of tests/data does.
-constexpr Crafted kCrafted[] = {
+constexpr Crafted kCraftedGeneralNames[] = {
     {"constructed, indefinite", "A2 80 16 01 61 00 00"},
     {"primitive, indefinite", "82 80 61 62 00 00"},
     {"long form of length 0", "82 81 00"},
@@ -190,7 +195,7 @@ constexpr Crafted kCrafted[] = {
 };
 
 // What a decoded name is encoded to differs in the identifier alone, which is constructed.
-void ExpectSameEncoding(const Case& name) {
+void ExpectSameEncoding(const GeneralNameCase& name) {
   const bool constructed = (name.Identifier() & 0x20) != 0;
   if (!constructed) return;
   GeneralName ours = name.ours;
@@ -201,9 +206,9 @@ void ExpectSameEncoding(const Case& name) {
 }
 
 TEST(GeneralNamesByOpenssl, AreReadAlike) {
-  Differences<Case> values_differ(kValuesDiffer);
-  Comparison<Case>(kTheyRefuse, kWeRefuse)
-      .Run("general-names.txt", kCrafted, 30, 2000, [&](const Case& name) {
+  Differences<GeneralNameCase> values_differ(kValuesDiffer);
+  Comparison<GeneralNameCase>(kTheyRefuseGeneralName, kWeRefuseGeneralName)
+      .Run("general-names.txt", kCraftedGeneralNames, 30, 2000, [&](const GeneralNameCase& name) {
         EXPECT_EQ(static_cast<int>(name.ours.GetTag()), name.theirs.value->type);
         EXPECT_TRUE(HasSameValue(name) || values_differ.Explain(name)) << Hex(name.text);
         ExpectSameEncoding(name);

@@ -23,12 +23,12 @@ bool AskGnutls(const std::string& certificate, const std::string& host) {
                                          GNUTLS_VERIFY_DO_NOT_ALLOW_IP_MATCHES) != 0;
 }
 
-const Rule<HostPair> kSameHereAlone[] = {
+const Rule<HostPair> kSameHereAloneForGnutls[] = {
     {"dot at the end of what is asked for", "an absolute host name, RFC 1034 3.1",
      [](const HostPair& pair) { return pair.asked.back() == '.'; }},
 };
 
-const Rule<HostPair> kSameThereAlone[] = {
+const Rule<HostPair> kSameThereAloneForGnutls[] = {
     {"no host is asked for", "RFC 1034 3.5, RFC 9525 6.4",
      [](const HostPair& pair) { return pair.refused != ORTHOLAN_REASON_NONE; }},
     {"wildcard for a part of a label", "only a whole label, RFC 9525 6.3",
@@ -37,7 +37,9 @@ const Rule<HostPair> kSameThereAlone[] = {
      [](const HostPair& pair) { return pair.PresentsNoHost(); }},
 };
 
-TEST(HostsBesideGnutls, DifferByRule) { CompareHosts(kSameHereAlone, kSameThereAlone, AskGnutls); }
+TEST(HostsBesideGnutls, DifferByRule) {
+  CompareHosts(kSameHereAloneForGnutls, kSameThereAloneForGnutls, AskGnutls);
+}
 
 }  // namespace
 }  // namespace Ortholan::testing

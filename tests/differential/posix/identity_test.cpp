@@ -70,7 +70,7 @@ TEST(IdentityBesideOpenSsl, DiffersByRule) {
   EXPECT_GT(same, 400u);
 }
 
-const Rule<HostPair> kSameHereAlone[] = {
+const Rule<HostPair> kSameHereAloneForOpenssl[] = {
     {"dot at the end of what is asked for", "an absolute host name, RFC 1034 3.1",
      [](const HostPair& pair) { return pair.asked.back() == '.'; }},
     {"underscore below a wildcard",
@@ -78,7 +78,7 @@ const Rule<HostPair> kSameHereAlone[] = {
      [](const HostPair& pair) { return pair.presented[0] == '*' && pair.asked[0] == '_'; }},
 };
 
-const Rule<HostPair> kSameThereAlone[] = {
+const Rule<HostPair> kSameThereAloneForOpenssl[] = {
     {"no host is asked for", "RFC 1034 3.5, RFC 9525 6.4",
      [](const HostPair& pair) { return pair.refused != ORTHOLAN_REASON_NONE; }},
     {"no host is presented", "preferred name syntax, RFC 5280 4.2.1.6 and RFC 1034 3.5",
@@ -86,7 +86,7 @@ const Rule<HostPair> kSameThereAlone[] = {
 };
 
 TEST(IdentityBesideOpenSsl, HostsDifferByRule) {
-  CompareHosts(kSameHereAlone, kSameThereAlone,
+  CompareHosts(kSameHereAloneForOpenssl, kSameThereAloneForOpenssl,
                [](const std::string& certificate, const std::string& host) {
                  return AskOpenSsl(certificate, "host", host);
                });

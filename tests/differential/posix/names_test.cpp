@@ -23,8 +23,8 @@ using openssl::Part;
 using openssl::ValueText;
 
 // One name in both readings.
-struct Case {
-  explicit Case(const std::string& name)
+struct NameCase {
+  explicit NameCase(const std::string& name)
       : octets(name), ours(name), theirs(openssl::ReadName(name)) {
     if (theirs.value != nullptr) attributes = openssl::Attributes(theirs.value.get());
   }
@@ -58,10 +58,10 @@ bool HasSurrogate(const Part& part) {
   return false;
 }
 
-const Rule<Case> kTheyRefuse[] = {
+const Rule<NameCase> kTheyRefuseName[] = {
     {"tag of the name, an RDN, an attribute or a type",
      "X.501 9.2; here an attribute is an identifier and a value, in constructed elements",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_WRONG_TAG) && name.AnyPart([](const Part& part) {
          const unsigned char expected = part.place == Part::kRdn           ? 0x31
                                         : part.place == Part::kTypeOrValue ? V_ASN1_OBJECT
@@ -70,88 +70,90 @@ const Rule<Case> kTheyRefuse[] = {
        });
      }},
     {"constructed identifier", "X.690 8.19.1; here its tag number alone is looked at",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_TYPE_NOT_PRIMITIVE) && name.AnyValue(0x20 | V_ASN1_OBJECT);
      }},
     {"padded arc", kPaddedReason,
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_INVALID_OBJECT_ENCODING) &&
               name.AnyPart([](const Part& part) {
                 return part.identifier == V_ASN1_OBJECT && HasPaddedArc(part.content);
               });
      }},
     {"value in a constructed form that has none", "X.690 8.14, 10.2; here its encoding is kept",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.AnyPart([](const Part& part) {
          return part.place == Part::kTypeOrValue && part.identifier > 0x20 &&
                 part.identifier < 0x40 && part.identifier != 0x30 && part.identifier != 0x31;
        });
      }},
     {"primitive SEQUENCE or SET as a value", "X.690 8.9.1, 8.11.1; here its encoding is kept",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_TYPE_NOT_CONSTRUCTED); }},
+     [](const NameCase& name) { return name.IsRefusedFor(ASN1_R_TYPE_NOT_CONSTRUCTED); }},
     {"value of tag number 0", "reserved for the end of contents, X.690 8.1.5; here its octets",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_UNEXPECTED_EOC) && name.AnyValue(V_ASN1_EOC);
      }},
     {"length 0 in the long form at an end", "X.690 8.1.3.5; OpenSSL wants an octet behind it",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_HEADER_TOO_LONG) && name.AnyPart([](const Part& part) {
          return part.content.empty() && part.header_size > 2;
        });
      }},
     {"value that is not of the universal class", "here its encoding is kept, or its octets shown",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_MSTRING_NOT_UNIVERSAL); }},
+     [](const NameCase& name) { return name.IsRefusedFor(ASN1_R_MSTRING_NOT_UNIVERSAL); }},
     {"value of a type that OpenSSL's names do not hold",
      "VisibleString, INTEGER, OCTET STRING, ...",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_MSTRING_WRONG_TAG); }},
+     [](const NameCase& name) { return name.IsRefusedFor(ASN1_R_MSTRING_WRONG_TAG); }},
     {"UTF8String that is no UTF-8", "as on Windows each broken part is read as U+FFFD",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_INVALID_UTF8STRING) && name.AnyValue(V_ASN1_UTF8STRING);
      }},
     {"surrogates in a BMPString", "not UCS-2, X.690 8.23.8; taken for UTF-16, as Windows writes it",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_ILLEGAL_CHARACTERS) && name.AnyPart(HasSurrogate);
      }},
     {"BMPString of odd length", "X.690 8.23.8; here its encoding is kept",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_BMPSTRING_IS_WRONG_LENGTH); }},
+     [](const NameCase& name) { return name.IsRefusedFor(ASN1_R_BMPSTRING_IS_WRONG_LENGTH); }},
     {"UniversalString of characters above 10FFFF", "here its octets are shown",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.IsRefusedFor(ASN1_R_ILLEGAL_CHARACTERS) && name.AnyValue(V_ASN1_UNIVERSALSTRING);
      }},
     {"UniversalString of a length not divisible by 4", "X.690 8.23.7; here its octets are shown",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_UNIVERSALSTRING_IS_WRONG_LENGTH); }},
+     [](const NameCase& name) {
+       return name.IsRefusedFor(ASN1_R_UNIVERSALSTRING_IS_WRONG_LENGTH);
+     }},
     {"BIT STRING with more than 7 unused bits", "X.690 8.6.2.2; here its octets are shown",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_INVALID_BIT_STRING_BITS_LEFT); }},
+     [](const NameCase& name) { return name.IsRefusedFor(ASN1_R_INVALID_BIT_STRING_BITS_LEFT); }},
     {"BIT STRING without octets", "X.690 8.6.2.3; here its octets are shown",
-     [](const Case& name) { return name.IsRefusedFor(ASN1_R_STRING_TOO_SHORT); }},
+     [](const NameCase& name) { return name.IsRefusedFor(ASN1_R_STRING_TOO_SHORT); }},
 };
 
-bool HasSeveralAttributes(const Case& name) {
+bool HasSeveralAttributes(const NameCase& name) {
   for (size_t i = 1; i < name.attributes.size(); ++i) {
     if (name.attributes[i].rdn == name.attributes[i - 1].rdn) return true;
   }
   return false;
 }
 
-const Rule<Case> kWeRefuse[] = {
+const Rule<NameCase> kWeRefuseName[] = {
     {"RDN of several attributes", "no decoder takes them; see the header", HasSeveralAttributes},
     {"RDN without attributes", "X.501 9.3 has at least one; OpenSSL leaves it out",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.AnyPart(
            [](const Part& part) { return part.place == Part::kRdn && part.children == 0; });
      }},
     {"primitive SEQUENCE or SET", "X.690 8.9.1, 8.11.1; OpenSSL does not look",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.AnyPart([](const Part& part) {
          return part.place <= Part::kAttribute && (part.identifier & 0x20) == 0;
        });
      }},
     {"tag number 0 in the indefinite form", "reserved for the end of contents, X.690 8.1.5",
-     [](const Case& name) {
+     [](const NameCase& name) {
        return name.AnyPart([](const Part& part) { return part.identifier == V_ASN1_EOC; });
      }},
     {"arc above 32 bits", kLongArcReason,
-     [](const Case& name) {
+     [](const NameCase& name) {
        return std::any_of(
            name.attributes.begin(), name.attributes.end(),
            [](const Attribute& attribute) { return HasLongArc(openssl::Content(attribute.type)); });
@@ -159,7 +161,7 @@ const Rule<Case> kWeRefuse[] = {
 };
 
 // Names that show what no record of tests/data does.
-constexpr Crafted kCrafted[] = {
+constexpr Crafted kCraftedNames[] = {
     {"surrogates", "30 11 31 0F 30 0D 06 03 55 04 03 1E 06 00 61 D8 3D DE 00"},
     {"long form of length 0", "30 81 00"},
     {"primitive SEQUENCE", "30 0E 31 0C 30 0A 06 03 55 04 10 10 03 0C 01 61"},
@@ -179,7 +181,7 @@ const Rule<Attribute> kTypesDiffer[] = {
      [](const Attribute& theirs) { return HasOtherFirstArc(openssl::Content(theirs.type)); }},
 };
 
-const Rule<Attribute> kValuesDiffer[] = {
+const Rule<Attribute> kValuesDifferName[] = {
     {"8-bit string outside ASCII that is no UTF-8",
      "here the thread's code page, U+FFFD for the rest",
      [](const Attribute& theirs) {
@@ -189,10 +191,10 @@ const Rule<Attribute> kValuesDiffer[] = {
 
 class NamesByOpenssl : public ::testing::Test {
  protected:
-  void ExpectSame(const Case& name);
+  void ExpectSame(const NameCase& name);
 
   Differences<Attribute> types_differ_{kTypesDiffer};
-  Differences<Attribute> values_differ_{kValuesDiffer};
+  Differences<Attribute> values_differ_{kValuesDifferName};
 
  private:
   std::vector<std::wstring> ExpectedLines(const Attribute& theirs, const OurAttribute& ours);
@@ -225,7 +227,7 @@ std::vector<std::wstring> NamesByOpenssl::ExpectedLines(const Attribute& theirs,
 }
 
 // The tree, the pairs and the text against OpenSSL's attributes, one an RDN.
-void NamesByOpenssl::ExpectSame(const Case& name) {
+void NamesByOpenssl::ExpectSame(const NameCase& name) {
   ASSERT_EQ(name.ours.tree.size(), name.attributes.size());
   std::wstring text;
   bool decoded = true;
@@ -267,7 +269,7 @@ std::vector<IdentObj> Children(const IdentObj& element) {
 }
 
 // RDNs, attributes and their two parts by the ASN.1 routines, which read RDNs of any size.
-void ExpectSameParts(const Case& name) {
+void ExpectSameParts(const NameCase& name) {
   auto theirs = name.attributes.begin();
   int place = 0;
   for (const IdentObj& rdn : Children(ExactCopy(name.octets))) {
@@ -286,8 +288,9 @@ void ExpectSameParts(const Case& name) {
 }
 
 TEST_F(NamesByOpenssl, AreReadAlike) {
-  Comparison<Case>(kTheyRefuse, kWeRefuse)
-      .Run("names.txt", kCrafted, 30, 3000, [this](const Case& name) { ExpectSame(name); });
+  Comparison<NameCase>(kTheyRefuseName, kWeRefuseName)
+      .Run("names.txt", kCraftedNames, 30, 3000,
+           [this](const NameCase& name) { ExpectSame(name); });
   types_differ_.ExpectEachApplied();
   values_differ_.ExpectEachApplied();
 }
@@ -296,10 +299,10 @@ TEST_F(NamesByOpenssl, HaveTheSameParts) {
   size_t compared = 0;
   for (const std::string& octets : Samples("names.txt")) {
     SCOPED_TRACE(Hex(octets));
-    const Case name(octets);
+    const NameCase name(octets);
     const bool compared_whole =
-        std::none_of(std::begin(kWeRefuse) + 1, std::end(kWeRefuse),
-                     [&name](const Rule<Case>& rule) { return rule.applies(name); });
+        std::none_of(std::begin(kWeRefuseName) + 1, std::end(kWeRefuseName),
+                     [&name](const Rule<NameCase>& rule) { return rule.applies(name); });
     if (name.theirs.value == nullptr || !compared_whole) continue;
     ExpectSameParts(name);
     ++compared;
