@@ -19,9 +19,6 @@ Ortholan::DWORD EncoderOptions(const Arguments& arguments);
 // The style in the lower half; short keys where none is asked for.
 Ortholan::DWORD DecoderOptions(const Arguments& arguments);
 
-// The style of names that are told on the way, not converted.
-inline constexpr Ortholan::DWORD kShortKeys = Ortholan::CERT_X500_NAME_STR;
-
 }  // namespace Example
 
 #endif  // ORTHOLAN_EXAMPLES_NAME_OPTIONS_H_

@@ -1,6 +1,7 @@
 #include "examples/name_text.h"
 
 #include <ortholan/asn1.h>
+#include <ortholan/name_options.h>
 #include <ortholan/x509_name.h>
 
 #include <algorithm>
@@ -9,7 +10,6 @@
 
 #include "examples/der.h"
 #include "examples/failure.h"
-#include "examples/name_options.h"
 #include "examples/name_tree.h"
 #include "examples/text.h"
 
@@ -60,7 +60,7 @@ bool IsMultiValued(const IdentObj& name) {
 NameText ReadNameText(const IdentObj& name) {
   NameText result;
   SetLastError(ERROR_SUCCESS);
-  result.accepted = name.cbData != 0 && X509Name(name).TryGetX500String(result.text, kShortKeys);
+  result.accepted = name.cbData != 0 && X509Name(name).TryGetX500String(result.text, kStyleKeys);
   if (result.accepted) return result;
   result.code = GetLastError();
   result.reason = Meaning(result.code);

@@ -3,14 +3,13 @@
 #include <ortholan/asn1.h>
 #include <ortholan/der_helper.h>
 #include <ortholan/name_decoder.h>
+#include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 #include <ortholan/status.h>
 
 #include <algorithm>
 #include <iterator>
 #include <utility>
-
-#include "examples/name_options.h"
 
 namespace Example {
 
@@ -84,7 +83,7 @@ bool ReadAttribute(const IdentObj& attribute, Pair& pair) {
   const IdentObj name = ASNTPutSequence({rdn}, kSequence);
   X500NameDecoder decoder;
   std::list<Pair> pairs;
-  if (!decoder.Decode(name, pairs, kShortKeys) || pairs.size() != 1) return false;
+  if (!decoder.Decode(name, pairs, kStyleKeys) || pairs.size() != 1) return false;
   pair = std::move(pairs.front());
   return true;
 }

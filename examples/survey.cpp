@@ -2,6 +2,7 @@
 
 #include <ortholan/name_decoder.h>
 #include <ortholan/name_encoder.h>
+#include <ortholan/name_options.h>
 
 #include <cstddef>
 #include <cstdio>
@@ -19,7 +20,6 @@
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/kinds.h"
-#include "examples/name_options.h"
 #include "examples/name_text.h"
 #include "examples/progress.h"
 #include "examples/text.h"
@@ -40,7 +40,7 @@ bool EncodeText(const std::wstring& text, IdentObj& der) {
 
 bool DecodeText(const IdentObj& der, std::wstring& text) {
   X500NameDecoder decoder;
-  return decoder.Decode(der, text, kShortKeys);
+  return decoder.Decode(der, text, kStyleKeys);
 }
 
 std::wstring Quoted(const std::wstring& value) {

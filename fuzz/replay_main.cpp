@@ -46,7 +46,7 @@ constexpr TargetRow kTargets[] = {
 };
 
 // What is longer is not cut, or not spoiled: every octet is a run of all laws.
-constexpr size_t kLongestToCut = 160;
+constexpr size_t kLongestToCut = 64;
 constexpr size_t kLongestToSpoil = 40;
 constexpr size_t kMadeUp = 300;
 

@@ -1,6 +1,6 @@
-# Every public header compiled as the only thing a source includes and in C++17, and all together in
-# C++20 behind what gets in the way elsewhere: on Windows the system's header without NOMINMAX, and
-# macros called min and max everywhere. A header that fails stops the build.
+# Every public header compiled as the only thing a source includes and in C++17, once, and all
+# together in C++20 behind what gets in the way elsewhere: on Windows the system's header without
+# NOMINMAX, and macros called min and max everywhere. A header that fails stops the build.
 file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include"
   "${PROJECT_SOURCE_DIR}/include/ortholan/*.h" "${PROJECT_SOURCE_DIR}/include/ortholan/*.hpp"
   "${PROJECT_SOURCE_DIR}/include/ortholan/strict/*.h" "${PROJECT_SOURCE_DIR}/include/ortholan/strict/*.hpp")
@@ -36,12 +36,15 @@ foreach(header IN LISTS headers)
 endforeach()
 file(CONFIGURE OUTPUT headers/surrounded.cpp CONTENT "@surroundings@" @ONLY)
 
-add_library(headers_alone OBJECT ${alone})
-set_target_properties(headers_alone PROPERTIES UNITY_BUILD OFF)
+set(targets headers_surrounded)
 add_library(headers_surrounded OBJECT "${CMAKE_CURRENT_BINARY_DIR}/headers/surrounded.cpp")
-set_target_properties(headers_alone PROPERTIES CXX_STANDARD 17)
 set_target_properties(headers_surrounded PROPERTIES CXX_STANDARD 20)
-foreach(target IN ITEMS headers_alone headers_surrounded)
+if(ORTHOLAN_CHECK_SOURCES)
+  list(APPEND targets headers_alone)
+  add_library(headers_alone OBJECT ${alone})
+  set_target_properties(headers_alone PROPERTIES CXX_STANDARD 17 UNITY_BUILD OFF)
+endif()
+foreach(target IN LISTS targets)
   target_link_libraries(${target} PRIVATE Ortholan::ortholan)
   target_compile_options(${target} PRIVATE "$<$<NOT:$<BOOL:${MSVC}>>:-O0;-g0>")
   ortholan_warnings(${target})

@@ -14,6 +14,9 @@ foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs
   ortholan_document_programs(${document})
 endforeach()
 
+if(NOT ORTHOLAN_CHECK_SOURCES)
+  return()
+endif()
 ortholan_test(document_tests SHARED documents/page.cpp documents/tables_test.cpp
   documents/constraints_table_test.cpp support/certificates.cpp)
 get_filename_component(root "${ORTHOLAN_TEST_ROOT}" DIRECTORY)

@@ -1,6 +1,6 @@
 # Visual C++'s own compiler and headers are not at hand; what clang can say instead is asked of it.
-# With the preset windows-clang all sources are read in Microsoft's dialect, else the headers, the
-# examples and what is for Windows alone.
+# With the preset windows-clang all sources are read in Microsoft's dialect, else the headers and what
+# is for Windows alone.
 find_program(ORTHOLAN_CLANG_CL NAMES clang-cl clang-cl-14)
 find_program(ORTHOLAN_LLD_LINK NAMES lld-link lld-link-14)
 find_program(ORTHOLAN_CLANG NAMES clang++)
@@ -16,13 +16,13 @@ add_test(NAME visual_c_runtime COMMAND "${check}" runtime "${ORTHOLAN_CLANG_CL}"
 
 file(GLOB sources CONFIGURE_DEPENDS
   "${PROJECT_SOURCE_DIR}/platform/windows/*.cpp"
-  "${PROJECT_SOURCE_DIR}/examples/*.cpp"
   "${PROJECT_SOURCE_DIR}/examples/windows/*.cpp"
   "${PROJECT_SOURCE_DIR}/tests/faults/windows/stand_ins.cpp")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   get_target_property(library ortholan_objects SOURCES)
   list(TRANSFORM library PREPEND "${PROJECT_SOURCE_DIR}/")
-  list(APPEND sources ${library})
+  file(GLOB program CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/examples/*.cpp")
+  list(APPEND sources ${library} ${program})
 endif()
 # Where the standard library's headers are; clang does not find them by their version's name.
 find_program(ORTHOLAN_MINGW_GXX x86_64-w64-mingw32-g++-posix)

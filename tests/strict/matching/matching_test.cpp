@@ -86,10 +86,12 @@ TEST(Matching, OfPreparedText) {
   RunCalls("preparation.tsv", {{"", prepare}});
 }
 
-// All names of the rows that can be read.
+// Names of the rows that can be read, all but in a slow build: their pairs are asked for.
 std::vector<std::string> AllNames() {
   std::set<std::string> names;
+  size_t number = 0;
   for (const VectorRow& row : ReadVectors("matching.tsv")) {
+    if (number++ % (1 + ORTHOLAN_TEST_SCALE / 4) != 0) continue;
     for (const char* column : {"first", "second"}) {
       if (MatchKey::Of(row.octets(column))) names.insert(row.octets(column));
     }
