@@ -19,12 +19,12 @@ case ${1-} in
   native) packages=("${native[@]}") ;;
   test)
     packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb jq
-      libgnutls28-dev libssl-dev lld mandoc pkg-config python3 valgrind zsh)
+      libgnutls28-dev libssl-dev lld mandoc parallel pkg-config python3 valgrind zsh)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)
     packages=("${native[@]}" "${windows[@]}" libbenchmark-dev libssl-dev libgnutls28-dev
-      libbotan-2-dev libmbedtls-dev)
+      libbotan-2-dev libmbedtls-dev openssl)
     ;;
   # Peers are loaded by the system's own interpreter, whose package has python3-cryptography.
   suites)

@@ -14,8 +14,7 @@ constexpr char kRefused = '!';
 // Whether it is one line that no refusal looks like.
 bool FitsLine(std::string_view text) {
   if (text.empty()) return true;
-  return text[0] != kRefused && text.find('\n') == std::string_view::npos &&
-         text.find('\r') == std::string_view::npos;
+  return text[0] != kRefused && text.find_first_of("\n\r\t") == std::string_view::npos;
 }
 
 bool IsPlain(char character) {
@@ -63,7 +62,7 @@ void Answers::AddLine(std::string_view line) {
 void Answers::AddYes(const char* member, std::string_view text) {
   lines_.append(is_json_ ? "{\"verdict\":\"yes\"" : "yes");
   if (member != nullptr) {
-    lines_.append(is_json_ ? ",\"" + std::string(member) + "\":" : "\t");
+    lines_.append(is_json_ ? ",\"" + std::string(member) + "\":" : " ");
     PutString(text);
   }
   if (is_json_) lines_.append("}");
@@ -71,7 +70,7 @@ void Answers::AddYes(const char* member, std::string_view text) {
 }
 
 void Answers::AddNo(std::uint32_t code, std::string_view reason) {
-  lines_.append(is_json_ ? R"({"verdict":"no","reason":)" : "no\t");
+  lines_.append(is_json_ ? R"({"verdict":"no","reason":)" : "no ");
   PutString(reason);
   if (is_json_) PutCode(code);
   End();
@@ -95,7 +94,7 @@ void Answers::AddRefusal(std::uint32_t code, std::string_view reason) {
     PutString(reason);
     PutCode(code);
   } else {
-    lines_.append(kRefused + std::to_string(code) + "\t");
+    lines_.append(kRefused + std::to_string(code) + " ");
     PutString(reason);
   }
   ++refused_;

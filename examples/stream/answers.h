@@ -2,8 +2,8 @@
 //
 //   CN=Alpha,C=RU                         {"text":"CN=Alpha,C=RU"}
 //   yes                                   {"verdict":"yes"}
-//   no<tab>RDN 1 (2.5.4.3): ...           {"verdict":"no","reason":"...","code":183}
-//   !20<tab>at offset 27: ...             {"error":"...","code":20}
+//   no RDN 1 (2.5.4.3): ...               {"verdict":"no","reason":"...","code":183}
+//   !20 at offset 27: ...                 {"error":"...","code":20}
 #ifndef ORTHOLAN_EXAMPLES_STREAM_ANSWERS_H_
 #define ORTHOLAN_EXAMPLES_STREAM_ANSWERS_H_
 

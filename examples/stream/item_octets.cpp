@@ -1,5 +1,6 @@
 #include "examples/stream/item_octets.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -37,15 +38,19 @@ void JoinDigits(const unsigned char* digits, std::size_t size, char* out) {
 bool ReadHex(std::string_view text, std::string& buffer) {
   if (text.empty() || text.size() % 2 != 0) return false;
   buffer.resize(text.size() / 2);
-  char* out = buffer.data();
   unsigned char digits[kBlock];
-  for (; text.size() >= kBlock; text.remove_prefix(kBlock), out += kBlock / 2) {
-    if (!ReadDigits(text.data(), kBlock, digits)) return false;
-    JoinDigits(digits, kBlock, out);
+  if (text.size() < kBlock) {
+    if (!ReadDigits(text.data(), text.size(), digits)) return false;
+    JoinDigits(digits, text.size(), buffer.data());
+    return true;
   }
-  if (!ReadDigits(text.data(), text.size(), digits)) return false;
-  JoinDigits(digits, text.size(), out);
-  return true;
+  // The last block may lie over the one before.
+  const std::size_t last = text.size() - kBlock;
+  for (std::size_t i = 0;; i = std::min(i + kBlock, last)) {
+    if (!ReadDigits(text.data() + i, kBlock, digits)) return false;
+    JoinDigits(digits, kBlock, buffer.data() + i / 2);
+    if (i == last) return true;
+  }
 }
 
 constexpr unsigned char kNoDigit = 0xFF;

@@ -36,6 +36,8 @@ if(NOT WIN32)
   set_tests_properties(cli_terminal PROPERTIES SKIP_RETURN_CODE 77)
   ortholan_cli_test(completion
     "${cli}/completion.sh" "${PROJECT_SOURCE_DIR}/examples/x509name.bash" ${runs_x509name})
+  ortholan_cli_test(streams_page python3 "${cli}/console_blocks.py"
+    "${PROJECT_SOURCE_DIR}/docs/streams.md" "${certificates}" ${runs_x509name})
 endif()
 if(ORTHOLAN_CHECK_SOURCES)
   ortholan_cli_test(manual

@@ -73,7 +73,7 @@ pkcs7.pem|this is a PKCS #7 bundle, not a name: .*
 300E0603551D0F0101FF0404030205A0|this is an extension, not a name: .x509name extension. reads it
 FORMS
 row "a name a line" 1 \
-  $'CN=Alpha\n!0\ta text that is neither hexadecimal, base64 nor PEM\nCN=Alpha\n' \
+  $'CN=Alpha\n!0 a text that is neither hexadecimal, base64 nor PEM\nCN=Alpha\n' \
   "x509name: decode: 1 of 3 items refused" decode --lines lines
 row "no such file" 1 "" "x509name: decode: cannot open no\.der$(code 2)" decode no.der
 row "directory" 1 "" "x509name: decode: result is a directory$(code 5)" decode result

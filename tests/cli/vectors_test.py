@@ -82,7 +82,7 @@ for row in vectors.read("rfc4514_read.tsv"):
     add(row, row["der"] or None, "encode", "--rfc4514", row["text"])
 for row in vectors.read("rfc4514_errors.tsv"):
     add(row, None, "encode", "--rfc4514", row["text"],
-        pattern=re.escape(f"!{row['reason']}\t{row['sentence']}"))
+        pattern=re.escape(f"!{row['reason']} {row['sentence']}"))
 for row in vectors.read("rfc4514_write.tsv"):
     add(row, row["text"] or None, "decode", "--rfc4514", row["der"])
     if row["exact"]:
@@ -90,14 +90,14 @@ for row in vectors.read("rfc4514_write.tsv"):
 for row in vectors.read("strict_names.tsv"):
     if row["mode"] == "0" and row["reason"] != "0":
         add(row, None, "decode", "--rfc4514", digits(row["der"]),
-            pattern=f"!{row['reason']}\tat offset {row['at']}: .+")
+            pattern=f"!{row['reason']} at offset {row['at']}: .+")
 for row in vectors.read("match_keys.tsv"):
     add(row, row["out"].split()[0], "key", row["in"])
 calls = {"names": ["equal", "--rfc5280"], "any-order": ["equal", "--rfc5280", "--any-order"],
          "within": ["within"]}
-verdicts = {"yes": "yes", "no": "no\t.+", "cannot tell": "![0-9]+\tcannot tell: .+"}
+verdicts = {"yes": "yes", "no": "no .+", "cannot tell": "![0-9]+ cannot tell: .+"}
 # Where nobody asked which of them: anything but a yes.
-others = {"yes": "yes", "no": "(?!yes).+", "match": "yes\t.+", "nomatch": "(?!yes).+"}
+others = {"yes": "yes", "no": "(?!yes).+", "match": "yes .+", "nomatch": "(?!yes).+"}
 for file, meant in (("matching.tsv", verdicts), ("published_names.tsv", others)):
     for row in vectors.read(file):
         if row["call"] in calls:
