@@ -39,7 +39,7 @@ case ${1-} in
   wasm) packages=(chromium emscripten node-typescript) ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
-  postgresql) packages=("${demo[@]}" pkg-config postgresql postgresql-server-dev-all python3) ;;
+  postgresql) packages=("${binding[@]}" dpkg-dev postgresql postgresql-server-dev-all) ;;
   python)
     packages=("${demo[@]}" binutils mypy python3-pip python3-pytest python3-setuptools python3-venv
       python3-wheel)
