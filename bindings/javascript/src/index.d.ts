@@ -98,6 +98,12 @@ export class Name {
   /** True for a name within the subtree; false also where that cannot be told. */
   within(subtree: Name, options?: Omit<MatchOptions, "anyOrder">): boolean;
 }
+/** Whether two names are the same. What cannot be read is not refused but "cannot tell". */
+export function matchNames(
+  first: Name | Input, second: Name | Input, options?: MatchOptions): Verdict;
+/** Whether a name begins with the RDNs of a subtree. */
+export function nameWithin(
+  subtree: Name | Input, name: Name | Input, options?: Omit<MatchOptions, "anyOrder">): Verdict;
 export function parseName(input: Input, options?: ReadOptions): Name;
 /** The name of a text of RFC 4514. A refusal has `index`, the place in the text. */
 export function encodeName(text: string, options?: TextOptions): Name;

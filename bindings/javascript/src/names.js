@@ -1,6 +1,6 @@
 // Distinguished names: DER and the text of RFC 4514.
 import { octetsOf } from "./input.js";
-import { compare, rule } from "./matching.js";
+import { matchNames, nameWithin, rule } from "./matching.js";
 import { layout, placeOf, refusalView, run, textOf, utf8 } from "./memory.js";
 import { oidFromText, oidToText } from "./oid.js";
 import { readings, word } from "./options.js";
@@ -117,7 +117,7 @@ export class Name {
 
   /** Whether the names are the same, with the reason. */
   match(other, options = {}) {
-    return compare("ortholan_match_names", this.der, other.der, options);
+    return matchNames(this, other, options);
   }
 
   /** True for names that are the same; false also where that cannot be told. */
@@ -127,7 +127,7 @@ export class Name {
 
   /** Whether the name begins with the RDNs of `subtree`, with the reason. */
   matchWithin(subtree, options = {}) {
-    return compare("ortholan_name_within", subtree.der, this.der, options);
+    return nameWithin(subtree, this, options);
   }
 
   /** True for a name within the subtree; false also where that cannot be told. */
@@ -153,7 +153,7 @@ export function encodeName(text, options = {}) {
     const offset = placeOf(call.read(refusalView, refusal));
     const sentence = call.sentence("ortholan_rfc4514_sentence", at, refusal);
     throw Object.assign(new Refused(reason, sentence, offset), { index: indexOf(octets, offset) });
-  }));
+  }), { reading: "lenient" });
 }
 
 function indexOf(octets, offset) {
