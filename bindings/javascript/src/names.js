@@ -15,6 +15,9 @@ const typeNameView = layout("name:o oid:o");
 const orders = { reversed: 0, encoded: 1 };
 const stringPolicies = { "printable or utf8": 0, utf8: 1 };
 
+// Of a name that the library wrote itself, which is not read again.
+const written = { reading: "structure" };
+
 function textOptions(call, options) {
   const names = Object.entries(options.names ?? {}).map(([name, oid]) => ({
     name: call.place(utf8(name)),
@@ -72,7 +75,7 @@ export class Name {
   constructor(input, options = {}) {
     this.der = octetsOf(input);
     this.#reading = word(readings, options.reading ?? "der", "reading");
-    run((call) => read(call, this.der, this.#reading));
+    if (options !== written) run((call) => read(call, this.der, this.#reading));
   }
 
   /** RelativeDistinguishedNames with their attributes, the most significant first. */
@@ -153,7 +156,7 @@ export function encodeName(text, options = {}) {
     const offset = placeOf(call.read(refusalView, refusal));
     const sentence = call.sentence("ortholan_rfc4514_sentence", at, refusal);
     throw Object.assign(new Refused(reason, sentence, offset), { index: indexOf(octets, offset) });
-  }), { reading: "lenient" });
+  }), written);
 }
 
 function indexOf(octets, offset) {
