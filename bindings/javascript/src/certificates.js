@@ -1,7 +1,7 @@
 // Certificates, certificate requests and revocation lists (RFC 5280, RFC 2986): names, times,
 // extensions. Keys and signatures are not looked at.
 import { parseGeneralNames } from "./general_names.js";
-import { allOctetsOf, octetsOf } from "./input.js";
+import { octetsOf, readInput } from "./input.js";
 import { layout, run, textOf } from "./memory.js";
 import { Name } from "./names.js";
 import { oidFromText, oidToText } from "./oid.js";
@@ -118,5 +118,5 @@ export function parseCertificate(input, options) {
 
 /** All certificates of a PEM text, or the one of other inputs. */
 export function parseCertificates(input, options) {
-  return allOctetsOf(input).map((octets) => new Certificate(octets, options));
+  return readInput(input).map((octets) => new Certificate(octets, options));
 }

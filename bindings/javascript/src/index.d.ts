@@ -3,6 +3,9 @@
 /** Octets, or text that holds them: hexadecimal digits in any usual form, base64, one PEM block. */
 export type Input = Uint8Array | ArrayBufferView | ArrayBuffer | string;
 
+/** The octets that an input holds, several for a text of several PEM blocks. */
+export function readInput(input: Input): Uint8Array[];
+
 /**
  * How closely an encoding is read: "der" by X.690 8 to 11; "lenient" for what is not quite DER;
  * "structure" without a look at strings. Verdicts never read leniently.

@@ -6,6 +6,7 @@ export {
   buildAltNames, encodeGeneralName, GeneralName, parseGeneralName, parseGeneralNames,
 } from "./general_names.js";
 export { identify, identifyByNames } from "./identity.js";
+export { readInput } from "./input.js";
 export { matchNames, nameWithin } from "./matching.js";
 export { encodeName, Name, parseName } from "./names.js";
 export { oidFromText, oidToText } from "./oid.js";

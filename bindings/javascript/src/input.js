@@ -82,7 +82,7 @@ export function octetsOf(input) {
   if (typeof input !== "string") {
     throw new TypeError("expected a Uint8Array, an ArrayBuffer or a text");
   }
-  const all = allOctetsOf(input);
+  const all = readInput(input);
   if (all.length !== 1) {
     throw new Refused(argumentReason, `${all.length} PEM blocks where one is wanted`);
   }
@@ -90,7 +90,7 @@ export function octetsOf(input) {
 }
 
 /** The same where a text may hold several PEM blocks. */
-export function allOctetsOf(input) {
+export function readInput(input) {
   const octets = asOctets(input);
   if (octets !== undefined) return [octets];
   if (input.includes("-----BEGIN ")) return pemBlocks(input).map((block) => block.octets);

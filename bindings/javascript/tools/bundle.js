@@ -3,8 +3,8 @@
 import fs from "node:fs";
 import path from "node:path";
 
-const importing = /^(import|export) \{([^}]*)\} from "(\.[^"]+)";\n/gm;
-const importingDefault = /^import (\w+) from "(\.[^"]+)";\n/gm;
+const importing = /^(import|export) \{([^}]*)\} from "([^"]+)";\n/gm;
+const importingDefault = /^import (\w+) from "([^"]+)";\n/gm;
 const exporting = /^export (?=(?:function\*?|class|const) (\w+))/gm;
 
 const list = (names) => names.split(",").map((name) => name.trim()).filter((name) => name !== "");
@@ -12,8 +12,9 @@ const list = (names) => names.split(",").map((name) => name.trim()).filter((name
 /**
  * An expression whose value is an object of what a module exports, and everything that it needs.
  *   replaced  in place of modules, by their path: expressions of that kind
+ *   packages  modules of packages, by the name that they are imported by
  */
-export function bundle(entry, replaced = {}) {
+export function bundle(entry, replaced = {}, packages = {}) {
   const places = new Map();
   const parts = [];
   const visit = (file) => {
@@ -25,7 +26,7 @@ export function bundle(entry, replaced = {}) {
   };
   const body = (file) => {
     const names = [];
-    const from = (name) => visit(path.join(path.dirname(file), name));
+    const from = (name) => visit(packages[name] ?? path.join(path.dirname(file), name));
     const text = fs.readFileSync(file, "utf8")
       .replace(importing, (_, word, wanted, name) => {
         if (word === "export") names.push(...list(wanted));
