@@ -3,7 +3,7 @@
 PRESETS ?= native sanitize windows
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
+.PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs wasm abi \
   format deb package clean
 
 help:
@@ -20,6 +20,7 @@ help:
 	@echo 'make suites       ask this library and others the published suites (RECORD=yes: and note it in'
 	@echo '                  docs/suites.md)'
 	@echo 'make docs         the site: pages and public declarations, into build/release/docs/html'
+	@echo 'make wasm         the npm package and the page to try it, which make docs then takes along'
 	@echo 'make abi          record the symbols that both libraries export in packaging/abi/'
 	@echo 'make format       format the sources'
 	@echo 'make deb          Debian packages into build/package/packages, unpacked and used'
@@ -73,6 +74,10 @@ docs:
 	@scripts/setup.sh docs
 	cmake --preset release
 	cmake --build --preset release --target docs
+
+wasm:
+	@scripts/setup.sh wasm
+	@scripts/bindings/wasm.sh
 
 abi:
 	@scripts/setup.sh test

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
-#   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package
+#   setup.sh demo|native|test|fuzz|bench|suites|docs|wasm|deb|package
 set -euo pipefail
 
 demo=(g++ cmake ninja-build ca-certificates)
@@ -33,10 +33,12 @@ case ${1-} in
     packages=("${demo[@]}" doxygen furo mandoc python3 python3-breathe python3-myst-parser
       python3-sphinx python3-sphinx-copybutton)
     ;;
+  # Node comes with emscripten.
+  wasm) packages=(chromium emscripten node-typescript) ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   *)
-    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package" >&2
+    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|wasm|deb|package" >&2
     exit 2
     ;;
 esac

@@ -28,4 +28,12 @@ find bytes strict -name '*.cpp' -print0 | xargs -0 -P "$(nproc)" -I{} bash -euc 
 em++ -Oz --no-entry "$out"/objects/*.o -o "$out/ortholan.wasm" \
   -sSTANDALONE_WASM -sALLOW_MEMORY_GROWTH -sFILESYSTEM=0 -sMALLOC=emmalloc \
   -sTOTAL_STACK=1MB -sINITIAL_MEMORY=2MB -sEXPORTED_FUNCTIONS="$exported"
-ls -l "$out/ortholan.wasm"
+
+version=$(sed -n '/^project(Ortholan/,/)/s/.*VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+node "$binding/tools/build.js" "$version" "$out/ortholan.wasm" "$out/ortholan"
+tar --create --gzip --file "$out/ortholan-$version.tgz" --directory "$out" --sort=name \
+  --owner=0 --group=0 --numeric-owner --mtime=@0 --transform 's,^ortholan,package,' ortholan
+node "$binding/tools/page.js" "$out/ortholan" docs/site/try "$out/try"
+
+node --test "$binding/test/"
+echo "The package: $out/ortholan-$version.tgz; the page: $out/try/index.html"

@@ -13,6 +13,6 @@ const script = bundle(path.join(sources, "main.js"), { [wasm]: `({ default: "${b
 fs.rmSync(out, { recursive: true, force: true });
 fs.mkdirSync(out, { recursive: true });
 fs.writeFileSync(path.join(out, "try.js"), `"use strict";\n${script};\n`);
-for (const name of ["index.html", "style.css"]) {
+for (const name of ["index.html", "style.css", "icon.svg"]) {
   fs.copyFileSync(path.join(sources, name), path.join(out, name));
 }

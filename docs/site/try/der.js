@@ -106,7 +106,7 @@ export function readElements(octets, type) {
   const found = [];
   for (let at = 0; at < octets.length;) {
     const header = readHeader(octets, at, octets.length);
-    found.push(new Element(octets, header, { name: "", type }, null));
+    found.push(new Element(octets, header, { name: type ?? "", type }, null));
     at = header.end;
   }
   return found;

@@ -12,7 +12,7 @@ function section(title, ...content) {
 
 function pairs(rows) {
   return h("dl", null, rows.filter((row) => row !== null).map(([term, ...values]) =>
-    h("div", null, h("dt", null, term), h("dd", null, values))));
+    h("div", null, h("dt", null, term), h("dd", null, values.flat()))));
 }
 
 function copied(text, label) {
@@ -51,8 +51,9 @@ function party(title, body) {
   return attempt(() => {
     const name = body();
     if (name === null) return null;
-    const details = h("details", null, h("summary", null, textOf(name)), attributes(name));
-    return [title, name.der.length > 2 ? details : "(no attributes)"];
+    if (name.der.length <= 2) return [title, h("span", { class: "quiet" }, "without attributes")];
+    return [title, textOf(name),
+      h("details", null, h("summary", null, "Attributes"), attributes(name))];
   }, (sentence) => [title, wrong(sentence)]);
 }
 
