@@ -6,8 +6,9 @@
 //     call.check("ortholan_name_view_read", call.octets(der), 0, view);
 //     return call.read(nameView, view).rdn_count;
 //   });
+import { inflate } from "./inflate.js";
 import { Refused } from "./refused.js";
-import base64 from "./wasm.js";
+import { deflated, size } from "./wasm.js";
 
 const memoryReason = 2;
 const roomReason = 3;
@@ -28,7 +29,8 @@ let library;
 
 function open() {
   if (module === undefined) {
-    module = new WebAssembly.Module(Uint8Array.from(atob(base64), (each) => each.charCodeAt(0)));
+    const octets = Uint8Array.from(atob(deflated), (each) => each.charCodeAt(0));
+    module = new WebAssembly.Module(inflate(octets, size));
   }
   const stop = () => {
     throw new Error("the library stopped");

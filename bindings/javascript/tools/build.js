@@ -2,6 +2,7 @@
 import fs from "node:fs";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
+import { deflateRawSync } from "node:zlib";
 import { bundle } from "./bundle.js";
 
 const [version, wasm, out] = process.argv.slice(2);
@@ -24,22 +25,24 @@ function reasons() {
     `${JSON.stringify(codes, null, 2)};\n`;
 }
 
-// The module is there once: the other form reads it from the file of the first.
-const readsModule = `(() => {
-  const { readFileSync } = require("node:fs");
-  const text = readFileSync(require("node:path").join(__dirname, "wasm.js"), "latin1");
-  return { default: text.slice(text.indexOf('"') + 1, text.lastIndexOf('"')) };
-})()`;
+// WebAssembly as a module that needs no file beside it.
+function wasmModule(octets) {
+  const deflated = deflateRawSync(octets, { level: 9, memLevel: 9 }).toString("base64");
+  return `export const size = ${octets.length};\nexport const deflated = "${deflated}";\n`;
+}
 
 fs.rmSync(out, { recursive: true, force: true });
 fs.mkdirSync(out, { recursive: true });
 for (const name of fs.readdirSync(path.join(binding, "src"))) {
   fs.copyFileSync(path.join(binding, "src", name), path.join(out, name));
 }
-write("wasm.js", `export default "${fs.readFileSync(wasm).toString("base64")}";\n`);
+write("wasm.js", wasmModule(fs.readFileSync(wasm)));
 write("reasons.js", reasons());
-const script = bundle(path.join(out, "index.js"), { [path.join(out, "wasm.js")]: readsModule });
+// The other form reads the octets from the file of the first, so that they are there once.
+const script = bundle(path.join(out, "index.js")).replace(/(?<=const deflated = )".*";/,
+  'require("node:fs").readFileSync(`${__dirname}/wasm.js`, "latin1").split(\'"\')[1];');
 write("index.cjs", `"use strict";\nmodule.exports = ${script};\n`);
+
 fs.copyFileSync(path.join(out, "index.d.ts"), path.join(out, "index.d.cts"));
 fs.copyFileSync(path.join(binding, "README.md"), path.join(out, "README.md"));
 fs.copyFileSync(path.join(binding, "../../LICENSE"), path.join(out, "LICENSE"));

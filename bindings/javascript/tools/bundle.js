@@ -4,22 +4,20 @@ import fs from "node:fs";
 import path from "node:path";
 
 const importing = /^(import|export) \{([^}]*)\} from "([^"]+)";\n/gm;
-const importingDefault = /^import (\w+) from "([^"]+)";\n/gm;
 const exporting = /^export (?=(?:function\*?|class|const) (\w+))/gm;
 
 const list = (names) => names.split(",").map((name) => name.trim()).filter((name) => name !== "");
 
 /**
  * An expression whose value is an object of what a module exports, and everything that it needs.
- *   replaced  in place of modules, by their path: expressions of that kind
  *   packages  modules of packages, by the name that they are imported by
  */
-export function bundle(entry, replaced = {}, packages = {}) {
+export function bundle(entry, packages = {}) {
   const places = new Map();
   const parts = [];
   const visit = (file) => {
     if (places.has(file)) return places.get(file);
-    const expression = replaced[file] ?? body(file);
+    const expression = body(file);
     places.set(file, `modules[${parts.length}]`);
     parts.push(`modules.push(${expression});\n`);
     return places.get(file);
@@ -32,7 +30,6 @@ export function bundle(entry, replaced = {}, packages = {}) {
         if (word === "export") names.push(...list(wanted));
         return `const { ${list(wanted).join(", ")} } = ${from(name)};\n`;
       })
-      .replace(importingDefault, (_, wanted, name) => `const ${wanted} = ${from(name)}.default;\n`)
       .replace(exporting, (_, name) => {
         names.push(name);
         return "";

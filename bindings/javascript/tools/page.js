@@ -5,9 +5,7 @@ import path from "node:path";
 import { bundle } from "./bundle.js";
 
 const [packaged, sources, out] = process.argv.slice(2);
-const wasm = path.join(packaged, "wasm.js");
-const base64 = /"(.*)"/.exec(fs.readFileSync(wasm, "utf8"))[1];
-const script = bundle(path.join(sources, "main.js"), { [wasm]: `({ default: "${base64}" })` },
+const script = bundle(path.join(sources, "main.js"),
   { ortholan: path.join(packaged, "index.js") });
 
 fs.rmSync(out, { recursive: true, force: true });
