@@ -35,5 +35,5 @@ tar --create --gzip --file "$out/ortholan-$version.tgz" --directory "$out" --sor
   --owner=0 --group=0 --numeric-owner --mtime=@0 --transform 's,^ortholan,package,' ortholan
 node "$binding/tools/page.js" "$out/ortholan" docs/site/try "$out/try"
 
-node --test "$binding/test/"
+node --test "$binding"/test/*.test.js
 echo "The package: $out/ortholan-$version.tgz; the page: $out/try/index.html"

@@ -120,7 +120,7 @@ function generalNameSection(names) {
       ["DER", ...copied(hex(names[0].der, ""), "the DER")]]) : null);
 }
 
-/** Sections about what was understood; what was refused is told by itself. */
+/** Sections about what was understood, the most telling first; what was refused is told elsewhere. */
 export function facts({ shape, value }) {
   if (value === null) return [];
   if (shape === "name") return [nameSection(value)];

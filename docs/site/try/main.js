@@ -66,11 +66,13 @@ function show(items, chosen) {
   status.textContent = shown(tell(item, chosen, items.length));
   status.classList.toggle("refused", item.refusal !== null);
   identity.show(item.octets);
+  const [first = null, ...rest] = facts(item);
   factsPart.replaceChildren(...[
     items.length > 1 ? choice(items, chosen) : null,
-    ...facts(item),
+    first,
     isCertificate ? identity.view : null,
     isCertificate && items.length > 1 ? chainView(items) : null,
+    ...rest,
   ].filter((each) => each !== null));
   roots = readElements(item.octets, item.type);
   dump.show(item.octets, item.refusal?.offset);
