@@ -20,10 +20,15 @@ FIXED = {"ORTHOLAN_MET_END": "uint32_t", "ORTHOLAN_NO_PLACE": "size_t",
          "ORTHOLAN_DEFAULT_BUDGET": "uint64_t"}
 VALUES = {"uint32_t": 2**32 - 1, "uint64_t": 16777216}
 
-RUST = {"uint8_t": "u8", "int32_t": "i32", "uint32_t": "u32", "uint64_t": "u64", "size_t": "usize",
-        "char": "c_char", "ortholan_reason": "ortholan_reason", "ortholan_verdict": "ortholan_verdict"}
-CSHARP = {"uint8_t": "byte", "int32_t": "int", "uint32_t": "uint", "uint64_t": "ulong",
-          "size_t": "UIntPtr", "char": "byte", "ortholan_reason": "int", "ortholan_verdict": "int"}
+RUST = {"uint8_t": "u8", "uint16_t": "u16", "int32_t": "i32", "uint32_t": "u32", "int64_t": "i64",
+        "uint64_t": "u64", "size_t": "usize", "char": "c_char",
+        "ortholan_reason": "ortholan_reason", "ortholan_verdict": "ortholan_verdict"}
+CSHARP = {"uint8_t": "byte", "uint16_t": "ushort", "int32_t": "int", "uint32_t": "uint",
+          "int64_t": "long", "uint64_t": "ulong", "size_t": "UIntPtr", "char": "byte",
+          "ortholan_reason": "int", "ortholan_verdict": "int"}
+# Names of members and parameters that are words of the language.
+RUST_WORDS = {"box", "in", "match", "mod", "ref", "type", "use", "where"}
+CSHARP_WORDS = {"base", "event", "in", "is", "object", "out", "params", "ref", "string"}
 
 
 class Declarator:
@@ -100,7 +105,7 @@ def rust_layout(structures, constants, _):
 
 
 def escaped(name):
-    return f"r#{name}" if name in ("type", "match") else name
+    return f"r#{name}" if name in RUST_WORDS else name
 
 
 def csharp(structures, constants, functions):
@@ -126,7 +131,7 @@ def csharp(structures, constants, functions):
 
 
 def csharp_name(name):
-    return "@" + name if name in ("out", "base", "params", "ref") else name
+    return "@" + name if name in CSHARP_WORDS else name
 
 
 FILES = {
