@@ -86,10 +86,6 @@ docs:
 	cmake --preset release
 	cmake --build --preset release --target docs
 
-wasm:
-	@scripts/setup.sh wasm
-	@scripts/bindings/wasm.sh
-
 abi:
 	@scripts/setup.sh test
 	cmake --preset native

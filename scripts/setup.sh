@@ -36,7 +36,7 @@ case ${1-} in
       python3-sphinx python3-sphinx-copybutton)
     ;;
   # Node comes with emscripten.
-  wasm) packages=(chromium emscripten node-typescript) ;;
+  wasm) packages=(chromium emscripten fonts-dejavu-core node-typescript) ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   postgresql) packages=("${binding[@]}" dpkg-dev postgresql postgresql-server-dev-all) ;;
