@@ -7,6 +7,7 @@
 #include <ortholan/strict/certificates.h>
 #include <ortholan/strict/check.h>
 #include <ortholan/strict/constraints.h>
+#include <ortholan/strict/extension_builders.h>
 #include <ortholan/strict/extension_values.h>
 #include <ortholan/strict/extensions.h>
 #include <ortholan/strict/general_names.h>
