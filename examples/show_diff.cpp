@@ -66,7 +66,8 @@ std::string DiffText(const Side& first, const Side& second, const std::vector<Di
   for (const Difference& each : found) {
     text += Paint(Colour::kHeading, each.title) + ":\n";
     for (const std::string& line : each.common) text += "  " + line + "\n";
-    text += MarkedLines('-', each.removed, Colour::kFault) + MarkedLines('+', each.added, Colour::kNotable);
+    text += MarkedLines('-', each.removed, Colour::kFault) +
+            MarkedLines('+', each.added, Colour::kNotable);
   }
   return text;
 }

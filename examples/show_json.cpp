@@ -88,7 +88,7 @@ std::string ExtensionJson(const ExtensionReading& extension) {
   JsonObject object;
   if (!extension.isRead) return object.AddText("octets", Hex(extension.record)).End();
   object.AddText("oid", extension.oid);
-  if (extension.title != nullptr) object.AddText("name", std::string(extension.title));
+  if (!extension.title.empty()) object.AddText("name", extension.title);
   object.AddBool("critical", extension.isCritical).AddText("value", Hex(extension.value));
   if (!extension.json.empty()) object.Add("content", extension.json);
   if (!extension.refusal.empty()) object.AddText("notDer", extension.refusal);

@@ -95,7 +95,7 @@ std::string ExtensionText(const ExtensionReading& extension, const std::string& 
     return FaultyLine(indent, "no extension", Copy(extension.record));
   }
   std::string line = indent + extension.oid;
-  if (extension.title != nullptr) line += " " + Paint(Colour::kKey, extension.title);
+  if (!extension.title.empty()) line += " " + Paint(Colour::kKey, extension.title);
   if (extension.isCritical) line += ", " + Paint(Colour::kNotable, "critical");
   line += extension.isCritical ? ":" : ", not critical:";
   const std::string below(kExtensionIndent, ' ');
