@@ -101,6 +101,18 @@ constexpr Row kRows[] = {
     ROW(TEXT_ALPHABET),
     ROW(TEXT_NO_STRING),
     ROW(TYPE_NAME),
+    ROW(EXTENSION_TYPE),
+    ROW(TLS_SIZE),
+    ROW(JSON),
+    ROW(JSON_TWICE),
+    ROW(JSON_DEPTH),
+    ROW(JSON_FORM),
+    ROW(JSON_MEMBER),
+    ROW(JSON_LACKS),
+    ROW(JSON_WORD),
+    ROW(JSON_NUMBER),
+    ROW(JSON_TEXT),
+    ROW(JSON_DIFFERENT),
 };
 #undef ROW
 
