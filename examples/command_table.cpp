@@ -1,6 +1,7 @@
 #include "examples/command_table.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "examples/commands.h"
 #include "examples/failure.h"
@@ -40,11 +41,41 @@ const std::vector<Option>& CommonOptions() {
   return options;
 }
 
-int RunCommand(const Command& command, const std::vector<std::string>& all) {
+namespace {
+
+const Option kLineJsonOption = {"--json", nullptr, "with --lines: an object a line"};
+
+bool HasOwn(const Command& command, const Option& option) {
+  return std::any_of(command.options.begin(), command.options.end(),
+                     [&](const Option& own) { return own.name == std::string_view(option.name); });
+}
+
+void RequireLines(const Command& command, const Arguments& arguments) {
+  for (const Option& option : {kJobsOption, kLineJsonOption}) {
+    if (arguments.Has(option.name) && !HasOwn(command, option)) {
+      throw UsageError{std::string(option.name) + " goes with --lines"};
+    }
+  }
+}
+
+}  // namespace
+
+std::vector<Option> OptionsOf(const Command& command) {
   std::vector<Option> options = command.options;
+  if (command.lines.make == nullptr) return options;
+  if (!HasOwn(command, kLineJsonOption)) options.push_back(kLineJsonOption);
+  options.push_back(kLinesOption);
+  options.push_back(kJobsOption);
+  return options;
+}
+
+int RunCommand(const Command& command, const std::vector<std::string>& all) {
+  std::vector<Option> options = OptionsOf(command);
   options.insert(options.end(), CommonOptions().begin(), CommonOptions().end());
   const Arguments arguments(all, 1, options);
   SetVerbose(arguments.Has("--verbose"));
+  if (arguments.Has(kLinesOption.name)) return RunStream(command.name, command.lines, arguments);
+  RequireLines(command, arguments);
   const std::size_t count = arguments.operands.size();
   if (count < command.leastOperands || count > command.mostOperands) {
     throw UsageError{UsageLine(command)};

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "examples/arguments.h"
+#include "examples/stream/stream.h"
 
 namespace Example {
 
@@ -29,7 +30,12 @@ struct Command {
   // Lines for a shell; what they print stands indented below them.
   const char* examples;
   std::vector<Option> options;
+  // --lines, for those that have it; with it any number of operands are files.
+  LineWork lines = {};
 };
+
+// The command's own options and, where it has --lines, those that go with it.
+std::vector<Option> OptionsOf(const Command& command);
 
 // In the order of the help.
 const std::vector<const Command*>& AllCommands();

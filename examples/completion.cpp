@@ -35,8 +35,8 @@ std::string WordsOf(const std::string& list, std::string_view start, const std::
   return lines;
 }
 
-std::vector<Option> OptionsOf(const Command& command) {
-  std::vector<Option> options = command.options;
+std::vector<Option> AllOptionsOf(const Command& command) {
+  std::vector<Option> options = OptionsOf(command);
   options.insert(options.end(), CommonOptions().begin(), CommonOptions().end());
   return options;
 }
@@ -91,7 +91,7 @@ void JoinSplit(std::vector<std::string>& words) {
 }
 
 std::string ArgumentLines(const Command& command, const std::vector<std::string>& words) {
-  const std::vector<Option> options = OptionsOf(command);
+  const std::vector<Option> options = AllOptionsOf(command);
   const std::string& last = words.back();
   std::size_t operands = 0;
   bool isValue = false;

@@ -25,10 +25,6 @@ constexpr std::string_view kLabels[] = {
     "CMS",
 };
 
-bool IsWanted(std::string_view label) {
-  return std::find(std::begin(kLabels), std::end(kLabels), label) != std::end(kLabels);
-}
-
 class Walk {
  public:
   Walk(const DocumentFound& found, const DocumentBad& bad) : found_(found), bad_(bad) {}
@@ -89,7 +85,7 @@ void WalkDer(std::string_view file, Walk& walk) {
 
 void WalkPem(std::string_view file, Walk& walk) {
   ForEachPemBlock(file, [&walk](const PemBlock& block) {
-    if (!IsWanted(block.label)) return;
+    if (!IsDocumentLabel(block.label)) return;
     if (block.fault != nullptr) {
       walk.Bad(block.fault);
     } else {
@@ -99,6 +95,10 @@ void WalkPem(std::string_view file, Walk& walk) {
 }
 
 }  // namespace
+
+bool IsDocumentLabel(std::string_view label) {
+  return std::find(std::begin(kLabels), std::end(kLabels), label) != std::end(kLabels);
+}
 
 std::size_t ForEachDocument(const std::string& file, const DocumentFound& found,
                             const DocumentBad& bad) {

@@ -9,6 +9,9 @@
 
 namespace Example {
 
+// Whether PEM blocks with this label hold such.
+bool IsDocumentLabel(std::string_view label);
+
 // The number of a document, from 1, its octets, and where in the file it ends.
 using DocumentFound =
     std::function<void(std::size_t number, std::string_view der, std::size_t position)>;

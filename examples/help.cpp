@@ -73,7 +73,7 @@ std::string ProgramHelp() {
 
 std::string UsageLine(const Command& command) {
   std::string line = std::string("usage: x509name ") + command.name;
-  for (const Option& option : command.options) {
+  for (const Option& option : OptionsOf(command)) {
     line += std::string(" [") + option.name;
     if (option.argument != nullptr) line += std::string(" ") + option.argument;
     line += "]";
@@ -83,8 +83,8 @@ std::string UsageLine(const Command& command) {
 
 std::string CommandHelp(const Command& command) {
   std::string text = UsageLine(command) + "\n" + command.details;
-  if (!command.options.empty()) text += Heading("Options");
-  for (const Option& option : command.options) text += OptionRow(option);
+  if (!OptionsOf(command).empty()) text += Heading("Options");
+  for (const Option& option : OptionsOf(command)) text += OptionRow(option);
   return text + Heading("Examples") + Indented(command.examples);
 }
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <istream>
@@ -52,15 +51,20 @@ bool Exists(const std::string& path) {
 
 }  // namespace
 
-std::string ReadOctets(const std::string& path) {
-  if (path == "-") return ReadStandardInput();
-
-  // Streams report no cause of their own.
+std::filesystem::path RequireFile(const std::string& path) {
   const std::filesystem::path file = std::filesystem::u8path(path);
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(file, error);
   if (!std::filesystem::exists(status)) Fail(ERROR_FILE_NOT_FOUND, "cannot open " + path);
   if (std::filesystem::is_directory(status)) Fail(ERROR_ACCESS_DENIED, path + " is a directory");
+  return file;
+}
+
+std::string ReadOctets(const std::string& path) {
+  if (path == "-") return ReadStandardInput();
+
+  // Streams report no cause of their own.
+  const std::filesystem::path file = RequireFile(path);
   std::ifstream stream(file, std::ios::binary);
   if (!stream) Fail(ERROR_ACCESS_DENIED, "cannot open " + path);
   return ReadStream(stream, path);

@@ -4,6 +4,7 @@
 
 #include <ortholan/ident_obj.h>
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,8 @@ namespace Example {
 // The whole of a file, "-" being standard input, which can be named once: UsageError. Files above
 // 256 MiB are refused.
 std::string ReadOctets(const std::string& path);
+// The path of a file that is there.
+std::filesystem::path RequireFile(const std::string& path);
 void WriteOctets(const std::string& path, const Ortholan::IdentObj& bytes);
 
 // A text in UTF-8: the argument itself, or for "-" standard input but for one line end behind it.

@@ -12,12 +12,13 @@
 
 #include "examples/colour.h"
 #include "examples/commands.h"
+#include "examples/der.h"
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/json.h"
-#include "examples/lines.h"
 #include "examples/name_options.h"
 #include "examples/name_text.h"
+#include "examples/stream/item_octets.h"
 #include "examples/strict_matching.h"
 #include "examples/strict_names.h"
 #include "examples/text.h"
@@ -42,7 +43,6 @@ void WarnOfBackslash(const std::wstring& text) {
 
 // Wide text is the one form that means the same whatever the thread's code page.
 IdentObj EncodeText(const std::wstring& text, DWORD options, bool sort) {
-  WarnOfBackslash(text);
   X500NameEncoder encoder;
   encoder.SetEncoderOptions(options);
   IdentObj der;
@@ -66,6 +66,7 @@ int RunEncode(const Arguments& arguments) {
   const DWORD options = EncoderOptions(arguments);
   const std::wstring text =
       ReadText(arguments.operands[0], (options & CERT_NAME_STR_CRLF_FLAG) != 0);
+  WarnOfBackslash(text);
   const IdentObj der = EncodeText(text, options, arguments.Has("--sort"));
   if (const auto path = arguments.Value("--out")) {
     WriteOctets(*path, der);
@@ -75,33 +76,33 @@ int RunEncode(const Arguments& arguments) {
   return 0;
 }
 
-int RunEncodeLines(const Arguments& arguments) {
+ItemWork EncodeLines(const Arguments& arguments) {
   if (arguments.Has("--out")) throw UsageError{"--lines prints, and takes no --out"};
+  if (arguments.Has(kEncodeRfc4514Option.name)) return EncodeRfc4514Lines(arguments);
   const DWORD options = EncoderOptions(arguments);
   const bool sort = arguments.Has("--sort");
-  return RunLines("encode", arguments.operands[0], [&](const std::string& line) {
-    return Hex(EncodeText(FromUtf8(line), options, sort));
-  });
-}
-
-std::string DecodedLine(const IdentObj& der, const Arguments& arguments) {
-  const std::wstring text = DecodeText(der, DecoderOptions(arguments));
-  return arguments.Has("--json") ? JsonObject().AddText("text", text).End() : Output(text);
+  return [options, sort](const Item& item, Answers& answers) {
+    const std::wstring text = FromUtf8(std::string(item.text));
+    answers.AddHex("der", View(EncodeText(text, options, sort)));
+  };
 }
 
 int RunDecode(const Arguments& arguments) {
   RequireRfc4514(arguments);
-  DecoderOptions(arguments);
-  Print(DecodedLine(ReadElement(arguments.operands[0], Kind::kName), arguments) + "\n");
+  const DWORD options = DecoderOptions(arguments);
+  const std::wstring text = DecodeText(ReadElement(arguments.operands[0], Kind::kName), options);
+  Print((arguments.Has("--json") ? JsonObject().AddText("text", text).End() : Output(text)) + "\n");
   return 0;
 }
 
-int RunDecodeLines(const Arguments& arguments) {
+ItemWork DecodeLines(const Arguments& arguments) {
+  if (arguments.Has(kDecodeRfc4514Option.name)) return DecodeRfc4514Lines(arguments);
   RequireRfc4514(arguments);
-  DecoderOptions(arguments);
-  return RunLines("decode", arguments.operands[0], [&](const std::string& line) {
-    return DecodedLine(ReadElementText(line, Kind::kName), arguments);
-  });
+  return [options = DecoderOptions(arguments)](const Item& item, Answers& answers) {
+    const IdentObj der = ReadElementText(std::string(item.text), Kind::kName);
+    const std::string text = ToUtf8(DecodeText(der, options));
+    answers.AddFreeText("text", answers.IsJson() ? text : Output(text));
+  };
 }
 
 // A type and the lines of its value.
@@ -138,8 +139,8 @@ int RunPairs(const Arguments& arguments) {
   return 0;
 }
 
-X509Name ReadName(const std::string& argument, const char* what) {
-  X509Name name(ReadElement(argument, Kind::kName));
+X509Name ReadName(const IdentObj& der, const char* what) {
+  X509Name name(der);
   std::list<std::list<RDNAttr>> tree;
   SetLastError(ERROR_SUCCESS);
   // An object without octets would be no name, and no failure either.
@@ -149,9 +150,28 @@ X509Name ReadName(const std::string& argument, const char* what) {
 
 int RunEqual(const Arguments& arguments) {
   RequireRfc5280(arguments);
-  const X509Name first = ReadName(arguments.operands[0], "the first name");
-  const X509Name second = ReadName(arguments.operands[1], "the second name");
+  const X509Name first =
+      ReadName(ReadElement(arguments.operands[0], Kind::kName), "the first name");
+  const X509Name second =
+      ReadName(ReadElement(arguments.operands[1], Kind::kName), "the second name");
   return first == second ? 0 : 1;
+}
+
+ItemWork EqualLines(const Arguments& arguments) {
+  if (arguments.Has(kEqualRfc5280Option.name)) return EqualRfc5280Lines(arguments);
+  RequireRfc5280(arguments);
+  return [](const Item& item, Answers& answers) {
+    std::string_view columns[2];
+    SplitColumns(item, columns, 2);
+    const auto read = [](std::string_view column, const char* what) {
+      return ReadName(ReadElementText(std::string(column), Kind::kName), what);
+    };
+    if (read(columns[0], "the first name") == read(columns[1], "the second name")) {
+      answers.AddYes();
+    } else {
+      answers.AddNo(0, "the attributes are different");
+    }
+  };
 }
 
 }  // namespace
@@ -167,15 +187,15 @@ const Command kEncodeCommand = {
     "standard input, but for one line end behind it.\n",
     "x509name encode --sort 'CN=Alpha, O=Org, C=RU'\n"
     "x509name encode --utf8 --out name.der 'CN=Альфа, O=\"Org, Ltd\"'\n"
-    "x509name encode --lines names.txt\n",
+    "x509name encode --rfc4514 --lines <names.txt >names.hex\n",
     {kEncodeRfc4514Option,
      kUtf8Option,
      kUtf8AlwaysOption,
      kSeparatorOption,
      kOptionsOption,
      {"--sort", nullptr, "put the attributes in canonical order, common name last"},
-     {"--out", "FILE", "write the octets into FILE"},
-     {"--lines", nullptr, "TEXT is a file or \"-\", each line of it a name", RunEncodeLines}}};
+     {"--out", "FILE", "write the octets into FILE"}},
+    {EncodeLines}};
 
 const Command kDecodeCommand = {
     "decode",
@@ -189,14 +209,9 @@ const Command kDecodeCommand = {
     "    CN=Alpha\n"
     "x509name encode 'CN=Alpha, C=RU' | x509name decode --separator ';' -\n"
     "x509name decode --json name.der\n",
-    {kDecodeRfc4514Option,
-     kExactOption,
-     kLongNamesOption,
-     kStyleOption,
-     kSeparatorOption,
-     kOptionsOption,
-     kJsonOption,
-     {"--lines", nullptr, "NAME is a file or \"-\", each line of it a name", RunDecodeLines}}};
+    {kDecodeRfc4514Option, kExactOption, kLongNamesOption, kStyleOption, kSeparatorOption,
+     kOptionsOption, kJsonOption},
+    {DecodeLines}};
 
 const Command kPairsCommand = {"pairs",
                                RunPairs,
@@ -220,6 +235,7 @@ const Command kEqualCommand = {
     "types of values do not count, letter case does.\n",
     "x509name equal a.der b.der && echo same\n"
     "x509name equal --rfc5280 issuer.der subject.der\n",
-    {kEqualRfc5280Option, kAnyOrderOption}};
+    {kEqualRfc5280Option, kAnyOrderOption},
+    {EqualLines}};
 
 }  // namespace Example

@@ -5,8 +5,6 @@
 namespace Example {
 namespace {
 
-constexpr std::string_view kBegin = "-----BEGIN ";
-constexpr std::string_view kEnd = "-----END ";
 constexpr std::string_view kClose = "-----";
 
 bool StartsWith(std::string_view line, std::string_view prefix) {
@@ -57,8 +55,10 @@ std::optional<std::string> FromBase64(std::string_view text) {
   return bytes;
 }
 
+std::string_view PemLabel(std::string_view block) { return Label(block, kPemBegin); }
+
 bool HasPemBlock(std::string_view text) {
-  return StartsWith(text, kBegin) || text.find("\n-----BEGIN ") != std::string_view::npos;
+  return StartsWith(text, kPemBegin) || text.find("\n-----BEGIN ") != std::string_view::npos;
 }
 
 namespace {
@@ -67,7 +67,7 @@ namespace {
 PemBlock Closed(std::string_view label, std::string_view lines, std::string_view closing) {
   PemBlock block{label, {}, nullptr, 0};
   std::optional<std::string> octets = FromBase64(lines);
-  if (Label(closing, kEnd) != label) {
+  if (Label(closing, kPemEnd) != label) {
     block.fault = "a PEM block that ends with another label";
   } else if (!octets) {
     block.fault = "a PEM block that is no base64";
@@ -92,12 +92,12 @@ void ForEachPemBlock(std::string_view text, const std::function<void(const PemBl
   while (!rest.empty()) {
     const char* const lineStart = rest.data();
     const std::string_view line = TakeLine(rest);
-    if (StartsWith(line, kBegin)) {
+    if (StartsWith(line, kPemBegin)) {
       if (isInside) unclosed();
       isInside = true;
-      label = Label(line, kBegin);
+      label = Label(line, kPemBegin);
       lines = rest.data();
-    } else if (isInside && StartsWith(line, kEnd)) {
+    } else if (isInside && StartsWith(line, kPemEnd)) {
       isInside = false;
       report(Closed(label, {lines, static_cast<std::size_t>(lineStart - lines)}, line));
     }

@@ -17,6 +17,13 @@ struct PemBlock {
   std::size_t end;         // octets of the text up to behind the block
 };
 
+// What the lines of a block's two ends begin with.
+inline constexpr std::string_view kPemBegin = "-----BEGIN ";
+inline constexpr std::string_view kPemEnd = "-----END ";
+
+// What the line that opens a block says it holds.
+std::string_view PemLabel(std::string_view block);
+
 // Whether a line of `text` opens a block.
 bool HasPemBlock(std::string_view text);
 

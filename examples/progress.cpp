@@ -19,8 +19,9 @@ void Progress::Show(std::size_t number, std::size_t position) {
   if (now < next_ && !isHeld_) return;
   // The terminal may hold both streams.
   if (isHeld_) FinishOutput();
-  const std::size_t percent = size_ == 0 ? 100 : position * 100 / size_;
-  std::fprintf(stderr, "\r%zu certificates, %zu %%\x1B[K", number, percent);
+  std::fprintf(stderr, "\r%zu %s", number, what_);
+  if (size_ != 0) std::fprintf(stderr, ", %zu %%", position * 100 / size_);
+  std::fputs("\x1B[K", stderr);
   std::fflush(stderr);
   isShown_ = true;
   isHeld_ = false;

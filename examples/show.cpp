@@ -1,8 +1,10 @@
 // show: certificates, requests and revocation lists with their names and extensions.
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "examples/commands.h"
 #include "examples/document_file.h"
@@ -12,7 +14,9 @@
 #include "examples/progress.h"
 #include "examples/show_diff.h"
 #include "examples/show_json.h"
+#include "examples/show_text.h"
 #include "examples/shown.h"
+#include "examples/stream/item_octets.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -115,6 +119,28 @@ int ShowFiles(const Arguments& arguments, Show show) {
   return printer.IsSound() ? 0 : 1;
 }
 
+// All of it in one line: a tab for a line end, which no value has, as it would be shown escaped.
+std::string Joined(std::string text, const std::vector<std::string>& faults) {
+  for (const std::string& fault : faults) text += "  cannot be read: " + Visible(fault) + "\n";
+  text.pop_back();
+  std::replace(text.begin(), text.end(), '\n', '\t');
+  return text;
+}
+
+ItemWork ShowLines(const Arguments& arguments) {
+  SetLibraryText(arguments.Has("--library-text"));
+  return [buffer = std::string()](const Item& item, Answers& answers) mutable {
+    const ortholan_octets octets = OctetsOf(item, buffer);
+    const std::string_view der(reinterpret_cast<const char*>(octets.data), octets.size);
+    if (KindOf(der) == Kind::kPkcs7) {
+      Refuse("this is a PKCS #7 bundle, which show opens without --lines");
+    }
+    const Document document = ReadDocument(der);
+    answers.AddLine(answers.IsJson() ? DocumentJson({}, 0, document)
+                                     : Joined(DocumentText(0, document), document.faults));
+  };
+}
+
 int RunShow(const Arguments& arguments) {
   SetLibraryText(arguments.Has("--library-text"));
   return ShowFiles(arguments, ShowDocument);
@@ -142,10 +168,12 @@ const Command kShowCommand = {
     "x509name show server.pem\n"
     "x509name show --json bundle.pem | jq -r '.[].subject.text'\n"
     "x509name show --check server.pem\n"
-    "x509name show --diff old.pem new.pem\n",
+    "x509name show --diff old.pem new.pem\n"
+    "x509name show --json --lines --jobs 2 log.pem | jq -r .sha256\n",
     {kJsonOption,
      {"--check", nullptr, "what RFC 5280 forbids in them", RunCheck},
      {"--diff", nullptr, "what differs between two", RunShowDiff},
-     {"--library-text", nullptr, "the library's own text of each general name, too"}}};
+     {"--library-text", nullptr, "the library's own text of each general name, too"}},
+    {ShowLines, true}};
 
 }  // namespace Example

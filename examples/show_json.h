@@ -21,6 +21,7 @@ std::string GeneralNameJson(const GeneralNameReading& name, unsigned tag,
                             const std::string& libraryText);
 std::string ExtensionJson(const ExtensionReading& extension);
 
+// Without a path or with number 0 there is no such member.
 std::string DocumentJson(const std::string& path, std::size_t number, const Document& document);
 
 // What takes the place of a document that cannot be read, and of a file, with number 0.

@@ -10,6 +10,7 @@
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/kinds.h"
+#include "examples/stream/item_octets.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -49,6 +50,27 @@ int RunPermitted(const Arguments& arguments) {
   return 1;
 }
 
+// The certificates of a chain in as many columns.
+ItemWork PermittedLines(const Arguments& arguments) {
+  if (arguments.Has("--all")) throw UsageError{"--lines prints one reason, and takes no --all"};
+  return [](const Item& item, Answers& answers) {
+    std::vector<std::string> chain;
+    std::string_view rest = item.text;
+    for (std::string_view column; TakeColumn(rest, &column);) {
+      OctetsOfText(column, chain.emplace_back());
+    }
+    const ortholan::Permission permission = ortholan::Permits({chain.begin(), chain.end()});
+    if (permission) return answers.AddYes();
+    if (permission.findings.empty()) Refuse("no certificates");
+    const ortholan::Finding& finding = permission.findings.front();
+    const auto code = static_cast<std::uint32_t>(finding.reason);
+    if (permission.verdict == ortholan::Verdict::kNo) {
+      return answers.AddNo(code, finding.Sentence());
+    }
+    answers.AddCannotTell(code, finding.Sentence());
+  };
+}
+
 }  // namespace
 
 const Command kPermittedCommand = {
@@ -65,6 +87,7 @@ const Command kPermittedCommand = {
     "Signatures, times and usages are not looked at.\n",
     "x509name permitted chain.pem\n"
     "x509name permitted leaf.pem intermediate.pem root.pem\n",
-    {{"--all", nullptr, "every reason, not the first alone"}}};
+    {{"--all", nullptr, "every reason, not the first alone"}},
+    {PermittedLines}};
 
 }  // namespace Example

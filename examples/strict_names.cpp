@@ -6,7 +6,8 @@
 
 #include "examples/failure.h"
 #include "examples/input.h"
-#include "examples/lines.h"
+#include "examples/stream/item_octets.h"
+#include "examples/stream/written.h"
 #include "examples/text.h"
 #include "examples/text_failure.h"
 
@@ -30,6 +31,16 @@ ortholan::Rfc4514 TextOptions(const Arguments& arguments) {
   return options;
 }
 
+ortholan::Rfc4514 EncodeOptions(const Arguments& arguments) {
+  RefuseOptions(arguments, {"--utf8", "--separator", "--options", "--sort"});
+  return TextOptions(arguments);
+}
+
+ortholan::Rfc4514 DecodeOptions(const Arguments& arguments) {
+  RefuseOptions(arguments, {"--style", "--separator", "--options"});
+  return TextOptions(arguments);
+}
+
 ortholan::Name Encode(const std::string& text, const ortholan::Rfc4514& options) {
   const ortholan::Result<ortholan::Name> name = ortholan::Name::FromText(text, options);
   if (name) return *name;
@@ -48,7 +59,7 @@ std::string ReadOne(const std::string& operand) {
   return text;
 }
 
-Ortholan::IdentObj Octets(const ortholan::Name& name) {
+Ortholan::IdentObj DerOf(const ortholan::Name& name) {
   return {name.der().data(), static_cast<Ortholan::DWORD>(name.der().size())};
 }
 
@@ -61,14 +72,8 @@ std::string Decode(const Ortholan::IdentObj& der, const ortholan::Rfc4514& optio
 }
 
 int RunEncodeRfc4514(const Arguments& arguments) {
-  RefuseOptions(arguments, {"--utf8", "--separator", "--options", "--sort"});
-  const ortholan::Rfc4514 options = TextOptions(arguments);
-  const std::string& operand = arguments.operands[0];
-  if (arguments.Has("--lines")) {
-    return RunLines("encode", operand,
-                    [&](const std::string& line) { return Hex(Octets(Encode(line, options))); });
-  }
-  const Ortholan::IdentObj der = Octets(Encode(ReadOne(operand), options));
+  const ortholan::Rfc4514 options = EncodeOptions(arguments);
+  const Ortholan::IdentObj der = DerOf(Encode(ReadOne(arguments.operands[0]), options));
   if (const auto path = arguments.Value("--out")) {
     WriteOctets(*path, der);
   } else {
@@ -78,15 +83,9 @@ int RunEncodeRfc4514(const Arguments& arguments) {
 }
 
 int RunDecodeRfc4514(const Arguments& arguments) {
-  RefuseOptions(arguments, {"--style", "--separator", "--options", "--json"});
-  const ortholan::Rfc4514 options = TextOptions(arguments);
-  const std::string& operand = arguments.operands[0];
-  if (arguments.Has("--lines")) {
-    return RunLines("decode", operand, [&](const std::string& line) {
-      return Decode(ReadElementText(line, Kind::kName), options);
-    });
-  }
-  Print(Decode(ReadElement(operand, Kind::kName), options) + "\n");
+  RefuseOptions(arguments, {"--json"});
+  const ortholan::Rfc4514 options = DecodeOptions(arguments);
+  Print(Decode(ReadElement(arguments.operands[0], Kind::kName), options) + "\n");
   return 0;
 }
 
@@ -100,6 +99,61 @@ const Option kExactOption = {"--exact", nullptr,
                              "with --rfc4514: text that encode takes back to the very octets"};
 const Option kLongNamesOption = {"--long-names", nullptr,
                                  "with --rfc4514: commonName in place of CN"};
+
+namespace {
+
+// As the C functions take them. There are no names of types among them.
+ortholan_rfc4514_options PlainOptions(const ortholan::Rfc4514& options) {
+  ortholan_rfc4514_options plain = {};
+  plain.strings = static_cast<int32_t>(options.strings);
+  plain.long_names = options.long_names ? 1 : 0;
+  plain.exact = options.exact ? 1 : 0;
+  return plain;
+}
+
+void AddTextRefusal(std::string_view text, const ortholan::Refusal& refusal, Answers& answers) {
+  answers.AddRefusal(static_cast<std::uint32_t>(refusal.reason),
+                     ortholan::ExplainNameText(text, refusal).message);
+}
+
+}  // namespace
+
+// Both write into memory that serves the next item again: nothing is allocated for a name.
+ItemWork EncodeRfc4514Lines(const Arguments& arguments) {
+  const ortholan_rfc4514_options options = PlainOptions(EncodeOptions(arguments));
+  return [options, room = std::string()](const Item& item, Answers& answers) mutable {
+    ortholan::Refusal refusal;
+    const auto write = [&](char* out, std::size_t most, std::size_t* size) {
+      return ortholan_rfc4514_read(ortholan::ToText(item.text), &options,
+                                   reinterpret_cast<uint8_t*>(out), most, size, &refusal);
+    };
+    std::string_view der;
+    if (Write(room, &der, write) == ORTHOLAN_REASON_NONE) {
+      answers.AddHex("der", der);
+    } else {
+      AddTextRefusal(item.text, refusal, answers);
+    }
+  };
+}
+
+ItemWork DecodeRfc4514Lines(const Arguments& arguments) {
+  const ortholan_rfc4514_options options = PlainOptions(DecodeOptions(arguments));
+  return [options, octets = std::string(), room = std::string()](const Item& item,
+                                                                 Answers& answers) mutable {
+    ortholan_name_view name;
+    ortholan::Refusal refusal;
+    const auto write = [&](char* out, std::size_t most, std::size_t* size) {
+      return ortholan_rfc4514_write(&name, &options, out, most, size, &refusal);
+    };
+    std::string_view text;
+    if (ortholan_name_view_read(OctetsOf(item, octets), ORTHOLAN_READ_DER, &name, &refusal) == 0 &&
+        Write(room, &text, write) == ORTHOLAN_REASON_NONE) {
+      answers.AddText("text", text);
+    } else {
+      answers.AddRefusal(refusal);
+    }
+  };
+}
 
 StrictName ReadStrictName(std::string_view der) {
   const auto name = ortholan::NameView::Read(der);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "examples/arguments.h"
+#include "examples/stream/stream.h"
 
 namespace Example {
 
@@ -14,6 +15,11 @@ extern const Option kEncodeRfc4514Option;
 extern const Option kDecodeRfc4514Option;
 extern const Option kExactOption;
 extern const Option kLongNamesOption;
+
+// --lines of both with --rfc4514. An item is a text and its line hexadecimal digits ("der"), or a
+// name and its line the text ("text").
+ItemWork EncodeRfc4514Lines(const Arguments& arguments);
+ItemWork DecodeRfc4514Lines(const Arguments& arguments);
 
 // What the strict reader says of a name.
 struct StrictName {

@@ -29,6 +29,8 @@ flags=$(sed -n 's/^CMAKE_CXX_FLAGS_RELWITHDEBINFO:[^=]*=//p' build/bench/CMakeCa
   echo "- Flags: \`$flags\`, \`-O3\` for the library itself, and those of \`cmake/hardening.cmake\`"
   echo
   awk -f bench/report.awk "$native" "$windows"
+  echo
+  scripts/bench_stream.sh build/bench/x509name
 } | tee "$results"
 
 if [[ ${1-} == --record ]]; then

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "strict/certificates/certificate_view.h"
+#include "strict/certificates/extensions_view.h"
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/check.h"
 

@@ -2,6 +2,7 @@
 
 #include "strict/der/any_value.h"
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 #include "strict/names/plain_rdn.h"
 

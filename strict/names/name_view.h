@@ -11,9 +11,11 @@
 #include <vector>
 
 #include "bytes/byte_view.h"
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 // One AttributeTypeAndValue.
 struct AttributeView {

@@ -10,7 +10,7 @@ function(ortholan_cli_test name)
 endfunction()
 
 # A table of command lines each.
-foreach(table IN ITEMS encode decode usage certificates hostile)
+foreach(table IN ITEMS encode decode usage certificates hostile streams)
   ortholan_cli_test(${table} "${cli}/run.sh" ${table}.sh ${runs_x509name})
 endforeach()
 
@@ -28,6 +28,7 @@ endforeach()
 
 set(certificates "${CMAKE_CURRENT_SOURCE_DIR}/data/certificates")
 ortholan_cli_test(vectors python3 "${cli}/vectors_test.py" ${runs_x509name})
+ortholan_cli_test(blocks python3 "${cli}/streams_test.py" "${certificates}" ${runs_x509name})
 ortholan_cli_test(json python3 "${cli}/json_test.py" "${certificates}" ${runs_x509name})
 if(NOT WIN32)
   # Wine's console is not the one of Windows.
@@ -35,6 +36,8 @@ if(NOT WIN32)
   set_tests_properties(cli_terminal PROPERTIES SKIP_RETURN_CODE 77)
   ortholan_cli_test(completion
     "${cli}/completion.sh" "${PROJECT_SOURCE_DIR}/examples/x509name.bash" ${runs_x509name})
+  ortholan_cli_test(streams_page python3 "${cli}/console_blocks.py"
+    "${PROJECT_SOURCE_DIR}/docs/streams.md" "${certificates}" ${runs_x509name})
 endif()
 if(ORTHOLAN_CHECK_SOURCES)
   ortholan_cli_test(manual

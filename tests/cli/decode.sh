@@ -72,7 +72,9 @@ pkcs7.pem|this is a PKCS #7 bundle, not a name: .*
 820B6578616D706C652E6F7267|this is a general name, not a name: .x509name general-name. reads it
 300E0603551D0F0101FF0404030205A0|this is an extension, not a name: .x509name extension. reads it
 FORMS
-row "a name a line" 1 $'CN=Alpha\n\nCN=Alpha\n' "x509name: decode: line 2: a text .*" decode --lines lines
+row "a name a line" 1 \
+  $'CN=Alpha\n!0 a text that is neither hexadecimal, base64 nor PEM\nCN=Alpha\n' \
+  "x509name: decode: 1 of 3 items refused" decode --lines lines
 row "no such file" 1 "" "x509name: decode: cannot open no\.der$(code 2)" decode no.der
 row "directory" 1 "" "x509name: decode: result is a directory$(code 5)" decode result
 row "odd number of digits" 1 "" "x509name: decode: hexadecimal digits that .*" decode 300

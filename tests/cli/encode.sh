@@ -84,7 +84,9 @@ row "standard input of two lines" 1 "" "$prefix standard input has 2 lines: .*--
 row "the same where line ends are asked for" 0 "3011310F300D06035504103006130161130162$line" "" \
   encode --separator crlf -
 printf 'CN=Alpha\r\n\nCN=a,O\nCN=Alpha' >text
-row "a name a line" 1 "$alpha$line$line$line$alpha$line" "6:x509name: encode: line 3: .+" encode --lines -
+row "a name a line" 1 "$alpha$line"'!0 end of the text at character 1: expected a type such as CN, "=" and a value
+!0 "O" at character 6: expected "=" and a value behind the type; a value that holds a delimiter has to stand in double quotes
+'"$alpha$line" "x509name: encode: 2 of 4 items refused" encode --lines -
 row "a name a line, into a file" 2 "" "x509name: --lines prints, and takes no --out" \
   encode --lines --out names.der text
 : >text

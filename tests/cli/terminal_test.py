@@ -189,13 +189,15 @@ def check_progress(program, scratch):
         ("two files", ["show", many, many], 2),
         ("survey", ["survey", many], 1),
         ("broken", ["show", broken], 1),
+        ("lines", ["identify", "--host", "example.org", "--lines", many], 1),
+        ("lines, with refusals", ["show", "--lines", "--jobs", "2", broken], 1),
     ]
     for label, arguments, least in rows:
         piped = run(program, arguments, False, False)
         status, output, error = run(program, arguments, False, True)
         check(f"{label}: exit status", status, piped[0])
         check(f"{label}: output", output == piped[1], True)
-        seen = re.findall(rb"\r(\d+) certificates, (\d+) %", error)
+        seen = re.findall(rb"\r(\d+) (?:certificates|items), (\d+) %", error)
         check(f"{label}: progress", (len(seen) >= least, least or len(seen)), (True, least))
         check(f"{label}: erased", screen(error), piped[2].decode())
         for number, percent in seen:
