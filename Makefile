@@ -2,9 +2,12 @@
 
 PRESETS ?= native sanitize windows
 
+# Each has a group in scripts/setup.sh and a script in scripts/bindings/.
+BINDINGS := python wasm postgresql rust go csharp visual-c machines
+
 .DEFAULT_GOAL := help
 .PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
-  format deb package clean
+  format deb package clean $(BINDINGS)
 
 help:
 	@echo 'make demo         build the example program and run it on real certificates'
@@ -20,12 +23,21 @@ help:
 	@echo 'make suites       ask this library and others the published suites (RECORD=yes: and note it in'
 	@echo '                  docs/suites.md)'
 	@echo 'make docs         the site: pages and public declarations, into build/release/docs/html'
+	@echo 'make wasm         the npm package and the page to try it, which make docs then takes along'
 	@echo 'make abi          record the symbols that both libraries export in packaging/abi/'
 	@echo 'make format       format the sources'
 	@echo 'make deb          Debian packages into build/package/packages, unpacked and used'
 	@echo 'make package      Debian packages and a ZIP for Windows into build/*/packages, each unpacked'
 	@echo '                  and used'
+	@echo 'make python       the Python wheel into build/python/dist, installed and tested'
 	@echo 'make compilers    the tests built by clang++, natively and for Windows'
+	@echo 'make postgresql   the extension for PostgreSQL and its tests, on a server of their own'
+	@echo 'make rust         the crates of bindings/rust, built, tested, and a name converted'
+	@echo '                  (NAME="CN=Alpha,O=Org" says which; the same for go and csharp)'
+	@echo 'make go           the package of bindings/go'
+	@echo 'make csharp       the assembly of bindings/csharp'
+	@echo 'make visual-c     the Windows DLL called by programs that clang builds for Visual C++'
+	@echo 'make machines     the tests on arm64 and s390x, which qemu emulates'
 	@echo 'make clean        delete build/'
 
 demo:
@@ -105,6 +117,10 @@ package:
 compilers:
 	@scripts/setup.sh test
 	@scripts/test.sh clang windows-clang
+
+$(BINDINGS):
+	@scripts/setup.sh $@
+	@scripts/bindings/$(subst -,_,$@).sh
 
 clean:
 	rm -rf build

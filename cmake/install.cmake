@@ -68,16 +68,16 @@ if(NOT WIN32)
     COMPONENT development)
 endif()
 
-# Python finds the library where the system keeps libraries, or beside the module.
+# Python finds the library where the system keeps libraries, or in the package's own directory.
 if(NOT WIN32 AND CMAKE_INSTALL_PREFIX STREQUAL "/usr")
   set(ORTHOLAN_PYTHON_DIR lib/python3/dist-packages)
 else()
   set(ORTHOLAN_PYTHON_DIR "${CMAKE_INSTALL_DATADIR}/ortholan/python")
 endif()
-# A recipe of a package manager may have left the examples out.
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples/python/"
+# A recipe of a package manager may have left the bindings out.
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/bindings/python/ortholan"
   DESTINATION "${ORTHOLAN_PYTHON_DIR}" COMPONENT python OPTIONAL
-  FILES_MATCHING PATTERN "ortholan*" PATTERN "__pycache__" EXCLUDE)
+  FILES_MATCHING PATTERN "*.py" PATTERN "py.typed" PATTERN "__pycache__" EXCLUDE)
 
 include(cmake/installed_pages.cmake)
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE"

@@ -79,9 +79,9 @@ This package holds the documents of the library and of its C interface.")
   set(CPACK_DEBIAN_PYTHON_PACKAGE_ARCHITECTURE all)
   set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "${runtime} (>= ${PROJECT_VERSION}~), python3:any")
   set(CPACK_DEBIAN_PYTHON_DESCRIPTION
-    "names and extensions of X.509 certificates - Python module\n${about}
+    "names and extensions of X.509 certificates - Python package\n${about}
 .
-This package holds the module ortholan for Python 3.")
+This package holds the package ortholan for Python 3.")
 
   set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME x509name)
   set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)

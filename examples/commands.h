@@ -24,6 +24,9 @@ extern const Command kSurveyCommand;
 extern const Command kExtensionCommand;
 extern const Command kGeneralNameCommand;
 
+// make_command.cpp
+extern const Command kMakeCommand;
+
 // strict_matching.cpp
 extern const Command kWithinCommand;
 extern const Command kKeyCommand;

@@ -1,5 +1,6 @@
-// Encodings looked at where they stand (ITU-T X.690), definite and indefinite lengths alike: views
-// into octets of somebody else's.
+// Encodings told apart where they stand (ITU-T X.690), as generously as the library's classes do
+// it, with definite and indefinite lengths alike: views into octets of somebody else's. What is
+// inside is read by the strict layer.
 //
 //   std::string_view rest = octets;
 //   for (Der each; TakeElement(rest, each);) Use(each.content);
@@ -10,6 +11,7 @@
 #include <ortholan/ident_obj.h>
 
 #include <cstddef>
+#include <ortholan/strict/base.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,19 +24,11 @@ enum : unsigned {
   kInteger = 0x02,
   kBitString = 0x03,
   kOctetString = 0x04,
-  kNull = 0x05,
   kOid = 0x06,
-  kUtf8String = 0x0C,
-  kPrintableString = 0x13,
-  kTeletexString = 0x14,
-  kIa5String = 0x16,
   kUtcTime = 0x17,
   kGeneralizedTime = 0x18,
-  kVisibleString = 0x1A,
-  kBmpString = 0x1E,
   kSequence = 0x30,
   kSet = 0x31,
-  kContext = 0x80,             // [n], primitive: kContext + n
   kContextConstructed = 0xA0,  // [n], constructed
 };
 
@@ -55,18 +49,8 @@ std::vector<Der> Elements(std::string_view content, bool* isWhole = nullptr);
 Der OnlyElement(std::string_view octets);
 
 std::string_view View(const Ortholan::IdentObj& octets);
+std::string_view View(ortholan::Octets octets);
 Ortholan::IdentObj Copy(std::string_view octets);
-
-// Dotted form of an identifier's content, arcs of any size; empty for content that is none.
-std::string OidText(std::string_view content);
-
-// UTF-8 of a string's content, by its tag: 8-bit types octet by octet as ISO 8859-1, unless the
-// tag is UTF8String. What stands for no character becomes U+FFFD.
-std::string StringText(unsigned tag, std::string_view content);
-
-// "2026-11-21T21:50:39Z" of a UTCTime or GeneralizedTime as RFC 5280 4.1.2.5 has them; any other
-// content as it stands.
-std::string TimeText(unsigned tag, std::string_view content);
 
 }  // namespace Example
 

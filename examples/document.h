@@ -12,7 +12,6 @@
 #include "examples/name_text.h"
 #include "examples/name_tree.h"
 #include "examples/strict_names.h"
-#include "examples/value.h"
 
 namespace Example {
 
@@ -20,11 +19,13 @@ namespace Example {
 struct Fact {
   const char* label;   // for a person
   const char* member;  // of JSON
-  Value value;
+  std::string text;
+  bool isNumber = false;
 };
 
 struct NameReading {
   const char* role;  // "subject", "issuer"
+  std::string_view octets;
   NameText text;
   NameTree tree;
   StrictName strict;
@@ -35,11 +36,16 @@ struct Document {
   std::vector<Fact> facts;
   std::vector<NameReading> names;
   std::vector<ExtensionReading> extensions;
+  std::string refusal;              // why it is no DER, or not the fields of its kind
   std::vector<std::string> faults;  // what in these could not be read
 };
 
 // Views into `der`; throws Failure for octets that are none of the three.
 Document ReadDocument(std::string_view der);
+
+// The document itself, without what may stand behind it in a TRUSTED CERTIFICATE. Throws Failure
+// where there is none.
+std::string_view FirstElement(std::string_view octets);
 
 // The names of a certificate alone, whole encodings: subject and issuer. Throws Failure.
 std::vector<std::string_view> ReadCertificateNames(std::string_view der);

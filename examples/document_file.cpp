@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 #include "examples/der.h"
 #include "examples/failure.h"
-#include "examples/fields.h"
 #include "examples/kinds.h"
 #include "examples/pasted.h"
 #include "examples/pem.h"
@@ -34,7 +34,8 @@ class Walk {
   std::size_t Count() const { return count_; }
 
  private:
-  void Open(std::string_view bundle, std::size_t position);
+  // False where the bundle is none.
+  bool Open(std::string_view bundle, std::size_t position);
 
   const DocumentFound& found_;
   const DocumentBad& bad_;
@@ -44,31 +45,29 @@ class Walk {
 void Walk::Found(std::string_view der, std::size_t position) {
   if (KindOf(der) != Kind::kPkcs7) {
     found_(++count_, der, position);
-    return;
-  }
-  try {
-    Open(der, position);
-  } catch (const Malformed&) {
+  } else if (!Open(der, position)) {
     Bad("a PKCS #7 bundle that is not SignedData");
   }
 }
 
-// RFC 5652 3 and 5.1: [0] has certificates, among others with tags of their own, [1] revocation
-// lists.
-void Walk::Open(std::string_view bundle, std::size_t position) {
-  Fields info(ContentOf(bundle, kSequence));
-  info.Need(kOid);
-  Fields data(ContentOf(info.Need(kContextConstructed).content, kSequence));
-  data.Need(kInteger);
-  data.Need(kSet);
-  data.Need(kSequence);
-  for (const unsigned tag : {kContextConstructed + 0U, kContextConstructed + 1U}) {
-    const Der* const list = data.Take(tag);
-    if (list == nullptr) continue;
-    for (const Der& each : Elements(list->content)) {
+// RFC 5652 3 and 5.1: behind the first three fields [0] has certificates, among others with tags of
+// their own, [1] revocation lists.
+bool Walk::Open(std::string_view bundle, std::size_t position) {
+  constexpr unsigned kFirst[] = {kInteger, kSet, kSequence};
+  const std::vector<Der> info = Elements(OnlyElement(bundle).content);
+  const Der data = OnlyElement(info[1].content);
+  const std::vector<Der> fields = Elements(data.content);
+  const bool isSignedData =
+      data.tag == kSequence && fields.size() >= std::size(kFirst) &&
+      std::equal(std::begin(kFirst), std::end(kFirst), fields.begin(),
+                 [](unsigned tag, const Der& field) { return field.tag == tag; });
+  for (const Der& list : isSignedData ? fields : std::vector<Der>()) {
+    if (list.tag != kContextConstructed && list.tag != kContextConstructed + 1) continue;
+    for (const Der& each : Elements(list.content)) {
       if (each.tag == kSequence) found_(++count_, each.whole, position);
     }
   }
+  return isSignedData;
 }
 
 void WalkDer(std::string_view file, Walk& walk) {

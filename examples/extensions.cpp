@@ -1,104 +1,80 @@
 #include "examples/extensions.h"
 
-#include <algorithm>
-#include <iterator>
-#include <vector>
+#include <ortholan/strict/extensions.h>
 
-#include "examples/extension_values.h"
-#include "examples/fields.h"
+#include <algorithm>
+#include <ortholan/strict.hpp>
+
+#include "examples/der.h"
 
 namespace Example {
 namespace {
 
-using namespace ExtensionValues;
+using ortholan::Octets;
+using ortholan::Reading;
+using ortholan::Refusal;
 
-struct ExtensionRow {
-  const char* oid;
-  const char* name;
-  Value (*read)(std::string_view value) = nullptr;  // null: shown as octets
-};
-
-constexpr ExtensionRow kExtensions[] = {
-    {"2.5.29.7", "Subject Alternative Name (superseded)", Names},
-    {"2.5.29.8", "Issuer Alternative Name (superseded)", Names},
-    {"2.5.29.9", "Subject Directory Attributes", LeadingOids},
-    {"2.5.29.14", "Subject Key Identifier", Octets},
-    {"2.5.29.15", "Key Usage", KeyUsage},
-    {"2.5.29.16", "Private Key Usage Period", KeyPeriod},
-    {"2.5.29.17", "Subject Alternative Name", Names},
-    {"2.5.29.18", "Issuer Alternative Name", Names},
-    {"2.5.29.19", "Basic Constraints", BasicConstraints},
-    {"2.5.29.20", "CRL Number", Number},
-    {"2.5.29.27", "Delta CRL Indicator", Number},
-    {"2.5.29.28", "Issuing Distribution Point", IssuingPoint},
-    {"2.5.29.30", "Name Constraints", NameConstraints},
-    {"2.5.29.31", "CRL Distribution Points", DistributionPoints},
-    {"2.5.29.32", "Certificate Policies", Policies},
-    {"2.5.29.33", "Policy Mappings", PolicyMappings},
-    {"2.5.29.35", "Authority Key Identifier", AuthorityKey},
-    {"2.5.29.36", "Policy Constraints", PolicyConstraints},
-    {"2.5.29.37", "Extended Key Usage", Oids},
-    {"2.5.29.46", "Freshest CRL", DistributionPoints},
-    {"2.5.29.54", "Inhibit anyPolicy", Number},
-    {"1.2.643.100.111", "Subject Sign Tool", String},
-    {"1.2.643.100.112", "Issuer Sign Tool", Strings},
-    {"1.2.840.113549.1.9.15", "S/MIME Capabilities", LeadingOids},
-    {"1.3.6.1.4.1.311.20.2", "Certificate Template Name", String},
-    {"1.3.6.1.4.1.311.21.1", "CA Version", Number},
-    {"1.3.6.1.4.1.311.21.2", "Previous CA Certificate Hash", Octets},
-    {"1.3.6.1.4.1.311.21.7", "Certificate Template", Template},
-    {"1.3.6.1.4.1.311.21.10", "Application Policies", LeadingOids},
-    {"1.3.6.1.4.1.11129.2.4.2", "Signed Certificate Timestamps"},
-    {"1.3.6.1.4.1.11129.2.4.3", "Precertificate Poison", Nothing},
-    {"1.3.6.1.5.5.7.1.1", "Authority Information Access", InformationAccess},
-    {"1.3.6.1.5.5.7.1.3", "Qualified Certificate Statements", LeadingOids},
-    {"1.3.6.1.5.5.7.1.11", "Subject Information Access", InformationAccess},
-    {"1.3.6.1.5.5.7.1.24", "TLS Feature", TlsFeatures},
-    {"1.3.6.1.5.5.7.48.1.5", "OCSP No Check", Nothing},
-    {"2.16.840.1.113730.1.1", "Netscape Certificate Type", NetscapeType},
-    {"2.16.840.1.113730.1.13", "Netscape Comment", String},
-};
-
-bool HasUnread(const Value& value) {
-  const std::vector<Member>& members = value.members;
-  return value.form == Value::Form::kList &&
-         std::any_of(members.begin(), members.end(),
-                     [](const Member& each) { return each.value.IsUnread(); });
+// What `call` puts for the value: first as DER, else as people must look at it, with the refusal.
+template <class Call>
+std::string Told(Call call, std::string* refusal) {
+  std::string text;
+  for (const Reading reading : {Reading::kDer, Reading::kLenient}) {
+    Refusal refused;
+    const auto put = [&](char* out, size_t room, size_t* size) {
+      return call(static_cast<int32_t>(reading), out, room, size, &refused);
+    };
+    if (ortholan::WithRoom(&text, put) == ORTHOLAN_REASON_NONE) break;
+    if (refusal->empty()) *refusal = refused.Sentence();
+  }
+  return text;
 }
 
-void ReadContent(const ExtensionRow& row, ExtensionReading& reading) {
-  try {
-    reading.content = row.read(reading.value);
-    reading.isFaulty = HasUnread(*reading.content);
-  } catch (const Malformed&) {
-    reading.isFaulty = true;
-  }
+void ReadValue(Octets oid, ExtensionReading& reading) {
+  const ortholan_octets value = Octets(reading.value);
+  reading.json = Told(
+      [&](int32_t mode, auto... out) { return ortholan_extension_json(oid, value, mode, out...); },
+      &reading.refusal);
+  reading.lines = Told(
+      [&](int32_t mode, auto... out) {
+        return ortholan_extension_text(oid, value, mode, kExtensionIndent, out...);
+      },
+      &reading.refusal);
+}
+
+// Extensions that are a list of general names, those of 1997 among them.
+bool HoldsNames(const std::string& oid) {
+  constexpr const char* kOids[] = {"2.5.29.7", "2.5.29.8", "2.5.29.17", "2.5.29.18"};
+  return std::find(std::begin(kOids), std::end(kOids), oid) != std::end(kOids);
 }
 
 }  // namespace
 
-ExtensionReading ReadExtension(const Der& record) {
+// Extension ::= SEQUENCE { OBJECT IDENTIFIER, BOOLEAN DEFAULT FALSE, OCTET STRING }
+ExtensionReading ReadExtension(std::string_view record) {
   ExtensionReading reading;
-  reading.record = record.whole;
-  try {
-    Fields fields(ContentOf(record.whole, kSequence));
-    reading.oid = OidText(fields.Need(kOid).content);
-    const Der* const critical = fields.Take(kBoolean);
-    reading.isCritical = critical != nullptr && critical->content != std::string_view("\0", 1);
-    reading.value = fields.Need(kOctetString).content;
-    fields.End();
-    reading.isRead = !reading.oid.empty();
-  } catch (const Malformed&) {
+  reading.record = record;
+  const std::vector<Der> fields = Elements(OnlyElement(record).content);
+  const bool hasFlag = fields.size() == 3 && fields[1].tag == kBoolean;
+  if (fields.size() != (hasFlag ? 3 : 2) || fields[0].tag != kOid ||
+      fields.back().tag != kOctetString) {
     return reading;
   }
-  const auto* const row =
-      std::find_if(std::begin(kExtensions), std::end(kExtensions),
-                   [&reading](const ExtensionRow& each) { return reading.oid == each.oid; });
-  if (row == std::end(kExtensions)) return reading;
-  reading.name = row->name;
-  reading.hasNames = row->read == Names;
-  if (row->read != nullptr) ReadContent(*row, reading);
+  const ortholan::Result<std::string> oid = ortholan::OidToText(fields[0].content);
+  if (!oid) return reading;
+  reading.isRead = true;
+  reading.oid = *oid;
+  reading.isCritical = hasFlag && fields[1].content != std::string_view("\0", 1);
+  reading.value = fields.back().content;
+  ortholan_extension_type type;
+  if (ortholan_extension_type_of(Octets(fields[0].content), &type) != 0) return reading;
+  reading.title = type.title;
+  ReadValue(fields[0].content, reading);
+  if (HoldsNames(reading.oid)) reading.names = ReadGeneralNames(reading.value);
   return reading;
+}
+
+std::string ExtensionTitle(const ExtensionReading& extension) {
+  return extension.title != nullptr ? extension.title : extension.oid;
 }
 
 }  // namespace Example

@@ -2,12 +2,11 @@
 #ifndef ORTHOLAN_EXAMPLES_EXTENSIONS_H_
 #define ORTHOLAN_EXAMPLES_EXTENSIONS_H_
 
-#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "examples/der.h"
-#include "examples/value.h"
+#include "examples/general_names.h"
 
 namespace Example {
 
@@ -15,16 +14,29 @@ struct ExtensionReading {
   std::string_view record;  // its whole encoding
   bool isRead = false;      // whether what follows is there
   std::string oid;
-  const char* name = nullptr;  // null for one that this program does not know
+  const char* title = nullptr;  // for people; null for one that is not known
   bool isCritical = false;
   std::string_view value;
-  std::optional<Value> content;  // of one that it can read
-  bool hasNames = false;         // which is a list of general names
-  bool isFaulty = false;         // it should be readable, but is not, or not all of it
+  // Of one that is known: its value as JSON, and as lines that are safe to show, further in by
+  // kExtensionIndent; empty where the value is none of that extension.
+  std::string json;
+  std::string lines;
+  std::string refusal;  // why the value is not what DER and the extension prescribe
+  // Of alternative names, also where the list as a whole is refused.
+  std::vector<GeneralNameReading> names;
+
+  // Whether something that is known cannot be read, or not all of it.
+  bool IsFaulty() const { return title != nullptr && json.empty(); }
+  bool HasLibraryText() const { return !names.empty() && !names[0].libraryText.empty(); }
 };
 
-// Views into what `record` is a view of.
-ExtensionReading ReadExtension(const Der& record);
+constexpr std::size_t kExtensionIndent = 6;
+
+// Views into what `record` is a view of. What is no DER is read as far as it can be.
+ExtensionReading ReadExtension(std::string_view record);
+
+// What there is to call it by: the title, or the identifier.
+std::string ExtensionTitle(const ExtensionReading& extension);
 
 }  // namespace Example
 

@@ -1,21 +1,26 @@
-// General names (RFC 5280 4.2.1.6) by what they mean.
+// The alternative names of a certificate (RFC 5280 4.2.1.6) one by one, so that one that is spoiled
+// hides no other.
 #ifndef ORTHOLAN_EXAMPLES_GENERAL_NAMES_H_
 #define ORTHOLAN_EXAMPLES_GENERAL_NAMES_H_
 
+#include <string>
 #include <string_view>
-
-#include "examples/der.h"
-#include "examples/value.h"
+#include <vector>
 
 namespace Example {
 
-// A line of kind and text, or the octets of what is no general name.
-//   kind  the alternative's name in the standard
-//   type  of an other name: its identifier's name
-Value GeneralNameValue(const Der& name);
+struct GeneralNameReading {
+  std::string_view octets;
+  // Empty for octets that are no general name; the names of the standard.
+  std::string kind;
+  std::string text;         // by its meaning, without its kind
+  std::string type;         // dotted, of an other name
+  std::string typeName;     // its name, or dotted as well
+  std::string libraryText;  // where SetLibraryText asked for it
+};
 
-// The names that `content`, without its header, is made of.
-Value GeneralNamesValue(std::string_view content);
+// The names of a list that is the whole of `value`; octets that begin with no element are the last.
+std::vector<GeneralNameReading> ReadGeneralNames(std::string_view value);
 
 // Whether general names have the library's own text beside their meaning.
 void SetLibraryText(bool isWanted);

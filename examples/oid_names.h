@@ -1,4 +1,4 @@
-// What identifiers inside of extensions and other names are called.
+// What types of other names (RFC 5280 4.2.1.6) are called.
 #ifndef ORTHOLAN_EXAMPLES_OID_NAMES_H_
 #define ORTHOLAN_EXAMPLES_OID_NAMES_H_
 

@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "examples/commands.h"
-#include "examples/document.h"
 #include "examples/document_file.h"
 #include "examples/failure.h"
 #include "examples/general_names.h"
 #include "examples/input.h"
 #include "examples/progress.h"
+#include "examples/show_diff.h"
 #include "examples/show_json.h"
 #include "examples/show_text.h"
 #include "examples/shown.h"
@@ -23,10 +23,12 @@ namespace Example {
 
 namespace {
 
-// Prints what it is given and remembers whether all of it was in order.
+using Show = Shown (*)(const Source& source, ShowForm form);
+
+// Prints what `show` makes of each document, and remembers whether all of it was in order.
 class Printer {
  public:
-  explicit Printer(bool isJson) : isJson_(isJson) {
+  Printer(ShowForm form, Show show) : form_(form), show_(show), isJson_(form == ShowForm::kJson) {
     if (isJson_) Print("[\n");
   }
   // Also for what is cut short by a failure: the array is whole.
@@ -46,6 +48,8 @@ class Printer {
   void Fault(std::size_t number, const std::string& what);
   void Refuse(std::size_t number, const std::string& what);
 
+  ShowForm form_;
+  Show show_;
   bool isJson_;
   bool isSound_ = true;
   bool isFirst_ = true;
@@ -77,10 +81,10 @@ void Printer::Refuse(std::size_t number, const std::string& what) {
 }
 
 void Printer::ShowOne(std::size_t number, std::string_view der) {
-  const Shown shown =
-      ShowDocument({path_, number, der}, isJson_ ? ShowForm::kJson : ShowForm::kText);
+  const Shown shown = show_({path_, number, der}, form_);
   if (!shown.output.empty()) Item(shown.output);
   for (const std::string& fault : shown.faults) Fault(number, fault);
+  if (!shown.isSound) isSound_ = false;
 }
 
 void Printer::ShowFile(const std::string& path) {
@@ -105,10 +109,9 @@ void Printer::ShowFile(const std::string& path) {
   }
 }
 
-int RunShow(const Arguments& arguments) {
+int ShowFiles(const Arguments& arguments, Show show) {
   const bool isJson = arguments.Has("--json");
-  SetLibraryText(arguments.Has("--library-text"));
-  Printer printer(isJson);
+  Printer printer(isJson ? ShowForm::kJson : ShowForm::kText, show);
   for (const std::string& path : arguments.operands) {
     if (!isJson && arguments.operands.size() > 1) Print(Visible(Repaired(path)) + ":\n");
     printer.ShowFile(path);
@@ -138,6 +141,13 @@ ItemWork ShowLines(const Arguments& arguments) {
   };
 }
 
+int RunShow(const Arguments& arguments) {
+  SetLibraryText(arguments.Has("--library-text"));
+  return ShowFiles(arguments, ShowDocument);
+}
+
+int RunCheck(const Arguments& arguments) { return ShowFiles(arguments, CheckDocument); }
+
 }  // namespace
 
 const Command kShowCommand = {
@@ -150,11 +160,20 @@ const Command kShowCommand = {
     "A FILE holds certificates, certificate requests, revocation lists or PKCS #7 bundles, in PEM "
     "with\n"
     "anything between them, or in DER. Names are shown as text and as a tree; what cannot be read\n"
-    "is told on standard error, and the others follow.\n",
+    "is told on standard error, and the others follow.\n"
+    "--check tells what RFC 5280 forbids in names and extensions, with its section; the exit "
+    "status\n"
+    "is 1 where there is anything. --diff tells what differs between the names and extensions of\n"
+    "two documents; the exit status is that of equal.\n",
     "x509name show server.pem\n"
     "x509name show --json bundle.pem | jq -r '.[].subject.text'\n"
+    "x509name show --check server.pem\n"
+    "x509name show --diff old.pem new.pem\n"
     "x509name show --json --lines --jobs 2 log.pem | jq -r .sha256\n",
-    {kJsonOption, {"--library-text", nullptr, "the library's own text of each general name, too"}},
+    {kJsonOption,
+     {"--check", nullptr, "what RFC 5280 forbids in them", RunCheck},
+     {"--diff", nullptr, "what differs between two", RunShowDiff},
+     {"--library-text", nullptr, "the library's own text of each general name, too"}},
     {ShowLines, true}};
 
 }  // namespace Example

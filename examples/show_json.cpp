@@ -41,33 +41,20 @@ std::string AttributeJson(const NameAttribute& attribute) {
 
 std::string RdnJson(const NameRdn& rdn) { return ArrayOf(rdn.attributes, AttributeJson); }
 
-std::string NameJson(const NameReading& name) {
+std::string GeneralNameJson(const GeneralNameReading& name) {
   JsonObject object;
-  if (name.text.accepted) {
-    object.AddText("text", name.text.text);
-  } else {
-    object.AddText("refused", name.text.reason);
-    if (!name.strict.text.empty()) object.AddText("rfc4514", name.strict.text);
-  }
-  if (!name.strict.refusal.empty()) object.AddText("notDer", name.strict.refusal);
-  return object.Add("rdns", ArrayOf(name.tree.rdns, RdnJson)).End();
-}
-
-std::string ExtensionJson(const ExtensionReading& extension) {
-  JsonObject object;
-  if (!extension.isRead) return object.AddText("octets", Hex(extension.record)).End();
-  object.AddText("oid", extension.oid);
-  if (extension.name != nullptr) object.AddText("name", std::string(extension.name));
-  object.AddBool("critical", extension.isCritical).AddText("value", Hex(extension.value));
-  if (extension.content) {
-    object.Add(extension.hasNames ? "generalNames" : "content", ValueJson(*extension.content));
-  }
+  if (name.kind.empty()) return object.AddText("octets", Hex(name.octets)).End();
+  object.AddText("kind", name.kind).AddText("text", name.text);
+  if (!name.type.empty()) object.AddText("type", name.type).AddText("typeName", name.typeName);
+  if (!name.libraryText.empty()) object.AddText("libraryText", name.libraryText);
   return object.End();
 }
 
 std::string FaultJson(const std::string& what) { return JsonObject().AddText("what", what).End(); }
 
-JsonObject Place(const std::string& path, std::size_t number) {
+}  // namespace
+
+JsonObject JsonPlace(const std::string& path, std::size_t number) {
   JsonObject object;
   if (!path.empty()) object.AddText("file", path);
   if (number != 0) object.AddNumber("number", number);
@@ -85,30 +72,39 @@ const char* KindWord(Kind kind) {
   }
 }
 
-}  // namespace
-
-std::string ValueJson(const Value& value) {
-  switch (value.form) {
-    case Value::Form::kText:
-    case Value::Form::kOctets:
-      return JsonString(value.text);
-    case Value::Form::kLiteral:
-      return value.text;
-    case Value::Form::kList:
-      return ArrayOf(value.members, [](const Member& each) { return ValueJson(each.value); });
-    case Value::Form::kObject:
-    case Value::Form::kLine:
-      break;
-  }
+std::string NameJson(const NameReading& name) {
   JsonObject object;
-  for (const Member& each : value.members) object.Add(each.name.c_str(), ValueJson(each.value));
+  if (name.text.accepted) {
+    object.AddText("text", name.text.text);
+  } else {
+    object.AddText("refused", name.text.reason);
+    if (!name.strict.text.empty()) object.AddText("rfc4514", name.strict.text);
+  }
+  if (!name.strict.refusal.empty()) object.AddText("notDer", name.strict.refusal);
+  return object.Add("rdns", ArrayOf(name.tree.rdns, RdnJson)).End();
+}
+
+std::string ExtensionJson(const ExtensionReading& extension) {
+  JsonObject object;
+  if (!extension.isRead) return object.AddText("octets", Hex(extension.record)).End();
+  object.AddText("oid", extension.oid);
+  if (extension.title != nullptr) object.AddText("name", std::string(extension.title));
+  object.AddBool("critical", extension.isCritical).AddText("value", Hex(extension.value));
+  if (!extension.json.empty()) object.Add("content", extension.json);
+  if (!extension.refusal.empty()) object.AddText("notDer", extension.refusal);
+  if (!extension.names.empty()) {
+    object.Add("generalNames", ArrayOf(extension.names, GeneralNameJson));
+  }
   return object.End();
 }
 
 std::string DocumentJson(const std::string& path, std::size_t number, const Document& document) {
-  JsonObject object = Place(path, number);
+  JsonObject object = JsonPlace(path, number);
   object.AddText("kind", std::string(KindWord(document.kind)));
-  for (const Fact& fact : document.facts) object.Add(fact.member, ValueJson(fact.value));
+  for (const Fact& fact : document.facts) {
+    object.Add(fact.member, fact.isNumber ? fact.text : JsonString(fact.text));
+  }
+  if (!document.refusal.empty()) object.AddText("notDer", document.refusal);
   for (const NameReading& name : document.names) object.Add(name.role, NameJson(name));
   return object.Add("extensions", ArrayOf(document.extensions, ExtensionJson))
       .Add("faults", ArrayOf(document.faults, FaultJson))
@@ -116,7 +112,7 @@ std::string DocumentJson(const std::string& path, std::size_t number, const Docu
 }
 
 std::string RefusedJson(const std::string& path, std::size_t number, const std::string& what) {
-  return Place(path, number).Add("faults", JsonArray({FaultJson(what)})).End();
+  return JsonPlace(path, number).Add("faults", JsonArray({FaultJson(what)})).End();
 }
 
 }  // namespace Example

@@ -6,10 +6,17 @@
 #include <string>
 
 #include "examples/document.h"
+#include "examples/json.h"
 
 namespace Example {
 
-std::string ValueJson(const Value& value);
+// "certificateRequest"
+const char* KindWord(Kind kind);
+// An object that begins with file and number; without them where they are empty and 0.
+JsonObject JsonPlace(const std::string& path, std::size_t number);
+
+std::string NameJson(const NameReading& name);
+std::string ExtensionJson(const ExtensionReading& extension);
 
 // Without a path or with number 0 there is no such member.
 std::string DocumentJson(const std::string& path, std::size_t number, const Document& document);

@@ -1,9 +1,7 @@
 #include "examples/show_text.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "examples/colour.h"
+#include "examples/der.h"
 #include "examples/text.h"
 
 namespace Example {
@@ -51,129 +49,74 @@ std::string TreeText(const NameTree& tree, const std::string& indent) {
   return text;
 }
 
+std::string RefusalLine(const std::string& refusal, const std::string& indent) {
+  return refusal.empty() ? "" : indent + Faulty("no DER: " + refusal) + "\n";
+}
+
 std::string NameLines(const NameReading& name) {
   std::string text = name.strict.text;
   if (name.text.accepted) text = Visible(ToUtf8(name.text.text));
   // The strict reader takes RDNs of several attributes.
   if (text.empty() && !name.text.accepted) text = Faulty("refused: " + name.text.reason);
-  const std::string refusal =
-      name.strict.refusal.empty() ? "" : "    " + Faulty("no DER: " + name.strict.refusal) + "\n";
-  return "  " + Paint(Colour::kHeading, name.role) + ": " + text + "\n" + refusal +
-         TreeText(name.tree, "    ");
-}
-
-// Two digits an octet, with blanks.
-std::string Spaced(const std::string& digits) {
-  std::string text;
-  for (std::size_t i = 0; i < digits.size(); i += 2) {
-    text += (i == 0 ? "" : " ") + digits.substr(i, 2);
-  }
-  return text;
-}
-
-bool IsScalar(const Value& value) {
-  return value.form == Value::Form::kText || value.form == Value::Form::kOctets ||
-         value.form == Value::Form::kLiteral;
-}
-
-std::string ScalarText(const Value& value) {
-  return value.form == Value::Form::kOctets ? Spaced(value.text) : Visible(value.text);
-}
-
-// What fits behind its name: a scalar, or a list of such.
-bool IsInline(const Value& value) {
-  const std::vector<Member>& members = value.members;
-  return IsScalar(value) || (value.form == Value::Form::kList &&
-                             std::all_of(members.begin(), members.end(),
-                                         [](const Member& each) { return IsScalar(each.value); }));
-}
-
-std::string InlineText(const Value& value) {
-  if (IsScalar(value)) return ScalarText(value);
-  std::string text;
-  for (const Member& each : value.members)
-    text += (text.empty() ? "" : ", ") + ScalarText(each.value);
-  return text;
-}
-
-std::string Block(const Value& value, const std::string& indent);
-std::string LineText(const Value& line, const std::string& indent);
-
-std::string MemberText(const Member& member, const std::string& indent) {
-  const std::string name = indent + Paint(Colour::kKey, member.name) + ":";
-  if (IsInline(member.value)) return name + " " + InlineText(member.value) + "\n";
-  if (member.value.form == Value::Form::kLine) {
-    return name + " " + LineText(member.value, indent).substr(indent.size());
-  }
-  return name + "\n" + Block(member.value, indent + "  ");
+  return "  " + Paint(Colour::kHeading, name.role) + ": " + text + "\n" +
+         RefusalLine(name.strict.refusal, "    ") + TreeText(name.tree, "    ");
 }
 
 // "dNSName: example.org", or with the name of a type "otherName xmppAddr: a@b"; the library's text,
 // which is rare, stands below.
-std::string LineText(const Value& line, const std::string& indent) {
-  std::string kind = line.members[0].value.text;
-  std::string below;
-  for (const Member& each : line.members) {
-    if (each.name == "typeName") kind += " " + each.value.text;
-    if (each.name == "libraryText") below = MemberText(each, indent + "  ");
+std::string GeneralNameText(const GeneralNameReading& name, const std::string& indent) {
+  if (name.kind.empty()) {
+    return indent + Paint(Colour::kKey, "octets") + ": " + SpacedHex(Copy(name.octets)) + "\n";
   }
-  return indent + Paint(Colour::kKey, Visible(kind)) + ": " + ScalarText(line.members[1].value) +
-         "\n" + below;
+  const std::string kind = name.kind + (name.typeName.empty() ? "" : " " + name.typeName);
+  std::string text = indent + Paint(Colour::kKey, kind) + ": " + Visible(name.text) + "\n";
+  if (name.libraryText.empty()) return text;
+  return text + indent + "  " + Paint(Colour::kKey, "libraryText") + ": " +
+         Visible(name.libraryText) + "\n";
 }
 
-// A list's items are told apart by hyphens where they have several lines.
-std::string ItemText(const Value& item, const std::string& indent) {
-  if (IsScalar(item)) return indent + ScalarText(item) + "\n";
-  if (item.form == Value::Form::kLine || item.IsUnread()) return Block(item, indent);
-  std::string text = Block(item, indent + "  ");
-  text[indent.size()] = '-';
-  return text;
-}
-
-std::string Block(const Value& value, const std::string& indent) {
-  if (value.form == Value::Form::kLine) return LineText(value, indent);
-  if (value.IsUnread()) {
-    return indent + Faulty("unreadable") + " " + ScalarText(value.members[0].value) + "\n";
+// What stands behind the title: a value of one word or list on its line, others below it.
+std::string ContentText(const ExtensionReading& extension, const std::string& indent) {
+  const std::string& lines = extension.lines;
+  const bool isByNames = lines.empty() || extension.HasLibraryText();
+  if (isByNames && !extension.names.empty()) {
+    std::string text = "\n";
+    for (const GeneralNameReading& each : extension.names) text += GeneralNameText(each, indent);
+    return text;
   }
-  std::string text;
-  for (const Member& each : value.members) {
-    const bool isItem = value.form == Value::Form::kList;
-    text += isItem ? ItemText(each.value, indent) : MemberText(each, indent);
-  }
-  return text;
+  if (lines.empty()) return " " + SpacedHex(Copy(extension.value)) + "\n";
+  const bool isOneFact =
+      lines.find('\n') == lines.size() - 1 && lines.find(": ") == std::string::npos;
+  return isOneFact ? " " + lines.substr(indent.size()) : "\n" + lines;
 }
 
 std::string ExtensionText(const ExtensionReading& extension, const std::string& indent) {
-  if (!extension.isRead) return FaultyLine(indent, "unreadable", Copy(extension.record));
-  std::string line = indent + Paint(Colour::kKey, extension.oid);
-  if (extension.name != nullptr) line += " " + std::string(extension.name);
+  if (!extension.isRead) {
+    return FaultyLine(indent, "no extension", Copy(extension.record));
+  }
+  std::string line = indent + extension.oid;
+  if (extension.title != nullptr) line += " " + Paint(Colour::kKey, extension.title);
   if (extension.isCritical) line += ", " + Paint(Colour::kNotable, "critical");
   line += extension.isCritical ? ":" : ", not critical:";
-  if (!extension.content) return line + " " + SpacedHex(Copy(extension.value)) + "\n";
-  const std::string text = IsInline(*extension.content) ? InlineText(*extension.content) : "";
-  if (IsInline(*extension.content)) return line + (text.empty() ? "" : " ") + text + "\n";
-  return line + "\n" + Block(*extension.content, indent + "  ");
-}
-
-const char* Title(Kind kind) {
-  switch (kind) {
-    case Kind::kRequest:
-      return "certificate request";
-    case Kind::kRevocationList:
-      return "certificate revocation list";
-    default:
-      return "certificate";
-  }
+  const std::string below(kExtensionIndent, ' ');
+  return line + ContentText(extension, below) + RefusalLine(extension.refusal, below);
 }
 
 }  // namespace
 
+std::string DocumentTitle(Kind kind, std::size_t number) {
+  std::string title = "certificate";
+  if (kind == Kind::kRequest) title = "certificate request";
+  if (kind == Kind::kRevocationList) title = "certificate revocation list";
+  return title + (number != 0 ? " " + std::to_string(number) : "");
+}
+
 std::string DocumentText(std::size_t number, const Document& document) {
-  const std::string place = number == 0 ? "" : " " + std::to_string(number);
-  std::string text = Paint(Colour::kHeading, Title(document.kind) + place) + "\n";
+  std::string text = Paint(Colour::kHeading, DocumentTitle(document.kind, number)) + "\n";
   for (const Fact& fact : document.facts) {
-    text += "  " + Paint(Colour::kHeading, fact.label) + ": " + InlineText(fact.value) + "\n";
+    text += "  " + Paint(Colour::kHeading, fact.label) + ": " + Visible(fact.text) + "\n";
   }
+  text += RefusalLine(document.refusal, "  ");
   for (const NameReading& name : document.names) text += NameLines(name);
   if (!document.extensions.empty()) text += "  " + Paint(Colour::kHeading, "extensions") + ":\n";
   for (const ExtensionReading& each : document.extensions) text += ExtensionText(each, "    ");

@@ -9,6 +9,9 @@
 
 namespace Example {
 
+// "certificate 1", without a number for 0.
+std::string DocumentTitle(Kind kind, std::size_t number);
+
 // `number` is the document's in its file, from 1; 0 for one that has none.
 std::string DocumentText(std::size_t number, const Document& document);
 

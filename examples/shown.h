@@ -24,13 +24,18 @@ struct Source {
 };
 
 struct Shown {
-  std::string output;               // text of whole lines, or one JSON object; empty text where the
-                                    // document cannot be read at all
+  std::string output;  // text of whole lines, or one JSON object; empty text where the document
+                       // cannot be read at all
   std::vector<std::string> faults;  // what could not be read; empty where all is in order
+  bool isSound = true;              // whether there is neither a fault nor a finding
 };
 
-// Throws nothing but std::bad_alloc: what stops the reading is a fault.
+// These throw nothing but std::bad_alloc: what stops the reading is a fault.
+//
+// Names and extensions.
 Shown ShowDocument(const Source& source, ShowForm form);
+// What RFC 5280 forbids in them.
+Shown CheckDocument(const Source& source, ShowForm form);
 
 }  // namespace Example
 

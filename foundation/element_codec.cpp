@@ -5,6 +5,7 @@
 #include <limits>
 #include <string_view>
 
+#include "bytes/der_identifier.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
 #include "foundation/element_header.h"

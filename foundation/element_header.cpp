@@ -3,6 +3,8 @@
 #include <cstring>
 #include <limits>
 
+#include "bytes/base128.h"
+
 namespace Ortholan {
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "bytes/der_identifier.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
 #include "foundation/blob_view.h"

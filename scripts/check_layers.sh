@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks that includes point downwards and that platforms are told apart in two headers only.
+# Checks that includes point downwards, that no chain of them is long, and that platforms are told
+# apart in three headers only.
 #
 # A file may include its own layer, the layers named for it below and, as <ortholan/...>, the public
 # headers. Tests, fuzz targets and benchmarks reach into any layer; programs that stand for
@@ -37,6 +38,7 @@ declare -A allowed=(
   [strict/extensions]="strict/general_names strict/certificates strict/names strict/der bytes"
   [strict/face]="$strict bytes"
   [examples]=""
+  [bindings]=""
   [tests/boundary]="tests"
   [tests/capi]="tests"
   [tests/cli]="tests"
@@ -73,6 +75,10 @@ check_include() {
   if [[ $layer == tests* && -f tests/support/posix/$target && -f tests/support/windows/$target ]]; then
     return
   fi
+  # What a binding includes by such a path lies beside the file.
+  if [[ $layer == bindings && -f ${file%/*}/$target ]]; then
+    return
+  fi
   if [[ -z $target_layer ]]; then
     fault "$file:$line: \"$target\" is not relative to the root or belongs to no layer"
   elif [[ $target_layer != "$layer" && ! ${allowed[$layer]} =~ (^|[[:space:]])$target_layer($|[[:space:]]) ]]; then
@@ -94,9 +100,48 @@ while IFS=: read -r file line text; do
   check_include "$file" "$line" "${target%%\"*}"
 done < <(grep -nHE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' "${files[@]}" /dev/null)
 
+# Prints each source of the library with the longest chain of its includes, itself counted in:
+#   <length> <source> <header> ...
+longest_chains() {
+  awk -v include=include/ '
+    match($0, /^[[:space:]]*#[[:space:]]*include[[:space:]]*["<][^">]+/) {
+      target = substr($0, RSTART, RLENGTH)
+      sub(/.*["<]/, "", target)
+      targets[FILENAME, ++counts[FILENAME]] = target
+    }
+    FNR == 1 { known[FILENAME] }
+    function chain(file,    best, i, target, found, words) {
+      if (file in chains) return chains[file]
+      best = ""
+      for (i = 1; i <= counts[file]; ++i) {
+        target = targets[file, i]
+        if (!(target in known)) target = include target
+        if (!(target in known)) continue
+        found = chain(target)
+        if (split(found, words, " ") > split(best, words, " ")) best = found
+      }
+      return chains[file] = file (best == "" ? "" : " " best)
+    }
+    END {
+      for (file in known) {
+        if (file ~ /\.cpp$/) print split(chain(file), words, " "), chain(file)
+      }
+    }' "$@"
+}
+
+most_in_chain=7
+library=()
+for file in "${files[@]}"; do
+  [[ $(layer_of "$file") =~ ^(tests|examples|fuzz|bench) ]] || library+=("$file")
+done
+while read -r length chain; do
+  ((length <= most_in_chain)) ||
+    fault "${chain%% *}: $length files include one another, at most $most_in_chain may: ${chain// / > }"
+done < <(longest_chains "${library[@]}")
+
 while IFS=: read -r file line _; do
   case $file in
-    include/ortholan/platform.h | include/ortholan/export.h) ;;
+    include/ortholan/platform.h | include/ortholan/export.h | include/ortholan/runtime.h) ;;
     *) fault "$file:$line: tells platforms apart; the build picks platform/ instead" ;;
   esac
 done < <(grep -nHE "^[[:space:]]*#[[:space:]]*(el)?if.*\<($platform_macros)\>" "${files[@]}" /dev/null)

@@ -90,9 +90,9 @@ check_debian() {
     fail "the manual page is not there"
   check_debugger "$root" "$libraries"
   [[ $(PYTHONPATH=$root/usr/lib/python3/dist-packages LD_LIBRARY_PATH=$libraries python3 -B -c \
-    'from ortholan import Name; from ortholan_strict import Name as Strict
-print(Strict.from_der(Name("CN=Alpha, C=RU", sort=True).der))') == CN=Alpha,C=RU ]] ||
-    fail "the Python modules do not work"
+    'from ortholan import Name, classic
+print(Name.from_der(classic.Name("CN=Alpha, C=RU", sort=True).der))') == CN=Alpha,C=RU ]] ||
+    fail "the Python package does not work"
   python3 tests/documents/links.py "$root/usr/share/doc" || fail "dead links were installed"
   as_root "${dpkg[@]}" --purge "${names[@]}" >"$scratch/log" 2>&1 ||
     { cat "$scratch/log" >&2; fail "not removed"; }
@@ -142,7 +142,7 @@ check_windows() {
   for said in libstdc++-and-libgcc winpthreads GPL-3; do
     locate "$root" "$said.txt" >/dev/null
   done
-  locate "$root" ortholan.py >/dev/null
+  locate "$root" classic.py >/dev/null
   check_symbols "$directory/x509name.exe"
   check_symbols "$directory/ortholan.dll"
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what Debian packages a group of tasks lacks, and touches nothing where all are there.
 #
-#   setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package
+#   setup.sh GROUP        a name of the list below
 set -euo pipefail
 
 demo=(g++ cmake ninja-build ca-certificates)
@@ -10,13 +10,15 @@ native=("${demo[@]}" libgtest-dev)
 clang=(clang libclang-rt-14-dev)
 # llvm has the tool for import libraries of Visual C++'s form.
 windows=(g++-mingw-w64-x86-64-posix googletest llvm wine64)
+# What every binding stands on.
+binding=("${demo[@]}" pkg-config python3)
 debian=(dpkg-dev fakeroot file gdb lintian pkg-config python3)
 
 case ${1-} in
   demo) packages=("${demo[@]}") ;;
   native) packages=("${native[@]}") ;;
   test)
-    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb
+    packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb jq
       libgnutls28-dev libssl-dev lld mandoc parallel pkg-config python3 valgrind zsh)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
@@ -33,10 +35,26 @@ case ${1-} in
     packages=("${demo[@]}" doxygen furo mandoc python3 python3-breathe python3-myst-parser
       python3-sphinx python3-sphinx-copybutton)
     ;;
+  # Node comes with emscripten.
+  wasm) packages=(chromium emscripten fonts-dejavu-core node-typescript) ;;
   deb) packages=("${demo[@]}" "${debian[@]}") ;;
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
+  postgresql) packages=("${binding[@]}" dpkg-dev postgresql postgresql-server-dev-all) ;;
+  python)
+    packages=("${demo[@]}" binutils mypy python3-pip python3-pytest python3-setuptools python3-venv
+      python3-wheel)
+    ;;
+  rust) packages=("${binding[@]}" cargo rust-clippy rustc) ;;
+  go) packages=("${binding[@]}" golang-go) ;;
+  csharp)
+    packages=("${binding[@]}" libnunit-framework2.6.3-cil mono-mcs mono-runtime nunit-console)
+    ;;
+  visual-c) packages=("${binding[@]}" "${windows[@]}" clang clang-tools lld) ;;
+  machines)
+    packages=("${native[@]}" g++-aarch64-linux-gnu g++-s390x-linux-gnu googletest python3 qemu-user)
+    ;;
   *)
-    echo "usage: setup.sh demo|native|test|fuzz|bench|suites|docs|deb|package" >&2
+    echo "usage: setup.sh GROUP, a name of the list in $0" >&2
     exit 2
     ;;
 esac

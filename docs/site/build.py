@@ -17,9 +17,33 @@ import chart
 
 # In the order that they are read in; a page that nobody named follows.
 GUIDES = ["docs/getting-started", "docs/recipes", "docs/identity", "docs/constraints", "docs/matching",
-          "docs/streams", "docs/x509name", "docs/c-interface"]
+          "docs/streams", "docs/x509name", "docs/c-interface", "docs/python", "docs/javascript",
+          "docs/languages"]
 NAMES = ["docs/name-text", "docs/rfc4514", "docs/der", "docs/structures", "docs/status-codes"]
 LINK = re.compile(r"\[([^\]\n]*)\]\(([^)\s]+)\)")
+
+
+# The page that runs the library, by its source; `make wasm` builds it. Without it nothing leads there.
+TRY = "docs/site/try/index.html"
+BUILT = pathlib.Path("build/javascript/try")
+HOME = '<span class="home">Ortholan</span>'
+
+
+def tried(words, directory):
+    """A link to the page, or its words."""
+    if not BUILT.is_dir():
+        return words
+    return f'<a href="{os.path.relpath("try/index.html", directory or ".")}">{words}</a>'
+
+
+def copy_try(out):
+    """The page, with the way back; Sphinx takes what is in this folder as it is."""
+    out.mkdir()
+    if BUILT.is_dir():
+        shutil.copytree(BUILT, out / "try")
+        start = out / "try/index.html"
+        start.write_text(start.read_text(encoding="utf-8").replace(
+            HOME, '<a class="home" id="home" href="../index.html">Ortholan</a>'), encoding="utf-8")
 
 
 def prose(text):
@@ -41,6 +65,8 @@ def page(text, pages, directory):
             return match[0]
         if path == "README.md":
             return f"[{words}]({os.path.relpath('index.md', directory or '.')}{hash_}{anchor})"
+        if path == TRY:
+            return tried(words, directory)
         if path in pages:
             return match[0]
         return words if "`" in words else f"`{words}`"
@@ -126,6 +152,7 @@ def main():
     shutil.copytree(sources / "docs/site/static", out / "static")
     shutil.copy(sources / "docs/site/conf.py", out)
     shutil.copytree(xml, out / "xml")
+    copy_try(out / "extra")
 
     pages = {str(file.relative_to(sources)): file.read_text(encoding="utf-8")
              for file in [*sources.glob("*.md"), *sources.glob("docs/*.md")]}

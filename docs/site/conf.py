@@ -9,7 +9,7 @@ author = copyright = "the Ortholan authors"
 release = version = os.environ["ORTHOLAN_VERSION"]
 
 extensions = ["myst_parser", "breathe", "sphinx_copybutton"]
-exclude_patterns = ["xml"]
+exclude_patterns = ["extra", "xml"]
 # Links to headings go by the anchors that web hosts give them.
 myst_heading_anchors = 4
 myst_enable_extensions = ["deflist"]
@@ -25,6 +25,7 @@ html_title = f"Ortholan {release}"
 html_show_sphinx = False
 html_copy_source = False
 html_static_path = ["static"]
+html_extra_path = ["extra"]
 html_css_files = ["site.css"]
 html_js_files = ["keyboard.js"]
 pygments_style = "default"

@@ -29,17 +29,6 @@
 #define ORTHOLAN_CLASSES_END
 #endif
 
-// A function of Visual C++'s DLL, by the runtime that it was compiled for: see runtime.h.
-#if defined(_MSC_VER)
-#if !defined(_DLL)
-#define ORTHOLAN_RUNTIME ortholan_compiled_with_MT
-#elif defined(_DEBUG)
-#define ORTHOLAN_RUNTIME ortholan_compiled_with_MDd
-#else
-#define ORTHOLAN_RUNTIME ortholan_compiled_with_MD
-#endif
-#endif
-
 // Defined where programs leave the library's instantiations of templates to the library. Those of a
 // DLL that g++ builds have their own beside the exported one, so that they run with a DLL that does
 // not export every member; Visual C++ exports the bases of an exported class by itself.

@@ -5,7 +5,16 @@
 #ifndef ORTHOLAN_RUNTIME_H_
 #define ORTHOLAN_RUNTIME_H_
 
-#include <ortholan/export.h>
+// A function of Visual C++'s DLL, by the runtime that it was compiled for.
+#if defined(_MSC_VER)
+#if !defined(_DLL)
+#define ORTHOLAN_RUNTIME ortholan_compiled_with_MT
+#elif defined(_DEBUG)
+#define ORTHOLAN_RUNTIME ortholan_compiled_with_MDd
+#else
+#define ORTHOLAN_RUNTIME ortholan_compiled_with_MD
+#endif
+#endif
 
 #if defined(ORTHOLAN_RUNTIME) && !defined(ORTHOLAN_STATIC) && !defined(ORTHOLAN_BUILDING)
 #define ORTHOLAN_QUOTED(name) #name

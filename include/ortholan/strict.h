@@ -5,7 +5,10 @@
 
 #include <ortholan/strict/base.h>
 #include <ortholan/strict/certificates.h>
+#include <ortholan/strict/check.h>
 #include <ortholan/strict/constraints.h>
+#include <ortholan/strict/extension_values.h>
+#include <ortholan/strict/extensions.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>
 #include <ortholan/strict/matching.h>

@@ -6,7 +6,10 @@
 
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/certificates.hpp>
+#include <ortholan/strict/check.hpp>
 #include <ortholan/strict/constraints.hpp>
+#include <ortholan/strict/extension_values.hpp>
+#include <ortholan/strict/extensions.hpp>
 #include <ortholan/strict/general_names.hpp>
 #include <ortholan/strict/identity.hpp>
 #include <ortholan/strict/matching.hpp>

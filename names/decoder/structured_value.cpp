@@ -5,6 +5,7 @@
 
 #include "bytes/utf16.h"
 #include "foundation/report.h"
+#include "names/decoder/attribute_walk.h"
 
 namespace Ortholan {
 namespace {

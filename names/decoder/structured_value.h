@@ -7,9 +7,11 @@
 #include <string>
 #include <string_view>
 
-#include "names/decoder/attribute_walk.h"
+#include "names/decoder/value_text.h"
 
 namespace Ortholan {
+
+class DecodedAttribute;
 
 // UTF-16LE with four zero bytes behind the text (CERT_RDN_UNICODE_STRING), or, where the value
 // cannot be decoded, its encoding (CERT_RDN_ENCODED_BLOB). One object serves many values, each of

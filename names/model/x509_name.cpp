@@ -11,6 +11,7 @@
 #include "foundation/report.h"
 #include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
+#include "names/decoder/attribute_walk.h"
 #include "names/decoder/name_renderer.h"
 #include "names/decoder/structured_value.h"
 #include "names/encoder/text_encoder.h"

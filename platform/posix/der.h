@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "bytes/byte_view.h"
+#include "bytes/der_identifier.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
 

@@ -1,5 +1,7 @@
 #include "strict/certificates/certificate_view.h"
 
+#include "strict/der/reader.h"
+
 namespace Ortholan::strict {
 namespace {
 

@@ -10,9 +10,12 @@
 
 #include "bytes/byte_view.h"
 #include "strict/certificates/extensions_view.h"
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
+
+class Reader;
+struct Refusal;
 
 enum class CertificateKind : int32_t { kCertificate = 1, kRequest = 2, kRevocationList = 3 };
 

@@ -10,9 +10,11 @@
 #include <iterator>
 
 #include "bytes/byte_view.h"
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 struct ExtensionView {
   ByteView oid;    // content octets of the identifier

@@ -47,10 +47,14 @@ bool ReadMoment(ByteView digits, bool hasCentury, Moment* moment) {
 bool PutTimeText(ByteView element, Output* out) {
   Reader reader(element, Leniency::kDer, nullptr);
   Element time;
-  Moment moment;
   if (!reader.Read(&time) || !reader.End()) return false;
   if (time.identifier != kUtcTime && time.identifier != kGeneralizedTime) return false;
-  if (!ReadMoment(time.content, time.identifier == kGeneralizedTime, &moment)) return false;
+  return PutTimeText(time.identifier, time.content, out);
+}
+
+bool PutTimeText(uint8_t identifier, ByteView content, Output* out) {
+  Moment moment;
+  if (!ReadMoment(content, identifier == kGeneralizedTime, &moment)) return false;
   PutDecimal(moment.year, out, 4);
   out->Put('-');
   PutDecimal(moment.month, out, 2);

@@ -10,6 +10,8 @@ namespace Ortholan::strict {
 // Puts "2026-11-21T22:05:00Z" for an element that is a UTCTime YYMMDDHHMMSSZ or a GeneralizedTime
 // YYYYMMDDHHMMSSZ. False, with nothing put, for anything else and for what is no moment.
 bool PutTimeText(ByteView element, Output* out);
+// The same for the content of the type that has the identifier.
+bool PutTimeText(uint8_t identifier, ByteView content, Output* out);
 
 }  // namespace Ortholan::strict
 

@@ -1,6 +1,8 @@
 #include "strict/constraints/subtree.h"
+#include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
+#include "strict/general_names/other_name.h"
 #include "strict/general_names/uri.h"
 
 namespace Ortholan::strict {
@@ -13,7 +15,7 @@ void ReadDns(std::string_view text, ConstrainedName* name) {
   name->host = text;
   name->has_wildcard = TakeWildcard(text, &name->host);
   Refusal refusal;
-  if (!CheckHost(name->host, kHostChoices, &refusal)) SetFault(refusal, name);
+  if (!CheckDecidableHost(name->host, &refusal)) SetFault(refusal, name);
 }
 
 void ReadMail(std::string_view text, Mailbox::Alphabet alphabet, ConstrainedName* name) {
@@ -30,7 +32,7 @@ void ReadUri(std::string_view text, ConstrainedName* name) {
   Refusal refusal;
   if (!Uri::Read(text, &uri, &refusal)) return SetFault(refusal, name);
   name->host = uri.host;
-  if (uri.host_kind != Uri::HostKind::kName || !CheckHost(uri.host, kHostChoices, nullptr)) {
+  if (uri.host_kind != Uri::HostKind::kName || !CheckDecidableHost(uri.host, nullptr)) {
     name->fault = ORTHOLAN_REASON_URI_WITHOUT_HOST;
   }
 }

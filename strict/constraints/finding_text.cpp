@@ -1,5 +1,6 @@
 #include "strict/constraints/finding_text.h"
 
+#include "strict/der/reader.h"
 #include "strict/der/refusal.h"
 #include "strict/general_names/escaped_text.h"
 #include "strict/general_names/general_name_text.h"

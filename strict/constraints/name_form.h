@@ -2,10 +2,12 @@
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
 
-#include "strict/general_names/general_name_view.h"
-#include "strict/general_names/other_name.h"
+#include <cstddef>
+#include <cstdint>
 
 namespace Ortholan::strict {
+
+struct GeneralNameView;
 
 enum class NameForm : uint8_t {
   kDirectory,
@@ -36,17 +38,7 @@ class FormSet {
   uint32_t bits_ = 0;
 };
 
-inline NameForm FormOf(const GeneralNameView& name) {
-  constexpr NameForm kForms[] = {
-      NameForm::kOther, NameForm::kMail,      NameForm::kDns,
-      NameForm::kX400,  NameForm::kDirectory, NameForm::kEdiParty,
-      NameForm::kUri,   NameForm::kAddress,   NameForm::kRegisteredId,
-  };
-  if (name.kind != GeneralNameKind::kOther) return kForms[static_cast<size_t>(name.kind)];
-  const OtherNameKind kind = KindOfOtherName(OtherNameView(name.content).type);
-  if (kind == OtherNameKind::kService) return NameForm::kService;
-  return kind == OtherNameKind::kUtf8Mailbox ? NameForm::kMail : NameForm::kOther;
-}
+NameForm FormOf(const GeneralNameView& name);
 
 }  // namespace Ortholan::strict
 

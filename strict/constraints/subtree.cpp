@@ -1,6 +1,7 @@
 #include "strict/constraints/subtree.h"
 
 #include "strict/der/string_value.h"
+#include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
 
@@ -16,7 +17,7 @@ bool ReadHost(std::string_view text, Subtree::Kind kind, Subtree* subtree, Refus
   const bool is_below = !text.empty() && text.front() == '.';
   subtree->kind = is_below ? Subtree::Kind::kBelow : kind;
   subtree->host = is_below ? text.substr(1) : text;
-  return CheckHost(subtree->host, kHostChoices, refusal);
+  return CheckDecidableHost(subtree->host, refusal);
 }
 
 // Adding zero or more labels to nothing gives every host.
@@ -73,6 +74,10 @@ bool ReadService(ByteView content, Subtree* subtree, Refusal* refusal) {
 }
 
 }  // namespace
+
+bool CheckDecidableHost(std::string_view host, Refusal* refusal) {
+  return CheckHost(host, kUnderscores | kEdgeHyphens, refusal);
+}
 
 bool Subtree::Read(const GeneralNameView& base, Subtree* subtree, Refusal* refusal) {
   *subtree = {};

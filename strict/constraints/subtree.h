@@ -8,14 +8,11 @@
 #include <string_view>
 
 #include "strict/constraints/name_form.h"
-#include "strict/der/refusal.h"
-#include "strict/general_names/host.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {
 
-// Hosts of names and subtrees: what is decidable counts, also where it is no preferred name syntax.
-constexpr uint32_t kHostChoices = kUnderscores | kEdgeHyphens;
+struct Refusal;
 
 struct Subtree {
   // Which names it holds.
@@ -41,6 +38,10 @@ struct Subtree {
   // Takes the base of a subtree apart. Refuses what RFC 5280 does not allow as one.
   static bool Read(const GeneralNameView& base, Subtree* subtree, Refusal* refusal);
 };
+
+// CheckHost for hosts of names and subtrees: what is decidable counts, also where it is no
+// preferred name syntax.
+bool CheckDecidableHost(std::string_view host, Refusal* refusal);
 
 // A name of a certificate whose form is constrained.
 struct ConstrainedName {

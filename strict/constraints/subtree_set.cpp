@@ -1,6 +1,7 @@
 #include "strict/constraints/subtree_set.h"
 
 #include "strict/constraints/name_constraints_view.h"
+#include "strict/constraints/subtree_index.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -12,6 +13,9 @@ constexpr int Weight(Holding holding) {
 }
 
 }  // namespace
+
+SubtreeSet::SubtreeSet() = default;
+SubtreeSet::~SubtreeSet() = default;
 
 bool SubtreeSet::Read(ByteView list, Refusal* refusal) {
   SubtreeReader reader(list);

@@ -9,9 +9,10 @@
 #include "bytes/small_buffer.h"
 #include "strict/constraints/findings.h"
 #include "strict/constraints/subtree.h"
-#include "strict/constraints/subtree_index.h"
 
 namespace Ortholan::strict {
+
+class SubtreeIndex;
 
 // What a list says of a name.
 struct HoldingOfList {
@@ -22,6 +23,9 @@ struct HoldingOfList {
 
 class SubtreeSet {
  public:
+  SubtreeSet();
+  ~SubtreeSet();
+
   // Reads the content of one checked list. Refuses a subtree that is none.
   bool Read(ByteView list, Refusal* refusal);
 

@@ -3,10 +3,12 @@
 #ifndef ORTHOLAN_STRICT_DER_ANY_VALUE_H_
 #define ORTHOLAN_STRICT_DER_ANY_VALUE_H_
 
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 #include "strict/der/string_value.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 // CheckValue for what is no string.
 bool CheckOtherValue(const Element& value, Leniency leniency, Refusal* refusal);

@@ -41,6 +41,9 @@ class BackwardOutput {
     place[1] = static_cast<uint8_t>(length);
   }
 
+  // Takes back what was put after the first `size` octets.
+  void Rewind(size_t size) { size_ = size; }
+
   size_t size() const { return size_; }
   bool fits() const { return size_ <= room_; }
   // The octet put last; only where everything fits.

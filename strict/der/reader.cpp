@@ -3,11 +3,6 @@
 #include <limits>
 
 namespace Ortholan::strict {
-namespace {
-
-constexpr size_t kMaxDepth = 32;
-
-}  // namespace
 
 // A tag number of 31 and more, in groups of seven bits (X.690 8.1.2.4).
 bool Reader::ReadTag(size_t* header) {
@@ -79,6 +74,16 @@ bool Reader::ReadLong(Element* element) {
   if (!ReadLength(&header, &length)) return false;
   if (length > rest_.size - header) return RefuseAt(ORTHOLAN_REASON_TRUNCATED, rest_.end());
   Take(header, length, element);
+  return true;
+}
+
+bool Reader::EnterIndefinite(ByteView* identifier) {
+  size_t header = 1;
+  if (rest_.empty() || (rest_[0] & kConstructedBit) == 0) return false;
+  if ((rest_[0] & kLongTag) == kLongTag && !ReadTag(&header)) return false;
+  if (header == rest_.size || rest_[header] != 0x80) return false;
+  *identifier = rest_.First(header);
+  rest_ = rest_.From(header + 1);
   return true;
 }
 

@@ -11,54 +11,10 @@
 #define ORTHOLAN_STRICT_DER_READER_H_
 
 #include "bytes/byte_view.h"
+#include "strict/der/element.h"
 #include "strict/der/refusal.h"
 
 namespace Ortholan::strict {
-
-enum class Leniency : int32_t {
-  kDer = ORTHOLAN_READ_DER,
-  kLenient = ORTHOLAN_READ_LENIENT,
-  kStructure = ORTHOLAN_READ_STRUCTURE,
-};
-
-// Identifier octets: class, form and tag number together.
-enum Identifier : uint8_t {
-  kBoolean = 0x01,
-  kInteger = 0x02,
-  kBitString = 0x03,
-  kOctetString = 0x04,
-  kNull = 0x05,
-  kOid = 0x06,
-  kEnumerated = 0x0A,
-  kUtf8String = 0x0C,
-  kNumericString = 0x12,
-  kPrintableString = 0x13,
-  kTeletexString = 0x14,
-  kIA5String = 0x16,
-  kUtcTime = 0x17,
-  kGeneralizedTime = 0x18,
-  kVisibleString = 0x1A,
-  kGeneralString = 0x1B,
-  kUniversalString = 0x1C,
-  kBmpString = 0x1E,
-  kSequence = 0x30,
-  kSet = 0x31,
-};
-
-constexpr uint8_t kConstructedBit = 0x20;
-constexpr uint8_t kLongTag = 0x1F;
-
-// Context-specific identifiers, [n] primitive and constructed; n is at most 30.
-constexpr uint8_t Context(uint8_t number) { return static_cast<uint8_t>(0x80 | number); }
-constexpr uint8_t ContextConstructed(uint8_t number) { return static_cast<uint8_t>(0xA0 | number); }
-
-struct Element {
-  uint8_t identifier = 0;  // first identifier octet; low bits 1F where the tag has the long form
-  ByteView content;
-  ByteView bytes;  // header and content
-
-  bool constructed() const { return (identifier & kConstructedBit) != 0; }
-};
 
 class Reader {
  public:
@@ -94,6 +50,10 @@ class Reader {
     if (!Sees(identifier)) return RefuseHere(ORTHOLAN_REASON_IDENTIFIER, identifier);
     return Read(element);
   }
+  // Enters a constructed element of indefinite length, which is none of DER (8.1.3.6): what it
+  // holds follows, and 00 00 behind it. False, with nothing read, where the next element is no
+  // such.
+  bool EnterIndefinite(ByteView* identifier);
   // Nothing may be left.
   bool End() { return AtEnd() || RefuseHere(ORTHOLAN_REASON_LEFT_OVER); }
 
@@ -133,8 +93,8 @@ bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* con
 
 using ElementCheck = bool (*)(const Element& element, Leniency leniency, Refusal* refusal);
 
-// Checks the headers of everything inside a value of any type, at most 32 levels deep, and each
-// element by `check` where there is one.
+// Checks the headers of everything inside a value of any type, at most kMaxDepth levels deep, and
+// each element by `check` where there is one.
 bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal,
                  ElementCheck check = nullptr);
 

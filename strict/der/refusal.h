@@ -32,6 +32,8 @@ bool Refuse(Refusal* refusal, ortholan_reason reason, const uint8_t* at, size_t 
 
 // The sentence of a reason; "" for none.
 std::string_view SentenceOf(ortholan_reason reason);
+// The name of a reason without ORTHOLAN_REASON_; "" for a number of no list. Ends in NUL.
+std::string_view NameOf(ortholan_reason reason);
 
 }  // namespace Ortholan::strict
 

@@ -1,5 +1,7 @@
 #include "strict/der/string_value.h"
 
+#include "strict/der/refusal.h"
+
 namespace Ortholan::strict {
 namespace {
 

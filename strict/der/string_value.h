@@ -9,10 +9,12 @@
 
 #include "bytes/ascii.h"
 #include "bytes/byte_view.h"
+#include "strict/der/element.h"
 #include "strict/der/output.h"
-#include "strict/der/reader.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 // Bits by tag number.
 constexpr uint32_t kAsciiStrings =

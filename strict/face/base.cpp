@@ -43,6 +43,8 @@ ortholan_reason ortholan_refusal_sentence(const ortholan_refusal* refusal, char*
 
 const char* ortholan_reason_sentence(ortholan_reason reason) { return SentenceOf(reason).data(); }
 
+const char* ortholan_reason_name(ortholan_reason reason) { return NameOf(reason).data(); }
+
 ortholan_reason ortholan_oid_to_text(ortholan_octets oid, char* out, size_t room, size_t* size) {
   Clear(size, nullptr);
   if (!IsGiven(oid) || !IsRoom(out, room)) return ORTHOLAN_REASON_ARGUMENT;

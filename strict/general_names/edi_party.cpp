@@ -1,5 +1,6 @@
 #include "strict/general_names/edi_party.h"
 
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 
 namespace Ortholan::strict {

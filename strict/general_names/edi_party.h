@@ -2,9 +2,11 @@
 #ifndef ORTHOLAN_STRICT_GENERAL_NAMES_EDI_PARTY_H_
 #define ORTHOLAN_STRICT_GENERAL_NAMES_EDI_PARTY_H_
 
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 struct EdiParty {
   Element assigner;  // a string; without octets where there is none

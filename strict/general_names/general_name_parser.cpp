@@ -6,6 +6,7 @@
 #include <string>
 
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/general_names/escaped_text.h"
 #include "strict/general_names/guid.h"

@@ -1,6 +1,7 @@
 #include "strict/general_names/general_name_text.h"
 
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/general_names/edi_party.h"
 #include "strict/general_names/escaped_text.h"

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {

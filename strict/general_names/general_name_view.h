@@ -11,9 +11,12 @@
 #include <iterator>
 
 #include "bytes/byte_view.h"
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
+
+class Reader;
+struct Refusal;
 
 // The number of the choice's context tag.
 enum class GeneralNameKind : uint8_t {

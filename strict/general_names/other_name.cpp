@@ -3,6 +3,7 @@
 #include <ortholan/strict/identity.h>
 
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/general_names/guid.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"

@@ -10,10 +10,12 @@
 
 #include <string_view>
 
+#include "strict/der/element.h"
 #include "strict/der/output.h"
-#include "strict/der/reader.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 enum class OtherNameKind : int32_t {
   kUnknown = ORTHOLAN_OTHER_UNKNOWN,

@@ -2,6 +2,7 @@
 
 #include "strict/certificates/certificate_view.h"
 #include "strict/der/known_identifiers.h"
+#include "strict/der/reader.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/other_name.h"
 

@@ -1,6 +1,7 @@
 #include "strict/matching/match_key.h"
 
 #include "strict/matching/name_forms.h"
+#include "strict/matching/rdn_forms.h"
 
 namespace Ortholan::strict {
 namespace {

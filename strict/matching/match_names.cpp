@@ -2,6 +2,8 @@
 
 #include "strict/matching/match_rdns.h"
 #include "strict/matching/name_forms.h"
+#include "strict/matching/rdn_forms.h"
+#include "strict/names/name_view.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -1,5 +1,7 @@
 #include "strict/matching/match_rdns.h"
 
+#include "strict/matching/rdn_forms.h"
+
 namespace Ortholan::strict {
 namespace {
 

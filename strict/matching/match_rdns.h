@@ -3,9 +3,11 @@
 #ifndef ORTHOLAN_STRICT_MATCHING_MATCH_RDNS_H_
 #define ORTHOLAN_STRICT_MATCHING_MATCH_RDNS_H_
 
-#include "strict/matching/rdn_forms.h"
+#include "strict/matching/value_form.h"
 
 namespace Ortholan::strict {
+
+struct RdnView;
 
 struct RdnComparison {
   Comparison found;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "strict/matching/rdn_forms.h"
+
 namespace Ortholan::strict {
 
 NameForms::NameForms(const NameView& name, MatchRule rule) {

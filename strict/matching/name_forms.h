@@ -3,9 +3,14 @@
 #ifndef ORTHOLAN_STRICT_MATCHING_NAME_FORMS_H_
 #define ORTHOLAN_STRICT_MATCHING_NAME_FORMS_H_
 
-#include "strict/matching/rdn_forms.h"
+#include "bytes/byte_view.h"
+#include "bytes/small_buffer.h"
+#include "strict/matching/preparation.h"
+#include "strict/matching/rule.h"
 
 namespace Ortholan::strict {
+
+class NameView;
 
 class NameForms {
  public:

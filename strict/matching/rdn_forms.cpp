@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "bytes/der_length.h"
+#include "strict/der/reader.h"
 #include "strict/names/plain_rdn.h"
 
 namespace Ortholan::strict {
@@ -32,10 +33,10 @@ ortholan_reason PutSorted(const RdnView& rdn, MatchRule rule, PreparedText* out)
 }  // namespace
 
 bool AttributeWalk::Next(Attribute* attribute) {
-  Element element;
-  if (attributes_.AtEnd() || !attributes_.Read(&element)) return false;
-  Reader fields(element.content, Leniency::kLenient, nullptr);
-  return fields.Read(kOid, &attribute->type) && fields.Read(&attribute->value);
+  AttributeView next;
+  if (!NextAttribute(&rest_, &next)) return false;
+  *attribute = {next.type, next.value};
+  return true;
 }
 
 Attribute RdnView::At(size_t at) const {

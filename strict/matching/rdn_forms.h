@@ -9,6 +9,7 @@
 #ifndef ORTHOLAN_STRICT_MATCHING_RDN_FORMS_H_
 #define ORTHOLAN_STRICT_MATCHING_RDN_FORMS_H_
 
+#include "bytes/small_buffer.h"
 #include "strict/matching/value_form.h"
 #include "strict/names/name_view.h"
 
@@ -23,12 +24,12 @@ struct Attribute {
 // The attributes of an RDN, one by one.
 class AttributeWalk {
  public:
-  explicit AttributeWalk(ByteView rdn) : attributes_(rdn, Leniency::kLenient, nullptr) {}
+  explicit AttributeWalk(ByteView rdn) : rest_(rdn) {}
   // False at the end.
   bool Next(Attribute* attribute);
 
  private:
-  Reader attributes_;
+  ByteView rest_;
 };
 
 struct RdnView {

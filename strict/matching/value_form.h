@@ -6,7 +6,7 @@
 #ifndef ORTHOLAN_STRICT_MATCHING_VALUE_FORM_H_
 #define ORTHOLAN_STRICT_MATCHING_VALUE_FORM_H_
 
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 #include "strict/matching/preparation.h"
 #include "strict/matching/rule.h"
 

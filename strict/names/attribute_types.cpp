@@ -10,6 +10,7 @@ constexpr ValueSyntax kPrintable = ValueSyntax::kPrintable;
 constexpr ValueSyntax kIA5 = ValueSyntax::kIA5;
 constexpr ValueSyntax kNumeric = ValueSyntax::kNumeric;
 constexpr ValueSyntax kUtf8 = ValueSyntax::kUtf8;
+constexpr ValueSyntax kPostal = ValueSyntax::kPostalAddress;
 constexpr ValueSyntax kNoText = ValueSyntax::kNoText;
 
 // In the order of the identifiers' octets. RFC 4519, RFC 4524 and RFC 2798 (directories), RFC 5280
@@ -37,7 +38,7 @@ constexpr AttributeType kTypes[] = {
     {"0.9.2342.19200300.100.1.25", "DC", "domainComponent", "", kIA5, 63},
     {"0.9.2342.19200300.100.1.37", "associatedDomain", "associatedDomain", "", kIA5, 256},
     {"0.9.2342.19200300.100.1.38", "associatedName", "associatedName", "", kNoText},
-    {"0.9.2342.19200300.100.1.39", "homePostalAddress", "homePostalAddress", "", kNoText},
+    {"0.9.2342.19200300.100.1.39", "homePostalAddress", "homePostalAddress", "", kPostal},
     {"0.9.2342.19200300.100.1.40", "personalTitle", "personalTitle", "", kDirectory, 256},
     {"0.9.2342.19200300.100.1.41", "mobile", "mobileTelephoneNumber", "mobileTelephone ",
      kPrintable, 32},
@@ -87,7 +88,7 @@ constexpr AttributeType kTypes[] = {
     {"2.5.4.13", "description", "description", "", kDirectory, 1024},
     {"2.5.4.14", "searchGuide", "searchGuide", "", kNoText},
     {"2.5.4.15", "businessCategory", "businessCategory", "", kDirectory, 128},
-    {"2.5.4.16", "postalAddress", "postalAddress", "", kNoText},
+    {"2.5.4.16", "postalAddress", "postalAddress", "", kPostal},
     {"2.5.4.17", "postalCode", "postalCode", "", kDirectory, 40},
     {"2.5.4.18", "postOfficeBox", "postOfficeBox", "", kDirectory, 40},
     {"2.5.4.19", "physicalDeliveryOfficeName", "physicalDeliveryOfficeName", "", kDirectory, 128},
@@ -98,7 +99,7 @@ constexpr AttributeType kTypes[] = {
     {"2.5.4.24", "x121Address", "x121Address", "", kNumeric, 15},
     {"2.5.4.25", "internationalISDNNumber", "internationalISDNNumber", "internationaliSDNNumber ",
      kNumeric, 16},
-    {"2.5.4.26", "registeredAddress", "registeredAddress", "", kNoText},
+    {"2.5.4.26", "registeredAddress", "registeredAddress", "", kPostal},
     {"2.5.4.27", "destinationIndicator", "destinationIndicator", "", kPrintable, 128},
     {"2.5.4.28", "preferredDeliveryMethod", "preferredDeliveryMethod", "", kNoText},
     {"2.5.4.31", "member", "member", "", kNoText},

@@ -19,8 +19,9 @@ enum class ValueSyntax : uint8_t {
   kIA5,
   kNumeric,
   kUtf8,
-  kIA5OrUtf8,  // IA5String where the characters allow it (RFC 2985 5.4.1)
-  kNoText,     // no string: written as # and the digits of its encoding alone
+  kIA5OrUtf8,      // IA5String where the characters allow it (RFC 2985 5.4.1)
+  kPostalAddress,  // lines (postal_address.h)
+  kNoText,         // no string: written as # and the digits of its encoding alone
 };
 
 // Content octets of an identifier, made from its dotted text by the compiler.

@@ -1,8 +1,10 @@
 #include "strict/names/name_edit.h"
 
 #include "strict/der/any_value.h"
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/names/name_writer.h"
+#include "strict/names/postal_address.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -21,12 +23,16 @@ bool PutElement(const NewAttribute& attribute, NameWriter* name, AttributeFault*
   return true;
 }
 
+StringChoice CheckUtf8(ByteView text) {
+  const StringFault broken = FindStringFault(kUtf8String, text, false);
+  if (broken.reason == ORTHOLAN_REASON_NONE) return {kUtf8String};
+  return {kUtf8String, ORTHOLAN_REASON_TEXT_UTF8, broken.offset};
+}
+
 // The string type that is asked for, or the one that type and policy have.
 StringChoice ChooseFor(const NewAttribute& attribute, ByteView text, StringPolicy policy) {
-  const StringFault broken = FindStringFault(kUtf8String, text, false);
-  if (broken.reason != ORTHOLAN_REASON_NONE) {
-    return {kUtf8String, ORTHOLAN_REASON_TEXT_UTF8, broken.offset};
-  }
+  const StringChoice broken = CheckUtf8(text);
+  if (broken.reason != ORTHOLAN_REASON_NONE) return broken;
   if (attribute.identifier == 0) return ChooseString(text, attribute.syntax, policy);
   if (!IsString(attribute.identifier)) return {attribute.identifier, ORTHOLAN_REASON_NO_STRING};
   return {attribute.identifier};
@@ -51,10 +57,27 @@ bool PutText(const NewAttribute& attribute, StringPolicy policy, NameWriter* nam
   return true;
 }
 
+bool PutAddress(const NewAttribute& attribute, StringPolicy policy, NameWriter* name,
+                AttributeFault* fault) {
+  const ByteView text = AsBytes(attribute.text.data(), attribute.text.size());
+  std::string element;
+  StringChoice choice = CheckUtf8(text);
+  if (choice.reason == ORTHOLAN_REASON_NONE) choice = ReadPostalAddress(text, policy, &element);
+  *fault = {choice.reason, choice.offset, choice.identifier};
+  if (choice.reason != ORTHOLAN_REASON_NONE) return false;
+  name->TakeValue(0);
+  name->ReplaceValue(AsBytes(element.data(), element.size()));
+  name->EndAttribute(attribute.oid);
+  return true;
+}
+
 bool PutNew(const NewAttribute& attribute, StringPolicy policy, NameWriter* name,
             AttributeFault* fault) {
-  return attribute.element.empty() ? PutText(attribute, policy, name, fault)
-                                   : PutElement(attribute, name, fault);
+  if (!attribute.element.empty()) return PutElement(attribute, name, fault);
+  const bool is_address =
+      attribute.syntax == ValueSyntax::kPostalAddress && attribute.identifier == 0;
+  return is_address ? PutAddress(attribute, policy, name, fault)
+                    : PutText(attribute, policy, name, fault);
 }
 
 // One edit of one RDN; the attributes are numbered over the whole name.

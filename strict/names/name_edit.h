@@ -38,11 +38,11 @@ bool BuildName(const NewAttribute* attributes, size_t count, StringPolicy policy
                BackwardOutput* out, AttributeFault* fault, size_t* index);
 
 // Puts the name with one place changed.
-//   kReplace  the attribute number `place` is another; its place in the RDN is that of the SET
-//   order kRemove   the attribute number `place` is gone, and so is its RDN where it stood there
-//   alone kInsert   a new RDN before the RDN number `place`, at the end where that is their count;
-//   with
-//             begins_rdn false one more attribute of that RDN
+// - kReplace: the attribute number `place` is another; its place in the RDN is that of the SET
+// order.
+// - kRemove: the attribute number `place` is gone, and so is its RDN where it stood there alone.
+// - kInsert: a new RDN before the RDN number `place`, at the end where that is their count; with
+//   begins_rdn false one more attribute of that RDN.
 // False for a fault of the attribute, and with the reason NOT_FOUND where there is no such place.
 bool EditName(const NameView& name, NameEdit edit, size_t place, const NewAttribute& attribute,
               StringPolicy policy, BackwardOutput* out, AttributeFault* fault);

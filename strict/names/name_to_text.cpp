@@ -2,17 +2,10 @@
 
 #include "strict/der/identifier.h"
 #include "strict/der/string_value.h"
+#include "strict/names/postal_address.h"
 
 namespace Ortholan::strict {
 namespace {
-
-// Whether the plain text of a string would be read as this very element.
-bool ComesBack(const Element& value, ValueSyntax syntax, StringPolicy policy) {
-  // The other types are never chosen for text.
-  if (value.identifier != kUtf8String && !IsAsciiString(value.identifier)) return false;
-  const StringChoice choice = ChooseString(value.content, syntax, policy);
-  return choice.reason == ORTHOLAN_REASON_NONE && choice.identifier == value.identifier;
-}
 
 bool IsFree(ValueSyntax syntax) {
   return syntax == ValueSyntax::kDirectoryString || syntax == ValueSyntax::kUtf8 ||
@@ -59,12 +52,25 @@ class Decoder {
     out_->Put(type.name);
     out_->Put('=');
     const Element& value = attribute.value;
-    const bool plain = IsString(value.identifier) &&
-                       (options_.exact ? ComesBack(value, type.syntax, options_.strings)
-                                       : IsReadable(value, type.syntax)) &&
-                       PutEscaped(value.identifier, value.content, out_);
-    if (!plain) PutElement(value);
+    if (!(type.syntax == ValueSyntax::kPostalAddress ? PutAddress(value)
+                                                     : PutPlain(value, type.syntax))) {
+      PutElement(value);
+    }
     return true;
+  }
+
+  // The text of a string, where it would be read as the value.
+  bool PutPlain(const Element& value, ValueSyntax syntax) {
+    return IsString(value.identifier) &&
+           (options_.exact ? ComesBack(value, syntax, options_.strings)
+                           : IsReadable(value, syntax)) &&
+           PutEscaped(value.identifier, value.content, out_);
+  }
+
+  bool PutAddress(const Element& value) {
+    std::string text;
+    return WritePostalAddress(value, options_.strings, options_.exact, &text) &&
+           PutEscaped(kUtf8String, AsBytes(text.data(), text.size()), out_);
   }
 
   // RFC 4514 2.4: a dotted type has the encoding of its value.
@@ -104,6 +110,10 @@ bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out
     if (!decoder.PutRdn(rdn.content)) return false;
   }
   return true;
+}
+
+bool PutTextOfRdn(ByteView rdn, const TextOptions& options, Output* out, Refusal* refusal) {
+  return Decoder(options, out, refusal).PutRdn(rdn);
 }
 
 }  // namespace Ortholan::strict

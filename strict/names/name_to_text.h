@@ -15,6 +15,8 @@ namespace Ortholan::strict {
 // Puts the text of a name. Refuses an identifier above kMaxIdentifierOctets, at its place. Throws
 // std::bad_alloc for more than 12 RDNs.
 bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out, Refusal* refusal);
+// The same for the content of one RDN that was read.
+bool PutTextOfRdn(ByteView rdn, const TextOptions& options, Output* out, Refusal* refusal);
 
 // Puts a string value with what has to be escaped in a name escaped; false, with nothing put, where
 // the octets are no text.

@@ -2,6 +2,7 @@
 
 #include "strict/der/any_value.h"
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 #include "strict/names/plain_rdn.h"
 
@@ -21,22 +22,6 @@ bool ReadAttribute(Reader* rdn, ByteView* bytes) {
   return CheckValue(value, rdn->leniency(), rdn->refusal());
 }
 
-bool ReadRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count) {
-  Reader attributes(content, leniency, refusal);
-  if (attributes.AtEnd()) return attributes.RefuseHere(ORTHOLAN_REASON_EMPTY);
-  ByteView before;
-  do {
-    ByteView attribute;
-    if (!ReadAttribute(&attributes, &attribute)) return false;
-    if (leniency == Leniency::kDer && !before.empty() && !IsAscending(before, attribute)) {
-      return attributes.RefuseAt(ORTHOLAN_REASON_SET_ORDER, attribute.data);
-    }
-    before = attribute;
-    ++*count;
-  } while (!attributes.AtEnd());
-  return true;
-}
-
 // Passes the plain RDNs at the front that are in order.
 ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
   ByteView attribute;
@@ -52,6 +37,22 @@ ByteView SkipPlainRdns(ByteView rdns, Leniency leniency, size_t* count) {
 
 }  // namespace
 
+bool CheckRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count) {
+  Reader attributes(content, leniency, refusal);
+  if (attributes.AtEnd()) return attributes.RefuseHere(ORTHOLAN_REASON_EMPTY);
+  ByteView before;
+  do {
+    ByteView attribute;
+    if (!ReadAttribute(&attributes, &attribute)) return false;
+    if (leniency == Leniency::kDer && !before.empty() && !IsAscending(before, attribute)) {
+      return attributes.RefuseAt(ORTHOLAN_REASON_SET_ORDER, attribute.data);
+    }
+    before = attribute;
+    ++*count;
+  } while (!attributes.AtEnd());
+  return true;
+}
+
 bool NameView::Read(ByteView der, Leniency leniency, NameView* name, Refusal* refusal) {
   NameView read;
   read.der_ = der;
@@ -61,7 +62,7 @@ bool NameView::Read(ByteView der, Leniency leniency, NameView* name, Refusal* re
   while (!rdns.AtEnd()) {
     ByteView rdn;
     if (!rdns.Read(kSet, &rdn)) return false;
-    if (!ReadRdn(rdn, leniency, refusal, &read.attribute_count_)) return false;
+    if (!CheckRdn(rdn, leniency, refusal, &read.attribute_count_)) return false;
     ++read.rdn_count_;
   }
   *name = read;

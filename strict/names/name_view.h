@@ -11,9 +11,11 @@
 #include <vector>
 
 #include "bytes/byte_view.h"
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
+
+struct Refusal;
 
 // One AttributeTypeAndValue.
 struct AttributeView {
@@ -29,6 +31,9 @@ struct AttributeView {
 // octets read, too, where what follows is no such element.
 bool NextRdn(ByteView* rdns, Element* rdn);
 bool NextAttribute(ByteView* attributes, AttributeView* attribute);
+
+// Checks the content of one RDN, and adds its attributes to the count.
+bool CheckRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count);
 
 class NameView {
  public:

@@ -26,6 +26,11 @@ class NameWriter {
     attribute_end_ = out_->size();
     return out_->Take(octets);
   }
+  // ... others in their place, where there have to be, ...
+  void ReplaceValue(ByteView octets) {
+    out_->Rewind(attribute_end_);
+    out_->Put(octets);
+  }
   // ... a whole element, ...
   void EndAttribute(ByteView type);
   // ... or the content of one.

@@ -3,7 +3,7 @@
 #ifndef ORTHOLAN_STRICT_NAMES_PLAIN_RDN_H_
 #define ORTHOLAN_STRICT_NAMES_PLAIN_RDN_H_
 
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 
 namespace Ortholan::strict {
 

@@ -43,7 +43,7 @@ constexpr Row kRows[] = {
      "pairs of hexadecimal digits alone behind \"#\"; a value that begins with \"#\" is written "
      "with a backslash before it"},
     {ORTHOLAN_REASON_TEXT_ELEMENT, Extent::kPair,
-     "the digits of one whole element in DER behind \"#\"; a value that begins with \"#\" is "
+     "the digits of one whole element behind \"#\"; a value that begins with \"#\" is "
      "written with a backslash before it"},
     {ORTHOLAN_REASON_TEXT_VALUE_UTF8, Extent::kPair, "escaped octets that are text in UTF-8"},
     {ORTHOLAN_REASON_TEXT_QUOTE, Extent::kCharacter,
@@ -52,6 +52,9 @@ constexpr Row kRows[] = {
      "a comma, plus or the end behind the closing quote; a quote of the value has a backslash "
      "before it"},
     {ORTHOLAN_REASON_TEXT_ALPHABET, Extent::kEscaped, ""},
+    {ORTHOLAN_REASON_TEXT_LINE, Extent::kEscaped,
+     "lines with \"$\" between them, none of them empty; in a line \"$\" is written \\\\24 and a "
+     "backslash \\\\5C"},
     {ORTHOLAN_REASON_TEXT_NO_STRING, Extent::kPart,
      "\"#\" and the hexadecimal digits of the value's encoding, because values of this type are no "
      "strings"},

@@ -1,5 +1,6 @@
 #include "strict/names/text_options.h"
 
+#include "strict/der/element.h"
 #include "strict/der/string_value.h"
 
 namespace Ortholan::strict {
@@ -12,6 +13,10 @@ NamedType Named(const ortholan_type_name& own) {
   const AttributeType* const known = FindType(View(own.oid));
   return {View(own.oid), View(own.name),
           known != nullptr ? known->syntax : ValueSyntax::kDirectoryString};
+}
+
+bool IsNoString(ValueSyntax syntax) {
+  return syntax == ValueSyntax::kNoText || syntax == ValueSyntax::kPostalAddress;
 }
 
 // The one string type of a syntax that leaves no choice.
@@ -76,11 +81,18 @@ StringChoice ChooseString(ByteView text, ValueSyntax syntax, StringPolicy policy
   }
   if (syntax == ValueSyntax::kIA5OrUtf8) return ChooseNarrow(text, kIA5String);
   const uint8_t identifier = StringOf(syntax);
-  if (syntax == ValueSyntax::kNoText) return {identifier, ORTHOLAN_REASON_TEXT_NO_STRING, 0};
+  if (IsNoString(syntax)) return {identifier, ORTHOLAN_REASON_TEXT_NO_STRING, 0};
   if (identifier == kUtf8String) return {identifier};
   const StringFault fault = FindStringFault(identifier, text, true);
   if (fault.reason == ORTHOLAN_REASON_NONE) return {identifier};
   return {identifier, ORTHOLAN_REASON_TEXT_ALPHABET, fault.offset};
+}
+
+bool ComesBack(const Element& value, ValueSyntax syntax, StringPolicy policy) {
+  // The other types are never chosen for text.
+  if (value.identifier != kUtf8String && !IsAsciiString(value.identifier)) return false;
+  const StringChoice choice = ChooseString(value.content, syntax, policy);
+  return choice.reason == ORTHOLAN_REASON_NONE && choice.identifier == value.identifier;
 }
 
 }  // namespace Ortholan::strict

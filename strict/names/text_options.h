@@ -12,6 +12,8 @@
 
 namespace Ortholan::strict {
 
+struct Element;
+
 enum class TextOrder : int32_t {
   kReversed = ORTHOLAN_RDNS_REVERSED,
   kAsEncoded = ORTHOLAN_RDNS_AS_ENCODED,
@@ -53,6 +55,9 @@ struct StringChoice {
   size_t offset = 0;
 };
 StringChoice ChooseString(ByteView text, ValueSyntax syntax, StringPolicy policy);
+
+// Whether the plain text of a string would be read as this very element.
+bool ComesBack(const Element& value, ValueSyntax syntax, StringPolicy policy);
 
 }  // namespace Ortholan::strict
 

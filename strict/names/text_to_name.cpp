@@ -2,9 +2,11 @@
 
 #include <string>
 
+#include "strict/der/any_value.h"
+#include "strict/der/ber_value.h"
 #include "strict/der/reader.h"
-#include "strict/der/string_value.h"
 #include "strict/names/name_writer.h"
+#include "strict/names/postal_address.h"
 #include "strict/names/text_parser.h"
 #include "strict/names/type_finder.h"
 
@@ -41,15 +43,28 @@ class Encoder {
     ByteView octets = AsBytes(attribute.value.data(), attribute.value.size());
     if (!as_it_stands || place != nullptr) octets = Write(attribute, place);
     if (is_hex) {
+      if (!ReadElement(attribute, octets)) return false;
       name_.EndAttribute(type.oid);
-      return CheckElement(attribute, octets);
+      return true;
     }
     if (!as_it_stands && !CheckUtf8(attribute, octets)) return false;
+    if (type.syntax == ValueSyntax::kPostalAddress) return PutAddress(attribute, octets, type.oid);
     const StringChoice choice = ChooseString(octets, type.syntax, options_.strings);
     if (choice.reason != ORTHOLAN_REASON_NONE) {
       return RefuseValue(choice.reason, attribute, choice.offset, choice.identifier);
     }
     name_.EndAttribute(choice.identifier, type.oid);
+    return true;
+  }
+
+  bool PutAddress(const TextAttribute& attribute, ByteView text, ByteView type) {
+    std::string element;
+    const StringChoice address = ReadPostalAddress(text, options_.strings, &element);
+    if (address.reason != ORTHOLAN_REASON_NONE) {
+      return RefuseValue(address.reason, attribute, address.offset);
+    }
+    name_.ReplaceValue(AsBytes(element.data(), element.size()));
+    name_.EndAttribute(type);
     return true;
   }
 
@@ -69,13 +84,17 @@ class Encoder {
     return {place, attribute.octets};
   }
 
-  // What the digits stand for is one element, all of it, and a string that is text.
-  bool CheckElement(const TextAttribute& attribute, ByteView octets) {
-    Refusal inner;
-    Reader reader(octets, Leniency::kDer, &inner);
+  // What the digits stand for is one element of BER, all of it, which is put in DER.
+  bool ReadElement(const TextAttribute& attribute, ByteView octets) {
+    Reader reader(octets, Leniency::kDer, nullptr);
     Element element;
-    if (reader.Read(&element) && reader.End() && CheckNested(element, Leniency::kDer, &inner) &&
-        CheckString(element, Leniency::kDer, &inner)) {
+    if (reader.Read(&element) && reader.AtEnd() && CheckValue(element, Leniency::kDer, nullptr)) {
+      return true;
+    }
+    Refusal inner;
+    std::string der;
+    if (ReadBerValue(octets, &der, &inner)) {
+      name_.ReplaceValue(AsBytes(der.data(), der.size()));
       return true;
     }
     const auto offset = static_cast<size_t>(static_cast<const uint8_t*>(inner.at) - octets.data);

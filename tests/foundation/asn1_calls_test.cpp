@@ -26,9 +26,24 @@ std::string Joined(const std::list<IdentObj>& elements) {
   return text;
 }
 
+bool IsTime(DWORD tag) { return tag == 23 || tag == 24; }
+
+// A row writes the two numbers of a FILETIME with their lowest octets first; here as the host has
+// them, and the other way round.
+std::string FileTime(std::string octets) {
+  if (octets.size() != sizeof(FILETIME)) return octets;
+  for (size_t at = 0; at < octets.size(); at += sizeof(DWORD)) {
+    DWORD number = 0;
+    for (size_t i = sizeof number; i-- > 0;)
+      number = number << 8 | static_cast<BYTE>(octets[at + i]);
+    std::memcpy(&octets[at], &number, sizeof number);
+  }
+  return octets;
+}
+
 // The element in hex, or what is thrown.
 std::string Put(unsigned class_and_form, DWORD tag, const std::string& value) {
-  const IdentObj in = ExactCopy(value);
+  const IdentObj in = ExactCopy(IsTime(tag) ? FileTime(value) : value);
   const auto cls = static_cast<BYTE>(class_and_form & 0xC0);
   const auto form = static_cast<BYTE>(class_and_form & 0x20);
   IdentObj element;
@@ -47,7 +62,9 @@ std::string Get(const std::string& octets) {
   IdentObj value = Blob("77");
   const DWORD status = ASNTGetElement(info, element.pbData + element.cbData, value);
   EXPECT_TRUE(status == 0 || AsText(value) == "\x77") << "changed by a failure";
-  return status == 0 ? Hex(value) : "status " + std::to_string(status);
+  if (status != 0) return "status " + std::to_string(status);
+  const std::string held(AsText(value));
+  return Hex(IsTime(info.tag) ? FileTime(held) : held);
 }
 
 std::string PutRow(const VectorRow& row) {

@@ -41,6 +41,7 @@ const std::string kDirectories = Tlv('\x30', Tlv('\xA1', Tlv('\x30', Tlv('\xA4',
 const std::string kAlternative = Tlv('\x30', Tlv('\x82', "c.a.b"));
 const std::string kEmpty;
 const std::string kCertificate = CertificateOf("");
+const std::string kNamedCertificate = CertificateWithNames(kAlternative);
 
 ortholan_octets Octets(const std::string& octets) { return ortholan::Octets(octets); }
 ortholan_text TextOf(std::string_view text) { return {text.data(), text.size()}; }
@@ -124,12 +125,17 @@ ortholan_reason Say(Out* out) {
   return ortholan_finding_sentence(&finding, out->text(), sizeof out->octets, &out->size);
 }
 
+ortholan_reason FindFaults(Out* out) {
+  return ortholan_check(Octets(kNamedCertificate), nullptr, 0, &out->size, &out->refusal);
+}
+
 struct StrictCall {
   const char* label;
   ortholan_reason (*call)(Out*);
 };
 
 const StrictCall kStrictCalls[] = {
+    {"what RFC 5280 forbids", FindFaults},
     {"text of a name",
      [](Out* out) {
        return ortholan_rfc4514_write(&kManyView, nullptr, out->text(), sizeof out->octets,

@@ -1,4 +1,5 @@
 // Both sides of the agreement about the runtime: the DLL's function, or a program that asks for it.
+#include <ortholan/export.h>
 #include <ortholan/runtime.h>
 
 #ifdef ORTHOLAN_BUILDING

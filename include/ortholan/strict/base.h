@@ -160,6 +160,9 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_refusal_sentence(const ortholan_refusal
 // One English sentence for a reason alone, terminated; static, never to be freed. "" for 0, and a
 // sentence that says so for a number of no list.
 ORTHOLAN_EXPORT const char* ortholan_reason_sentence(ortholan_reason reason);
+// Its name without ORTHOLAN_REASON_, such as "SET_ORDER", terminated and static as well: for logs
+// and for languages that have these lists not. "" for a number of no list.
+ORTHOLAN_EXPORT const char* ortholan_reason_name(ortholan_reason reason);
 
 // An OBJECT IDENTIFIER's content octets as dotted decimal text ("2.5.4.3"); arcs of any size.
 // Refuses OID, and TOO_LONG above 4096 octets.

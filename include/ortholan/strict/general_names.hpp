@@ -191,6 +191,8 @@ class GeneralNames {
   };
 
   GeneralNames() = default;
+  // Names that were read before.
+  explicit GeneralNames(const ortholan_general_names_view& view) : view_(view) {}
 
   // Reads a list that is the whole of `der`, the value of an alternative-name extension.
   static Result<GeneralNames> Read(Octets der, Reading reading = Reading::kDer) {

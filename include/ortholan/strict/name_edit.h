@@ -28,7 +28,8 @@ typedef struct ortholan_new_attribute {
 // What holds for these functions: `options` gives the caller's own names for types and the policy
 // for strings, and may be NULL. A refusal of an attribute has its index in `met` and the place in
 // its text or element in `offset`: TEXT_UNKNOWN_TYPE and TEXT_OID for the type, TEXT_UTF8,
-// TEXT_ALPHABET, TEXT_NO_STRING and NO_STRING for the text, those of reading for an element.
+// TEXT_ALPHABET, TEXT_LINE, TEXT_NO_STRING and NO_STRING for the text, those of reading for an
+// element.
 
 // The DER of a name of these attributes, the most significant RDN first.
 ORTHOLAN_EXPORT ortholan_reason ortholan_name_build(const ortholan_new_attribute* attributes,

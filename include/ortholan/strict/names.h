@@ -38,7 +38,7 @@ enum {
   ORTHOLAN_REASON_TEXT_UNESCAPED = 87,
   // A "#" before anything but pairs of hexadecimal digits.
   ORTHOLAN_REASON_TEXT_HEX = 88,
-  // Hexadecimal digits that are no element in DER; `expected` is the reason.
+  // Hexadecimal digits that are no element in BER; `expected` is the reason.
   ORTHOLAN_REASON_TEXT_ELEMENT = 89,
   // Escaped octets that are not UTF-8.
   ORTHOLAN_REASON_TEXT_VALUE_UTF8 = 90,
@@ -52,7 +52,9 @@ enum {
   ORTHOLAN_REASON_TEXT_NO_STRING = 94,
   // A name for a type that no text could have: not a letter followed by letters, digits and
   // hyphens.
-  ORTHOLAN_REASON_TYPE_NAME = 95
+  ORTHOLAN_REASON_TYPE_NAME = 95,
+  // A line of a postal address that is empty, or a backslash in one without 24 or 5C behind it.
+  ORTHOLAN_REASON_TEXT_LINE = 96
 };
 
 // A name that was read and found in order.
@@ -139,8 +141,9 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_rfc4514_write(const ortholan_name_view*
                                                        char* out, size_t room, size_t* size,
                                                        ortholan_refusal* refusal);
 // Text as the DER of a Name. Reads all of RFC 4514 section 3 and, as RFC 2253 section 4 asks, ";"
-// for ",", quoted values, "OID." before dotted digits and blanks round what separates. Refuses the
-// first place that is wrong, by the offset of its octet in the text.
+// for ",", quoted values, "OID." before dotted digits and blanks round what separates. A value
+// behind "#" may have any encoding of BER and becomes DER. Refuses the first place that is wrong,
+// by the offset of its octet in the text.
 ORTHOLAN_EXPORT ortholan_reason ortholan_rfc4514_read(ortholan_text text,
                                                       const ortholan_rfc4514_options* options,
                                                       uint8_t* out, size_t room, size_t* size,

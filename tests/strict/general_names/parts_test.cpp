@@ -4,6 +4,8 @@
 #include <ortholan/strict.hpp>
 #include <string>
 
+#include "strict/der/refusal.h"
+#include "strict/general_names/other_name.h"
 #include "tests/strict/reasons.h"
 #include "tests/support/vectors.h"
 

@@ -1,0 +1,569 @@
+// From <ortholan/strict.h>, by scripts/bindings/declarations.py: do not edit.
+
+using System;
+using System.Runtime.InteropServices;
+
+namespace Ortholan.Native
+{
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Octets
+    {
+        public byte* data;
+        public UIntPtr size;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Text
+    {
+        public byte* data;
+        public UIntPtr size;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Refusal
+    {
+        public int reason;
+        public uint met;
+        public uint expected;
+        public UIntPtr offset;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct CertificateView
+    {
+        public int kind;
+        public Octets der;
+        public Octets subject;
+        public Octets issuer;
+        public Octets serial;
+        public Octets not_before;
+        public Octets not_after;
+        public Octets extensions;
+        public UIntPtr extension_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ExtensionView
+    {
+        public Octets oid;
+        public Octets value;
+        public Octets bytes;
+        public int critical;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PemBlock
+    {
+        public Text label;
+        public Text base64;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Finding
+    {
+        public int reason;
+        public int verdict;
+        public UIntPtr certificate;
+        public UIntPtr authority;
+        public int place;
+        public Octets name;
+        public Octets subtree;
+        public UIntPtr subtree_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PermitOptions
+    {
+        public ulong budget;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NameView
+    {
+        public Octets der;
+        public UIntPtr rdn_count;
+        public UIntPtr attribute_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AttributeView
+    {
+        public Octets type;
+        public Octets value;
+        public Octets content;
+        public UIntPtr rdn;
+        public uint identifier;
+        public int begins_rdn;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NameCursor
+    {
+        public UIntPtr index;
+        public UIntPtr offset;
+        public UIntPtr rdn;
+        public UIntPtr rdn_end;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct TypeName
+    {
+        public Text name;
+        public Octets oid;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Rfc4514Options
+    {
+        public int order;
+        public int strings;
+        public int long_names;
+        public int exact;
+        public TypeName* names;
+        public UIntPtr name_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct TextError
+    {
+        public int reason;
+        public UIntPtr offset;
+        public UIntPtr size;
+        public UIntPtr character;
+        public byte* expected;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct GeneralNameView
+    {
+        public int kind;
+        public int other;
+        public Octets bytes;
+        public Octets content;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct GeneralNamesView
+    {
+        public Octets der;
+        public Octets names;
+        public UIntPtr count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Mailbox
+    {
+        public Text local;
+        public Text host;
+        public fixed byte address[16];
+        public UIntPtr address_size;
+        public int has_ascii_local;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Uri
+    {
+        public Text scheme;
+        public Text userinfo;
+        public Text host;
+        public Text port;
+        public Text rest;
+        public fixed byte address[16];
+        public UIntPtr address_size;
+        public int has_authority;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct OtherName
+    {
+        public int kind;
+        public uint identifier;
+        public Octets type;
+        public Octets value;
+        public Text text;
+        public Octets oid;
+        public Octets octets;
+        public Octets components;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct EdiParty
+    {
+        public Octets assigner;
+        public Octets party;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Reference
+    {
+        public int kind;
+        public uint choices;
+        public Text text;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Identity
+    {
+        public int verdict;
+        public int reason;
+        public Octets name;
+        public UIntPtr index;
+        public Octets names;
+        public UIntPtr name_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PresentedName
+    {
+        public Octets bytes;
+        public int reason;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct MatchPlace
+    {
+        public UIntPtr rdn;
+        public UIntPtr attribute;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Match
+    {
+        public int verdict;
+        public int reason;
+        public int side;
+        public MatchPlace first;
+        public MatchPlace second;
+        public Octets type;
+        public Refusal refusal;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NewAttribute
+    {
+        public Octets oid;
+        public Text type;
+        public Text text;
+        public Octets element;
+        public uint string_type;
+        public int joins_rdn;
+    }
+
+    internal static class Constants
+    {
+        public const int ORTHOLAN_VERDICT_CANNOT_TELL = 0;
+        public const int ORTHOLAN_VERDICT_YES = 1;
+        public const int ORTHOLAN_VERDICT_NO = 2;
+        public const int ORTHOLAN_REASON_NONE = 0;
+        public const int ORTHOLAN_REASON_ARGUMENT = 1;
+        public const int ORTHOLAN_REASON_MEMORY = 2;
+        public const int ORTHOLAN_REASON_ROOM = 3;
+        public const int ORTHOLAN_REASON_NOT_FOUND = 4;
+        public const int ORTHOLAN_REASON_TRUNCATED = 20;
+        public const int ORTHOLAN_REASON_LEFT_OVER = 21;
+        public const int ORTHOLAN_REASON_IDENTIFIER = 22;
+        public const int ORTHOLAN_REASON_INDEFINITE = 23;
+        public const int ORTHOLAN_REASON_LENGTH_FORM = 24;
+        public const int ORTHOLAN_REASON_TAG_FORM = 25;
+        public const int ORTHOLAN_REASON_OID = 26;
+        public const int ORTHOLAN_REASON_SET_ORDER = 27;
+        public const int ORTHOLAN_REASON_ALPHABET = 28;
+        public const int ORTHOLAN_REASON_ENCODING = 29;
+        public const int ORTHOLAN_REASON_EMPTY = 30;
+        public const int ORTHOLAN_REASON_DEPTH = 31;
+        public const int ORTHOLAN_REASON_BOOLEAN = 32;
+        public const int ORTHOLAN_REASON_INTEGER = 33;
+        public const int ORTHOLAN_REASON_BIT_STRING = 34;
+        public const int ORTHOLAN_REASON_DEFAULT = 35;
+        public const int ORTHOLAN_REASON_TIME = 36;
+        public const int ORTHOLAN_REASON_NO_STRING = 37;
+        public const int ORTHOLAN_REASON_TOO_LONG = 38;
+        public const int ORTHOLAN_REASON_FORM = 39;
+        public const int ORTHOLAN_REASON_NULL = 40;
+        public const int ORTHOLAN_REASON_DUPLICATE_EXTENSION = 120;
+        public const int ORTHOLAN_READ_DER = 0;
+        public const int ORTHOLAN_READ_LENIENT = 1;
+        public const int ORTHOLAN_READ_STRUCTURE = 2;
+        public const int ORTHOLAN_REASON_PEM_END = 121;
+        public const int ORTHOLAN_REASON_PEM_LABEL = 122;
+        public const int ORTHOLAN_REASON_BASE64 = 123;
+        public const int ORTHOLAN_CERTIFICATE = 1;
+        public const int ORTHOLAN_CERTIFICATE_REQUEST = 2;
+        public const int ORTHOLAN_REVOCATION_LIST = 3;
+        public const int ORTHOLAN_REASON_EXCLUDED = 300;
+        public const int ORTHOLAN_REASON_NOT_PERMITTED = 301;
+        public const int ORTHOLAN_REASON_UNDEFINED_FORM = 302;
+        public const int ORTHOLAN_REASON_SUBTREE_DISTANCE = 303;
+        public const int ORTHOLAN_REASON_SUBTREE_MASK = 304;
+        public const int ORTHOLAN_REASON_SUBTREE_EMPTY = 305;
+        public const int ORTHOLAN_REASON_URI_WITHOUT_HOST = 306;
+        public const int ORTHOLAN_REASON_MAILBOX_QUOTED = 307;
+        public const int ORTHOLAN_REASON_MAILBOX_CASE = 308;
+        public const int ORTHOLAN_REASON_MAILBOX_AT_ADDRESS = 309;
+        public const int ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII = 310;
+        public const int ORTHOLAN_REASON_DIRECTORY_UNTOLD = 311;
+        public const int ORTHOLAN_REASON_BUDGET = 312;
+        public const int ORTHOLAN_REASON_UNREADABLE_CERTIFICATE = 313;
+        public const int ORTHOLAN_NAME_NONE = 0;
+        public const int ORTHOLAN_NAME_SUBJECT = 1;
+        public const int ORTHOLAN_NAME_EMAIL = 2;
+        public const int ORTHOLAN_NAME_ALTERNATIVE = 3;
+        public const int ORTHOLAN_NAME_LIST = 4;
+        public const int ORTHOLAN_NAME_CONSTRAINTS = 5;
+        public const int ORTHOLAN_REASON_TEXT_UTF8 = 80;
+        public const int ORTHOLAN_REASON_TEXT_NO_TYPE = 81;
+        public const int ORTHOLAN_REASON_TEXT_NO_EQUALS = 82;
+        public const int ORTHOLAN_REASON_TEXT_TYPE = 83;
+        public const int ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE = 84;
+        public const int ORTHOLAN_REASON_TEXT_OID = 85;
+        public const int ORTHOLAN_REASON_TEXT_PAIR = 86;
+        public const int ORTHOLAN_REASON_TEXT_UNESCAPED = 87;
+        public const int ORTHOLAN_REASON_TEXT_HEX = 88;
+        public const int ORTHOLAN_REASON_TEXT_ELEMENT = 89;
+        public const int ORTHOLAN_REASON_TEXT_VALUE_UTF8 = 90;
+        public const int ORTHOLAN_REASON_TEXT_QUOTE = 91;
+        public const int ORTHOLAN_REASON_TEXT_BEHIND_QUOTE = 92;
+        public const int ORTHOLAN_REASON_TEXT_ALPHABET = 93;
+        public const int ORTHOLAN_REASON_TEXT_NO_STRING = 94;
+        public const int ORTHOLAN_REASON_TYPE_NAME = 95;
+        public const int ORTHOLAN_RDNS_REVERSED = 0;
+        public const int ORTHOLAN_RDNS_AS_ENCODED = 1;
+        public const int ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8 = 0;
+        public const int ORTHOLAN_STRINGS_UTF8 = 1;
+        public const int ORTHOLAN_REASON_HOST_EMPTY = 140;
+        public const int ORTHOLAN_REASON_HOST_EMPTY_LABEL = 141;
+        public const int ORTHOLAN_REASON_HOST_LONG_LABEL = 142;
+        public const int ORTHOLAN_REASON_HOST_LONG = 143;
+        public const int ORTHOLAN_REASON_HOST_CHARACTER = 144;
+        public const int ORTHOLAN_REASON_HOST_UNDERSCORE = 145;
+        public const int ORTHOLAN_REASON_HOST_HYPHEN = 146;
+        public const int ORTHOLAN_REASON_HOST_NUMERIC = 147;
+        public const int ORTHOLAN_REASON_HOST_UNICODE = 148;
+        public const int ORTHOLAN_REASON_HOST_TRAILING_DOT = 149;
+        public const int ORTHOLAN_REASON_HOST_WILDCARD = 150;
+        public const int ORTHOLAN_REASON_MAILBOX_AT = 151;
+        public const int ORTHOLAN_REASON_MAILBOX_LOCAL = 152;
+        public const int ORTHOLAN_REASON_MAILBOX_LITERAL = 153;
+        public const int ORTHOLAN_REASON_URI_SCHEME = 154;
+        public const int ORTHOLAN_REASON_URI_CHARACTER = 155;
+        public const int ORTHOLAN_REASON_URI_LITERAL = 156;
+        public const int ORTHOLAN_REASON_URI_PORT = 157;
+        public const int ORTHOLAN_REASON_SERVICE = 158;
+        public const int ORTHOLAN_REASON_OTHER_NAME = 159;
+        public const int ORTHOLAN_REASON_ADDRESS_TEXT = 160;
+        public const int ORTHOLAN_REASON_ADDRESS_RANGE = 161;
+        public const int ORTHOLAN_REASON_NAME_KIND = 162;
+        public const int ORTHOLAN_REASON_NAME_ESCAPE = 163;
+        public const int ORTHOLAN_REASON_NAME_VALUE = 164;
+        public const int ORTHOLAN_REASON_GENERAL_NAME = 170;
+        public const int ORTHOLAN_REASON_NAME_CHARACTER = 171;
+        public const int ORTHOLAN_REASON_ADDRESS_SIZE = 172;
+        public const int ORTHOLAN_OTHER_UNKNOWN = 0;
+        public const int ORTHOLAN_OTHER_UPN = 1;
+        public const int ORTHOLAN_OTHER_SERVICE = 2;
+        public const int ORTHOLAN_OTHER_UTF8_MAILBOX = 3;
+        public const int ORTHOLAN_OTHER_KERBEROS = 4;
+        public const int ORTHOLAN_OTHER_XMPP = 5;
+        public const int ORTHOLAN_OTHER_PERMANENT_ID = 6;
+        public const int ORTHOLAN_OTHER_HARDWARE_MODULE = 7;
+        public const int ORTHOLAN_OTHER_GUID = 8;
+        public const int ORTHOLAN_NAME_OTHER = 0;
+        public const int ORTHOLAN_NAME_MAIL = 1;
+        public const int ORTHOLAN_NAME_DNS = 2;
+        public const int ORTHOLAN_NAME_X400 = 3;
+        public const int ORTHOLAN_NAME_DIRECTORY = 4;
+        public const int ORTHOLAN_NAME_EDI_PARTY = 5;
+        public const int ORTHOLAN_NAME_URI = 6;
+        public const int ORTHOLAN_NAME_ADDRESS = 7;
+        public const int ORTHOLAN_NAME_REGISTERED_ID = 8;
+        public const int ORTHOLAN_HOST_UNDERSCORES = 1;
+        public const int ORTHOLAN_HOST_TRAILING_DOT = 2;
+        public const int ORTHOLAN_HOST_EDGE_HYPHENS = 4;
+        public const int ORTHOLAN_HOST_WILDCARD = 8;
+        public const int ORTHOLAN_ALTERNATIVE_NAMES_VALUE = 0;
+        public const int ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL = 1;
+        public const int ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION = 2;
+        public const int ORTHOLAN_REASON_NO_MATCH = 200;
+        public const int ORTHOLAN_REASON_NO_ALTERNATIVE_NAMES = 201;
+        public const int ORTHOLAN_REASON_NO_CERTIFICATE = 202;
+        public const int ORTHOLAN_REASON_OTHER_KIND = 203;
+        public const int ORTHOLAN_REASON_OTHER_HOST = 204;
+        public const int ORTHOLAN_REASON_WILDCARD_LABELS = 205;
+        public const int ORTHOLAN_REASON_OTHER_ADDRESS = 206;
+        public const int ORTHOLAN_REASON_OTHER_FAMILY = 207;
+        public const int ORTHOLAN_REASON_OTHER_LOCAL_PART = 208;
+        public const int ORTHOLAN_REASON_OTHER_SCHEME = 209;
+        public const int ORTHOLAN_REASON_OTHER_SERVICE_NAME = 210;
+        public const int ORTHOLAN_REASON_HOST_IS_ADDRESS = 211;
+        public const int ORTHOLAN_REASON_URI_HOST = 212;
+        public const int ORTHOLAN_REASON_ASCII_LOCAL_PART = 213;
+        public const int ORTHOLAN_REFERENCE_HOST = 1;
+        public const int ORTHOLAN_REFERENCE_ADDRESS = 2;
+        public const int ORTHOLAN_REFERENCE_MAILBOX = 3;
+        public const int ORTHOLAN_REFERENCE_URI = 4;
+        public const int ORTHOLAN_REFERENCE_SERVICE = 5;
+        public const int ORTHOLAN_IDENTIFY_NO_UNDERSCORE = 1;
+        public const int ORTHOLAN_MATCH_RFC5280 = 0;
+        public const int ORTHOLAN_MATCH_ASCII_CASE = 1;
+        public const int ORTHOLAN_MATCH_OCTETS = 2;
+        public const int ORTHOLAN_MATCH_ANY_ORDER = 256;
+        public const int ORTHOLAN_REASON_RDN_COUNT = 180;
+        public const int ORTHOLAN_REASON_RDN_SIZE = 181;
+        public const int ORTHOLAN_REASON_ATTRIBUTE_TYPE = 182;
+        public const int ORTHOLAN_REASON_VALUE = 183;
+        public const int ORTHOLAN_REASON_RDN = 184;
+        public const int ORTHOLAN_REASON_VALUE_TYPE = 185;
+        public const int ORTHOLAN_REASON_VALUE_TEXT = 186;
+        public const int ORTHOLAN_REASON_VALUE_UNDEFINED = 187;
+        public const int ORTHOLAN_REASON_VALUE_TELETEX = 188;
+    }
+
+    internal static unsafe class Calls
+    {
+        private const string Library = "ortholan";
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_refusal_sentence(Refusal* refusal, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern byte* ortholan_reason_sentence(int reason);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_oid_to_text(Octets oid, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_oid_from_text(Text text, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_certificate_view_read(Octets der, int mode, CertificateView* certificate, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_certificate_view_next_extension(CertificateView* certificate, UIntPtr* offset, ExtensionView* extension);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_certificate_view_extension(CertificateView* certificate, Octets oid, ExtensionView* extension, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extensions_view_read(Octets der, int mode, CertificateView* extensions, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extensions_write(ExtensionView* extensions, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_time_to_text(Octets time, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_pem_next(Text text, UIntPtr* offset, PemBlock* block, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_pem_octets(PemBlock* block, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_permits(Octets* chain, UIntPtr chain_size, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_permits_names(Octets constraints, Octets subject, Octets alternative_names, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_finding_sentence(Finding* finding, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_view_read(Octets der, int mode, NameView* name, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_view_attribute(NameView* name, UIntPtr index, NameCursor* cursor, AttributeView* attribute);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_attribute_view_text(AttributeView* attribute, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_rfc4514_write(NameView* name, Rfc4514Options* options, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_rfc4514_read(Text text, Rfc4514Options* options, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_rfc4514_explain(Text text, Refusal* refusal, TextError* error);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_rfc4514_sentence(Text text, Refusal* refusal, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_general_names_view_read(Octets der, int mode, GeneralNamesView* names, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_general_names_view_next(GeneralNamesView* names, UIntPtr* offset, GeneralNameView* name);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_general_name_view_read(Octets der, int mode, GeneralNameView* name, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_mailbox_read(Text text, int has_utf8, Mailbox* mailbox, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_uri_read(Text text, Uri* uri, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_other_name_read(GeneralNameView* name, OtherName* other, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_edi_party_read(GeneralNameView* name, EdiParty* party, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_host_check(Text host, uint choices, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_to_text(Octets address, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_from_text(Text text, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_general_name_to_text(Octets name, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_general_name_from_text(Text text, int allows_range, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_alternative_names_from_text(Text* texts, UIntPtr count, int form, byte* @out, UIntPtr room, UIntPtr* size, UIntPtr* wrong, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_identify(Octets certificate, Reference* reference, Identity* identity, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_identify_by_names(Octets names, Reference* reference, Identity* identity, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_identity_explain(Identity* identity, Reference* reference, UIntPtr* offset, PresentedName* presented);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_match_names(Octets first, Octets second, int rule, Match* match);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_within(Octets subtree, Octets name, int rule, Match* match);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_match_sentence(Match* match, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_match_key(Octets name, int rule, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern ulong ortholan_match_hash(Octets key);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_prepare_text(Text text, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_build(NewAttribute* attributes, UIntPtr count, Rfc4514Options* options, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_view_replace(NameView* name, UIntPtr index, NewAttribute* attribute, Rfc4514Options* options, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_view_remove(NameView* name, UIntPtr index, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_view_insert(NameView* name, UIntPtr rdn, NewAttribute* attribute, Rfc4514Options* options, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+    }
+}

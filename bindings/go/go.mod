@@ -1,0 +1,3 @@
+module ortholan
+
+go 1.19

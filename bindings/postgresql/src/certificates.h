@@ -1,0 +1,10 @@
+// Certificates, requests and CRLs as arguments.
+#ifndef ORTHOLAN_POSTGRESQL_CERTIFICATES_H_
+#define ORTHOLAN_POSTGRESQL_CERTIFICATES_H_
+
+#include "values.h"
+
+// Reads one, in DER. False, where that may be, for what is none; else that is an error.
+bool read_certificate(ortholan_octets der, bool is_soft, ortholan_certificate_view* certificate);
+
+#endif  // ORTHOLAN_POSTGRESQL_CERTIFICATES_H_

@@ -1,0 +1,19 @@
+-- Databases of other encodings: text is converted, and refused where a character is not there.
+CREATE DATABASE ortholan_latin1 TEMPLATE template0 ENCODING 'LATIN1' LOCALE 'C';
+CREATE DATABASE ortholan_ascii TEMPLATE template0 ENCODING 'SQL_ASCII' LOCALE 'C';
+\c ortholan_latin1
+CREATE EXTENSION ortholan;
+SELECT encode(x509_name_from_text(U&'CN=\00E9'), 'hex') AS e_acute;
+SELECT length(x509_name_text('\x300F310D300B06035504030C04C3A9C3A8')) AS characters,
+  convert_to(x509_name_text('\x300F310D300B06035504030C04C3A9C3A8'), 'UTF8') AS utf8;
+SELECT x509_name_text('\x300F310D300B06035504030C04D090D0BB');
+SELECT x509_name_text('\x300F310D300B06035504030C04D090D0BB', true) IS NULL AS is_null;
+SELECT key, value, octets FROM x509_name_attributes('\x300F310D300B06035504030C04D090D0BB');
+\c ortholan_ascii
+CREATE EXTENSION ortholan;
+SELECT convert_to(x509_name_text('\x300F310D300B06035504030C04D090D0BB'), 'SQL_ASCII') AS utf8;
+SELECT x509_name_from_text('CN=' || convert_from('\xD090', 'SQL_ASCII'));
+SELECT x509_name_from_text('CN=' || convert_from('\xD0', 'SQL_ASCII'));
+\c contrib_regression
+DROP DATABASE ortholan_latin1;
+DROP DATABASE ortholan_ascii;

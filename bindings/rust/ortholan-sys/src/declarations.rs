@@ -1,0 +1,734 @@
+// From <ortholan/strict.h>, by scripts/bindings/declarations.py: do not edit.
+
+use std::os::raw::c_char;
+
+pub type ortholan_reason = i32;
+pub type ortholan_verdict = i32;
+
+pub const ORTHOLAN_VERDICT_CANNOT_TELL: i32 = 0;
+pub const ORTHOLAN_VERDICT_YES: i32 = 1;
+pub const ORTHOLAN_VERDICT_NO: i32 = 2;
+pub const ORTHOLAN_REASON_NONE: i32 = 0;
+pub const ORTHOLAN_REASON_ARGUMENT: i32 = 1;
+pub const ORTHOLAN_REASON_MEMORY: i32 = 2;
+pub const ORTHOLAN_REASON_ROOM: i32 = 3;
+pub const ORTHOLAN_REASON_NOT_FOUND: i32 = 4;
+pub const ORTHOLAN_REASON_TRUNCATED: i32 = 20;
+pub const ORTHOLAN_REASON_LEFT_OVER: i32 = 21;
+pub const ORTHOLAN_REASON_IDENTIFIER: i32 = 22;
+pub const ORTHOLAN_REASON_INDEFINITE: i32 = 23;
+pub const ORTHOLAN_REASON_LENGTH_FORM: i32 = 24;
+pub const ORTHOLAN_REASON_TAG_FORM: i32 = 25;
+pub const ORTHOLAN_REASON_OID: i32 = 26;
+pub const ORTHOLAN_REASON_SET_ORDER: i32 = 27;
+pub const ORTHOLAN_REASON_ALPHABET: i32 = 28;
+pub const ORTHOLAN_REASON_ENCODING: i32 = 29;
+pub const ORTHOLAN_REASON_EMPTY: i32 = 30;
+pub const ORTHOLAN_REASON_DEPTH: i32 = 31;
+pub const ORTHOLAN_REASON_BOOLEAN: i32 = 32;
+pub const ORTHOLAN_REASON_INTEGER: i32 = 33;
+pub const ORTHOLAN_REASON_BIT_STRING: i32 = 34;
+pub const ORTHOLAN_REASON_DEFAULT: i32 = 35;
+pub const ORTHOLAN_REASON_TIME: i32 = 36;
+pub const ORTHOLAN_REASON_NO_STRING: i32 = 37;
+pub const ORTHOLAN_REASON_TOO_LONG: i32 = 38;
+pub const ORTHOLAN_REASON_FORM: i32 = 39;
+pub const ORTHOLAN_REASON_NULL: i32 = 40;
+pub const ORTHOLAN_REASON_DUPLICATE_EXTENSION: i32 = 120;
+pub const ORTHOLAN_READ_DER: i32 = 0;
+pub const ORTHOLAN_READ_LENIENT: i32 = 1;
+pub const ORTHOLAN_READ_STRUCTURE: i32 = 2;
+pub const ORTHOLAN_REASON_PEM_END: i32 = 121;
+pub const ORTHOLAN_REASON_PEM_LABEL: i32 = 122;
+pub const ORTHOLAN_REASON_BASE64: i32 = 123;
+pub const ORTHOLAN_CERTIFICATE: i32 = 1;
+pub const ORTHOLAN_CERTIFICATE_REQUEST: i32 = 2;
+pub const ORTHOLAN_REVOCATION_LIST: i32 = 3;
+pub const ORTHOLAN_REASON_EXCLUDED: i32 = 300;
+pub const ORTHOLAN_REASON_NOT_PERMITTED: i32 = 301;
+pub const ORTHOLAN_REASON_UNDEFINED_FORM: i32 = 302;
+pub const ORTHOLAN_REASON_SUBTREE_DISTANCE: i32 = 303;
+pub const ORTHOLAN_REASON_SUBTREE_MASK: i32 = 304;
+pub const ORTHOLAN_REASON_SUBTREE_EMPTY: i32 = 305;
+pub const ORTHOLAN_REASON_URI_WITHOUT_HOST: i32 = 306;
+pub const ORTHOLAN_REASON_MAILBOX_QUOTED: i32 = 307;
+pub const ORTHOLAN_REASON_MAILBOX_CASE: i32 = 308;
+pub const ORTHOLAN_REASON_MAILBOX_AT_ADDRESS: i32 = 309;
+pub const ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII: i32 = 310;
+pub const ORTHOLAN_REASON_DIRECTORY_UNTOLD: i32 = 311;
+pub const ORTHOLAN_REASON_BUDGET: i32 = 312;
+pub const ORTHOLAN_REASON_UNREADABLE_CERTIFICATE: i32 = 313;
+pub const ORTHOLAN_NAME_NONE: i32 = 0;
+pub const ORTHOLAN_NAME_SUBJECT: i32 = 1;
+pub const ORTHOLAN_NAME_EMAIL: i32 = 2;
+pub const ORTHOLAN_NAME_ALTERNATIVE: i32 = 3;
+pub const ORTHOLAN_NAME_LIST: i32 = 4;
+pub const ORTHOLAN_NAME_CONSTRAINTS: i32 = 5;
+pub const ORTHOLAN_REASON_TEXT_UTF8: i32 = 80;
+pub const ORTHOLAN_REASON_TEXT_NO_TYPE: i32 = 81;
+pub const ORTHOLAN_REASON_TEXT_NO_EQUALS: i32 = 82;
+pub const ORTHOLAN_REASON_TEXT_TYPE: i32 = 83;
+pub const ORTHOLAN_REASON_TEXT_UNKNOWN_TYPE: i32 = 84;
+pub const ORTHOLAN_REASON_TEXT_OID: i32 = 85;
+pub const ORTHOLAN_REASON_TEXT_PAIR: i32 = 86;
+pub const ORTHOLAN_REASON_TEXT_UNESCAPED: i32 = 87;
+pub const ORTHOLAN_REASON_TEXT_HEX: i32 = 88;
+pub const ORTHOLAN_REASON_TEXT_ELEMENT: i32 = 89;
+pub const ORTHOLAN_REASON_TEXT_VALUE_UTF8: i32 = 90;
+pub const ORTHOLAN_REASON_TEXT_QUOTE: i32 = 91;
+pub const ORTHOLAN_REASON_TEXT_BEHIND_QUOTE: i32 = 92;
+pub const ORTHOLAN_REASON_TEXT_ALPHABET: i32 = 93;
+pub const ORTHOLAN_REASON_TEXT_NO_STRING: i32 = 94;
+pub const ORTHOLAN_REASON_TYPE_NAME: i32 = 95;
+pub const ORTHOLAN_RDNS_REVERSED: i32 = 0;
+pub const ORTHOLAN_RDNS_AS_ENCODED: i32 = 1;
+pub const ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8: i32 = 0;
+pub const ORTHOLAN_STRINGS_UTF8: i32 = 1;
+pub const ORTHOLAN_REASON_HOST_EMPTY: i32 = 140;
+pub const ORTHOLAN_REASON_HOST_EMPTY_LABEL: i32 = 141;
+pub const ORTHOLAN_REASON_HOST_LONG_LABEL: i32 = 142;
+pub const ORTHOLAN_REASON_HOST_LONG: i32 = 143;
+pub const ORTHOLAN_REASON_HOST_CHARACTER: i32 = 144;
+pub const ORTHOLAN_REASON_HOST_UNDERSCORE: i32 = 145;
+pub const ORTHOLAN_REASON_HOST_HYPHEN: i32 = 146;
+pub const ORTHOLAN_REASON_HOST_NUMERIC: i32 = 147;
+pub const ORTHOLAN_REASON_HOST_UNICODE: i32 = 148;
+pub const ORTHOLAN_REASON_HOST_TRAILING_DOT: i32 = 149;
+pub const ORTHOLAN_REASON_HOST_WILDCARD: i32 = 150;
+pub const ORTHOLAN_REASON_MAILBOX_AT: i32 = 151;
+pub const ORTHOLAN_REASON_MAILBOX_LOCAL: i32 = 152;
+pub const ORTHOLAN_REASON_MAILBOX_LITERAL: i32 = 153;
+pub const ORTHOLAN_REASON_URI_SCHEME: i32 = 154;
+pub const ORTHOLAN_REASON_URI_CHARACTER: i32 = 155;
+pub const ORTHOLAN_REASON_URI_LITERAL: i32 = 156;
+pub const ORTHOLAN_REASON_URI_PORT: i32 = 157;
+pub const ORTHOLAN_REASON_SERVICE: i32 = 158;
+pub const ORTHOLAN_REASON_OTHER_NAME: i32 = 159;
+pub const ORTHOLAN_REASON_ADDRESS_TEXT: i32 = 160;
+pub const ORTHOLAN_REASON_ADDRESS_RANGE: i32 = 161;
+pub const ORTHOLAN_REASON_NAME_KIND: i32 = 162;
+pub const ORTHOLAN_REASON_NAME_ESCAPE: i32 = 163;
+pub const ORTHOLAN_REASON_NAME_VALUE: i32 = 164;
+pub const ORTHOLAN_REASON_GENERAL_NAME: i32 = 170;
+pub const ORTHOLAN_REASON_NAME_CHARACTER: i32 = 171;
+pub const ORTHOLAN_REASON_ADDRESS_SIZE: i32 = 172;
+pub const ORTHOLAN_OTHER_UNKNOWN: i32 = 0;
+pub const ORTHOLAN_OTHER_UPN: i32 = 1;
+pub const ORTHOLAN_OTHER_SERVICE: i32 = 2;
+pub const ORTHOLAN_OTHER_UTF8_MAILBOX: i32 = 3;
+pub const ORTHOLAN_OTHER_KERBEROS: i32 = 4;
+pub const ORTHOLAN_OTHER_XMPP: i32 = 5;
+pub const ORTHOLAN_OTHER_PERMANENT_ID: i32 = 6;
+pub const ORTHOLAN_OTHER_HARDWARE_MODULE: i32 = 7;
+pub const ORTHOLAN_OTHER_GUID: i32 = 8;
+pub const ORTHOLAN_NAME_OTHER: i32 = 0;
+pub const ORTHOLAN_NAME_MAIL: i32 = 1;
+pub const ORTHOLAN_NAME_DNS: i32 = 2;
+pub const ORTHOLAN_NAME_X400: i32 = 3;
+pub const ORTHOLAN_NAME_DIRECTORY: i32 = 4;
+pub const ORTHOLAN_NAME_EDI_PARTY: i32 = 5;
+pub const ORTHOLAN_NAME_URI: i32 = 6;
+pub const ORTHOLAN_NAME_ADDRESS: i32 = 7;
+pub const ORTHOLAN_NAME_REGISTERED_ID: i32 = 8;
+pub const ORTHOLAN_HOST_UNDERSCORES: i32 = 1;
+pub const ORTHOLAN_HOST_TRAILING_DOT: i32 = 2;
+pub const ORTHOLAN_HOST_EDGE_HYPHENS: i32 = 4;
+pub const ORTHOLAN_HOST_WILDCARD: i32 = 8;
+pub const ORTHOLAN_ALTERNATIVE_NAMES_VALUE: i32 = 0;
+pub const ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL: i32 = 1;
+pub const ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION: i32 = 2;
+pub const ORTHOLAN_REASON_NO_MATCH: i32 = 200;
+pub const ORTHOLAN_REASON_NO_ALTERNATIVE_NAMES: i32 = 201;
+pub const ORTHOLAN_REASON_NO_CERTIFICATE: i32 = 202;
+pub const ORTHOLAN_REASON_OTHER_KIND: i32 = 203;
+pub const ORTHOLAN_REASON_OTHER_HOST: i32 = 204;
+pub const ORTHOLAN_REASON_WILDCARD_LABELS: i32 = 205;
+pub const ORTHOLAN_REASON_OTHER_ADDRESS: i32 = 206;
+pub const ORTHOLAN_REASON_OTHER_FAMILY: i32 = 207;
+pub const ORTHOLAN_REASON_OTHER_LOCAL_PART: i32 = 208;
+pub const ORTHOLAN_REASON_OTHER_SCHEME: i32 = 209;
+pub const ORTHOLAN_REASON_OTHER_SERVICE_NAME: i32 = 210;
+pub const ORTHOLAN_REASON_HOST_IS_ADDRESS: i32 = 211;
+pub const ORTHOLAN_REASON_URI_HOST: i32 = 212;
+pub const ORTHOLAN_REASON_ASCII_LOCAL_PART: i32 = 213;
+pub const ORTHOLAN_REFERENCE_HOST: i32 = 1;
+pub const ORTHOLAN_REFERENCE_ADDRESS: i32 = 2;
+pub const ORTHOLAN_REFERENCE_MAILBOX: i32 = 3;
+pub const ORTHOLAN_REFERENCE_URI: i32 = 4;
+pub const ORTHOLAN_REFERENCE_SERVICE: i32 = 5;
+pub const ORTHOLAN_IDENTIFY_NO_UNDERSCORE: i32 = 1;
+pub const ORTHOLAN_MATCH_RFC5280: i32 = 0;
+pub const ORTHOLAN_MATCH_ASCII_CASE: i32 = 1;
+pub const ORTHOLAN_MATCH_OCTETS: i32 = 2;
+pub const ORTHOLAN_MATCH_ANY_ORDER: i32 = 256;
+pub const ORTHOLAN_REASON_RDN_COUNT: i32 = 180;
+pub const ORTHOLAN_REASON_RDN_SIZE: i32 = 181;
+pub const ORTHOLAN_REASON_ATTRIBUTE_TYPE: i32 = 182;
+pub const ORTHOLAN_REASON_VALUE: i32 = 183;
+pub const ORTHOLAN_REASON_RDN: i32 = 184;
+pub const ORTHOLAN_REASON_VALUE_TYPE: i32 = 185;
+pub const ORTHOLAN_REASON_VALUE_TEXT: i32 = 186;
+pub const ORTHOLAN_REASON_VALUE_UNDEFINED: i32 = 187;
+pub const ORTHOLAN_REASON_VALUE_TELETEX: i32 = 188;
+pub const ORTHOLAN_MET_END: u32 = 4294967295;
+pub const ORTHOLAN_NO_PLACE: usize = usize::MAX;
+pub const ORTHOLAN_DEFAULT_BUDGET: u64 = 16777216;
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_octets {
+    pub data: *const u8,
+    pub size: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_text {
+    pub data: *const c_char,
+    pub size: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_refusal {
+    pub reason: ortholan_reason,
+    pub met: u32,
+    pub expected: u32,
+    pub offset: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_certificate_view {
+    pub kind: i32,
+    pub der: ortholan_octets,
+    pub subject: ortholan_octets,
+    pub issuer: ortholan_octets,
+    pub serial: ortholan_octets,
+    pub not_before: ortholan_octets,
+    pub not_after: ortholan_octets,
+    pub extensions: ortholan_octets,
+    pub extension_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_extension_view {
+    pub oid: ortholan_octets,
+    pub value: ortholan_octets,
+    pub bytes: ortholan_octets,
+    pub critical: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_pem_block {
+    pub label: ortholan_text,
+    pub base64: ortholan_text,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_finding {
+    pub reason: ortholan_reason,
+    pub verdict: ortholan_verdict,
+    pub certificate: usize,
+    pub authority: usize,
+    pub place: i32,
+    pub name: ortholan_octets,
+    pub subtree: ortholan_octets,
+    pub subtree_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_permit_options {
+    pub budget: u64,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_name_view {
+    pub der: ortholan_octets,
+    pub rdn_count: usize,
+    pub attribute_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_attribute_view {
+    pub r#type: ortholan_octets,
+    pub value: ortholan_octets,
+    pub content: ortholan_octets,
+    pub rdn: usize,
+    pub identifier: u32,
+    pub begins_rdn: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_name_cursor {
+    pub index: usize,
+    pub offset: usize,
+    pub rdn: usize,
+    pub rdn_end: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_type_name {
+    pub name: ortholan_text,
+    pub oid: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_rfc4514_options {
+    pub order: i32,
+    pub strings: i32,
+    pub long_names: i32,
+    pub exact: i32,
+    pub names: *const ortholan_type_name,
+    pub name_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_text_error {
+    pub reason: ortholan_reason,
+    pub offset: usize,
+    pub size: usize,
+    pub character: usize,
+    pub expected: *const c_char,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_general_name_view {
+    pub kind: i32,
+    pub other: i32,
+    pub bytes: ortholan_octets,
+    pub content: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_general_names_view {
+    pub der: ortholan_octets,
+    pub names: ortholan_octets,
+    pub count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_mailbox {
+    pub local: ortholan_text,
+    pub host: ortholan_text,
+    pub address: [u8; 16],
+    pub address_size: usize,
+    pub has_ascii_local: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_uri {
+    pub scheme: ortholan_text,
+    pub userinfo: ortholan_text,
+    pub host: ortholan_text,
+    pub port: ortholan_text,
+    pub rest: ortholan_text,
+    pub address: [u8; 16],
+    pub address_size: usize,
+    pub has_authority: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_other_name {
+    pub kind: i32,
+    pub identifier: u32,
+    pub r#type: ortholan_octets,
+    pub value: ortholan_octets,
+    pub text: ortholan_text,
+    pub oid: ortholan_octets,
+    pub octets: ortholan_octets,
+    pub components: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_edi_party {
+    pub assigner: ortholan_octets,
+    pub party: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_reference {
+    pub kind: i32,
+    pub choices: u32,
+    pub text: ortholan_text,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_identity {
+    pub verdict: ortholan_verdict,
+    pub reason: ortholan_reason,
+    pub name: ortholan_octets,
+    pub index: usize,
+    pub names: ortholan_octets,
+    pub name_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_presented_name {
+    pub bytes: ortholan_octets,
+    pub reason: ortholan_reason,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_match_place {
+    pub rdn: usize,
+    pub attribute: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_match {
+    pub verdict: ortholan_verdict,
+    pub reason: ortholan_reason,
+    pub side: i32,
+    pub first: ortholan_match_place,
+    pub second: ortholan_match_place,
+    pub r#type: ortholan_octets,
+    pub refusal: ortholan_refusal,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_new_attribute {
+    pub oid: ortholan_octets,
+    pub r#type: ortholan_text,
+    pub text: ortholan_text,
+    pub element: ortholan_octets,
+    pub string_type: u32,
+    pub joins_rdn: i32,
+}
+
+extern "C" {
+    pub fn ortholan_refusal_sentence(
+        refusal: *const ortholan_refusal,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_reason_sentence(
+        reason: ortholan_reason,
+    ) -> *const c_char;
+    pub fn ortholan_oid_to_text(
+        oid: ortholan_octets,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_oid_from_text(
+        text: ortholan_text,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_certificate_view_read(
+        der: ortholan_octets,
+        mode: i32,
+        certificate: *mut ortholan_certificate_view,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_certificate_view_next_extension(
+        certificate: *const ortholan_certificate_view,
+        offset: *mut usize,
+        extension: *mut ortholan_extension_view,
+    ) -> ortholan_reason;
+    pub fn ortholan_certificate_view_extension(
+        certificate: *const ortholan_certificate_view,
+        oid: ortholan_octets,
+        extension: *mut ortholan_extension_view,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extensions_view_read(
+        der: ortholan_octets,
+        mode: i32,
+        extensions: *mut ortholan_certificate_view,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extensions_write(
+        extensions: *const ortholan_extension_view,
+        count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_time_to_text(
+        time: ortholan_octets,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_pem_next(
+        text: ortholan_text,
+        offset: *mut usize,
+        block: *mut ortholan_pem_block,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_pem_octets(
+        block: *const ortholan_pem_block,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_permits(
+        chain: *const ortholan_octets,
+        chain_size: usize,
+        options: *const ortholan_permit_options,
+        verdict: *mut ortholan_verdict,
+        findings: *mut ortholan_finding,
+        room: usize,
+        count: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_permits_names(
+        constraints: ortholan_octets,
+        subject: ortholan_octets,
+        alternative_names: ortholan_octets,
+        options: *const ortholan_permit_options,
+        verdict: *mut ortholan_verdict,
+        findings: *mut ortholan_finding,
+        room: usize,
+        count: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_finding_sentence(
+        finding: *const ortholan_finding,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_view_read(
+        der: ortholan_octets,
+        mode: i32,
+        name: *mut ortholan_name_view,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_view_attribute(
+        name: *const ortholan_name_view,
+        index: usize,
+        cursor: *mut ortholan_name_cursor,
+        attribute: *mut ortholan_attribute_view,
+    ) -> ortholan_reason;
+    pub fn ortholan_attribute_view_text(
+        attribute: *const ortholan_attribute_view,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_rfc4514_write(
+        name: *const ortholan_name_view,
+        options: *const ortholan_rfc4514_options,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_rfc4514_read(
+        text: ortholan_text,
+        options: *const ortholan_rfc4514_options,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_rfc4514_explain(
+        text: ortholan_text,
+        refusal: *const ortholan_refusal,
+        error: *mut ortholan_text_error,
+    ) -> ortholan_reason;
+    pub fn ortholan_rfc4514_sentence(
+        text: ortholan_text,
+        refusal: *const ortholan_refusal,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_general_names_view_read(
+        der: ortholan_octets,
+        mode: i32,
+        names: *mut ortholan_general_names_view,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_general_names_view_next(
+        names: *const ortholan_general_names_view,
+        offset: *mut usize,
+        name: *mut ortholan_general_name_view,
+    ) -> ortholan_reason;
+    pub fn ortholan_general_name_view_read(
+        der: ortholan_octets,
+        mode: i32,
+        name: *mut ortholan_general_name_view,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_mailbox_read(
+        text: ortholan_text,
+        has_utf8: i32,
+        mailbox: *mut ortholan_mailbox,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_uri_read(
+        text: ortholan_text,
+        uri: *mut ortholan_uri,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_other_name_read(
+        name: *const ortholan_general_name_view,
+        other: *mut ortholan_other_name,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_edi_party_read(
+        name: *const ortholan_general_name_view,
+        party: *mut ortholan_edi_party,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_host_check(
+        host: ortholan_text,
+        choices: u32,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_to_text(
+        address: ortholan_octets,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_from_text(
+        text: ortholan_text,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_general_name_to_text(
+        name: ortholan_octets,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_general_name_from_text(
+        text: ortholan_text,
+        allows_range: i32,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_alternative_names_from_text(
+        texts: *const ortholan_text,
+        count: usize,
+        form: i32,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        wrong: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_identify(
+        certificate: ortholan_octets,
+        reference: *const ortholan_reference,
+        identity: *mut ortholan_identity,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_identify_by_names(
+        names: ortholan_octets,
+        reference: *const ortholan_reference,
+        identity: *mut ortholan_identity,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_identity_explain(
+        identity: *const ortholan_identity,
+        reference: *const ortholan_reference,
+        offset: *mut usize,
+        presented: *mut ortholan_presented_name,
+    ) -> ortholan_reason;
+    pub fn ortholan_match_names(
+        first: ortholan_octets,
+        second: ortholan_octets,
+        rule: i32,
+        r#match: *mut ortholan_match,
+    ) -> ortholan_verdict;
+    pub fn ortholan_name_within(
+        subtree: ortholan_octets,
+        name: ortholan_octets,
+        rule: i32,
+        r#match: *mut ortholan_match,
+    ) -> ortholan_verdict;
+    pub fn ortholan_match_sentence(
+        r#match: *const ortholan_match,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_match_key(
+        name: ortholan_octets,
+        rule: i32,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_match_hash(
+        key: ortholan_octets,
+    ) -> u64;
+    pub fn ortholan_prepare_text(
+        text: ortholan_text,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_build(
+        attributes: *const ortholan_new_attribute,
+        count: usize,
+        options: *const ortholan_rfc4514_options,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_view_replace(
+        name: *const ortholan_name_view,
+        index: usize,
+        attribute: *const ortholan_new_attribute,
+        options: *const ortholan_rfc4514_options,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_view_remove(
+        name: *const ortholan_name_view,
+        index: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_view_insert(
+        name: *const ortholan_name_view,
+        rdn: usize,
+        attribute: *const ortholan_new_attribute,
+        options: *const ortholan_rfc4514_options,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+}

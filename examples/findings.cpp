@@ -1,0 +1,91 @@
+#include "examples/findings.h"
+
+#include <ortholan/strict/extensions.h>
+
+#include <list>
+#include <ortholan/strict.hpp>
+
+#include "examples/colour.h"
+#include "examples/der.h"
+#include "examples/document.h"
+#include "examples/failure.h"
+#include "examples/json.h"
+#include "examples/show_json.h"
+#include "examples/show_text.h"
+#include "examples/text.h"
+
+namespace Example {
+namespace {
+
+// "DNS:a_b": empty for a part that is no general name.
+std::string TextOf(std::string_view part) {
+  constexpr unsigned kContextClass = 0x80;
+  const bool isTagged =
+      !part.empty() && (static_cast<unsigned char>(part[0]) & 0xC0) == kContextClass;
+  return isTagged ? ortholan::GeneralNameText(part) : std::string();
+}
+
+Finding FindingOf(const ortholan::Fault& fault) {
+  Finding finding = {fault.rule, fault.section,    fault.sentence,          {},
+                     {},         View(fault.part), TextOf(View(fault.part))};
+  if (fault.refusal.reason != ORTHOLAN_REASON_NONE) {
+    finding.what += ": " + ortholan::Refusal(fault.refusal).Sentence();
+  }
+  if (fault.extension.size == 0) return finding;
+  finding.oid = ortholan::OidToText(fault.extension).value();
+  ortholan_extension_type type;
+  const bool isKnown = ortholan_extension_type_of(fault.extension, &type) == ORTHOLAN_REASON_NONE;
+  finding.title = isKnown ? type.title : finding.oid;
+  return finding;
+}
+
+std::string FindingJson(const Finding& finding) {
+  JsonObject object;
+  object.AddText("rule", finding.rule).AddText("section", finding.section);
+  if (!finding.oid.empty()) object.AddText("oid", finding.oid).AddText("name", finding.title);
+  object.AddText("what", finding.what);
+  if (!finding.text.empty()) object.AddText("text", finding.text);
+  if (!finding.part.empty()) object.AddText("octets", Hex(finding.part));
+  return object.End();
+}
+
+}  // namespace
+
+Findings ReadFindings(std::string_view der) {
+  der = FirstElement(der);
+  Findings findings;
+  const Kind kind = KindOf(der);
+  if (!IsDocument(kind)) RefuseOther(der, Kind::kCertificate);
+  if (IsDocument(kind)) findings.kind = kind;
+  const auto faults = ortholan::Check(der);
+  if (!faults) {
+    Refuse("the fields are not those of " + std::string(KindText(findings.kind)) + ": " +
+           faults.refusal().Sentence());
+  }
+  for (const ortholan::Fault& fault : *faults) findings.list.push_back(FindingOf(fault));
+  return findings;
+}
+
+std::string FindingsText(std::size_t number, const Findings& findings) {
+  std::string text = Paint(Colour::kHeading, DocumentTitle(findings.kind, number));
+  if (findings.list.empty()) return text + ": nothing found\n";
+  text += "\n";
+  for (const Finding& finding : findings.list) {
+    text += "  RFC 5280 " + finding.section + ": ";
+    if (!finding.title.empty()) text += Paint(Colour::kKey, finding.title) + ": ";
+    text += Visible(finding.what);
+    text += finding.text.empty() ? "\n" : ": " + Paint(Colour::kNotable, finding.text) + "\n";
+  }
+  return text;
+}
+
+std::string FindingsJson(const std::string& path, std::size_t number, const Findings& findings) {
+  std::list<std::string> list;
+  for (const Finding& finding : findings.list) list.push_back(FindingJson(finding));
+  return JsonPlace(path, number)
+      .AddText("kind", std::string(KindWord(findings.kind)))
+      .Add("findings", JsonArray(list))
+      .End();
+}
+
+}  // namespace Example

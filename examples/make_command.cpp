@@ -1,0 +1,110 @@
+// make: extensions in DER from a description in JSON.
+
+#include <ortholan/strict/extensions.h>
+
+#include <algorithm>
+#include <ortholan/strict.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "examples/commands.h"
+#include "examples/failure.h"
+#include "examples/input.h"
+#include "examples/nearest.h"
+#include "examples/text.h"
+#include "examples/text_failure.h"
+
+namespace Example {
+namespace {
+
+// What begins as JSON does is the description itself.
+std::string ReadDescription(const std::string& operand) {
+  constexpr std::string_view kStarts = "{[\"";
+  const bool isJson = !operand.empty() && kStarts.find(operand[0]) != std::string_view::npos;
+  return isJson ? operand : ReadOctets(operand);
+}
+
+// The line that the place is in, marked there.
+[[noreturn]] void FailAtPlace(const std::string& json, const ortholan::Refusal& refusal) {
+  const std::size_t place = std::min(refusal.offset, json.size());
+  const auto front = static_cast<std::ptrdiff_t>(place);
+  const auto number = 1 + std::count(json.begin(), json.begin() + front, '\n');
+  const std::size_t before = place == 0 ? std::string::npos : json.rfind('\n', place - 1);
+  const std::size_t start = before == std::string::npos ? 0 : before + 1;
+  std::string_view rest = std::string_view(json).substr(start);
+  const std::string line = Repaired(std::string(TakeLine(rest)));
+  FailAtText(line, {place - start, 1},
+             "line " + std::to_string(number) + ": " + ortholan_reason_sentence(refusal.reason));
+}
+
+[[noreturn]] void RefuseType(const std::string& type) {
+  std::vector<std::string> names;
+  ortholan_extension_type known;
+  while (ortholan_extension_type_at(names.size(), &known) == 0) names.emplace_back(known.name);
+  Refuse("there is no extension " + type + DidYouMean(type, names));
+}
+
+// The octets that `call` writes, which takes room and a refusal.
+template <class Call>
+std::vector<std::uint8_t> Made(const std::string& json, Call call) {
+  std::vector<std::uint8_t> der;
+  ortholan::Refusal refusal;
+  const auto put = [&](std::uint8_t* out, std::size_t room, std::size_t* size) {
+    return call(ortholan::ToText(json), out, room, size, &refusal);
+  };
+  const ortholan_reason reason = ortholan::WithRoom(&der, put);
+  if (reason == ORTHOLAN_REASON_NONE) return der;
+  if (refusal.offset == ORTHOLAN_NO_PLACE) Refuse(refusal.Sentence());
+  FailAtPlace(json, refusal);
+}
+
+std::vector<std::uint8_t> MakeValue(const std::string& type, const std::string& json) {
+  std::uint8_t room[64];
+  std::size_t size = 0;
+  if (ortholan_extension_oid_from_name(ortholan::ToText(type), room, sizeof room, &size) ==
+      ORTHOLAN_REASON_EXTENSION_TYPE) {
+    RefuseType(type);
+  }
+  return Made(json, [&type](ortholan_text text, auto... out) {
+    return ortholan_extension_from_json(ortholan::ToText(type), text, out...);
+  });
+}
+
+int RunMake(const Arguments& arguments) {
+  const auto type = arguments.Value("--value");
+  const std::string json = ReadDescription(arguments.operands[0]);
+  const std::vector<std::uint8_t> der =
+      type ? MakeValue(*type, json)
+           : Made(json, [](auto... rest) { return ortholan_extensions_from_json(rest...); });
+  const Ortholan::IdentObj octets(der.data(), static_cast<Ortholan::DWORD>(der.size()));
+  if (const auto path = arguments.Value("--out")) {
+    WriteOctets(*path, octets);
+  } else {
+    Print(Hex(octets) + "\n");
+  }
+  return 0;
+}
+
+}  // namespace
+
+const Command kMakeCommand = {
+    "make",
+    RunMake,
+    1,
+    1,
+    "JSON",
+    "extensions in DER from their description",
+    "JSON is a file, - for standard input, or the text itself. An object is one extension, an "
+    "array\n"
+    "a list of them, as `show --json` has them: name or oid, critical, value; with --value it is "
+    "the\n"
+    "value of that extension alone.\n",
+    "x509name make --value basicConstraints '{\"cA\":true,\"pathLenConstraint\":0}'\n"
+    "    30060101FF020100\n"
+    "x509name make '{\"name\":\"extKeyUsage\",\"value\":[\"serverAuth\"]}'\n"
+    "x509name make --out extensions.der extensions.json\n",
+    {{"--value", "EXTENSION", "the value of one extension, by name or identifier"},
+     {"--out", "FILE", "write the octets into FILE"}}};
+
+}  // namespace Example

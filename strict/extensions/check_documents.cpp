@@ -1,0 +1,107 @@
+// CheckRules about a document as a whole, and about extensions that are missing.
+#include "strict/extensions/check_looks.h"
+#include "strict/extensions/check_rules.h"
+#include "strict/general_names/general_name_view.h"
+#include "strict/names/name_view.h"
+
+namespace Ortholan::strict::looks {
+namespace {
+
+constexpr OidOctets kAlternativeNames("2.5.29.17");
+constexpr OidOctets kEmailAddress("1.2.840.113549.1.9.1");
+
+constexpr size_t kMaxSerialOctets = 20;
+
+bool IsEmpty(ByteView name) { return !name.empty() && ContentOf(name, kSequence).empty(); }
+
+ByteView EmailOf(ByteView subject) {
+  NameView name;
+  if (!NameView::Read(subject, Leniency::kLenient, &name, nullptr)) return {};
+  for (const AttributeView& attribute : name) {
+    if (SameBytes(attribute.type, kEmailAddress.view())) return attribute.bytes;
+  }
+  return {};
+}
+
+bool HasMailbox(ByteView names) {
+  bool has = false;
+  ForEachElement(ContentOf(names, kSequence), [&has](const Element& name) {
+    has = has || name.identifier == Context(static_cast<uint8_t>(GeneralNameKind::kMail));
+  });
+  return has;
+}
+
+}  // namespace
+
+void Encoding(const CheckCase& at) {
+  const Refusal& refusal = at.document.refusal;
+  if (!refusal || !at.document.is_readable) return;
+  at.Fault(at.document.view.der(), refusal);
+}
+
+// Where there is an empty list, nothing else can be told.
+void EmptyExtensions(const CheckCase& at) {
+  const Refusal& refusal = at.document.refusal;
+  if (refusal.reason != ORTHOLAN_REASON_EMPTY || at.document.is_readable) return;
+  at.Fault({static_cast<const uint8_t*>(refusal.at), 0});
+}
+
+void Version(const CheckCase& at) {
+  if (at.document.view.extensions().size() != 0 && at.document.version != 3) at.Fault();
+}
+
+void ListVersion(const CheckCase& at) {
+  if (at.document.view.extensions().size() != 0 && at.document.version != 2) at.Fault();
+}
+
+void SerialSign(const CheckCase& at) {
+  const ByteView serial = at.document.view.serial();
+  const bool is_zero = serial.size == 1 && serial[0] == 0;
+  if (serial.empty() || is_zero || (serial[0] & 0x80) != 0) at.Fault(serial);
+}
+
+void SerialSize(const CheckCase& at) {
+  const ByteView serial = at.document.view.serial();
+  if (serial.size > kMaxSerialOctets) at.Fault(serial);
+}
+
+void EmptyIssuer(const CheckCase& at) {
+  const ByteView issuer = at.document.view.issuer();
+  if (IsEmpty(issuer)) at.Fault(issuer);
+}
+
+void EmptySubjectOfAuthority(const CheckCase& at) {
+  const ByteView subject = at.document.view.subject();
+  if (at.document.is_authority && IsEmpty(subject)) at.Fault(subject);
+}
+
+void EmptySubjectOfListIssuer(const CheckCase& at) {
+  const ByteView subject = at.document.view.subject();
+  if (at.document.HasUsage(kCrlSign) && IsEmpty(subject)) at.Fault(subject);
+}
+
+void EmptySubjectWithoutNames(const CheckCase& at) {
+  const ByteView subject = at.document.view.subject();
+  if (IsEmpty(subject) && !at.document.Has(kAlternativeNames.view())) at.Fault(subject);
+}
+
+void EmailOutsideNames(const CheckCase& at) {
+  const ByteView email = EmailOf(at.document.view.subject());
+  if (email.empty() || HasMailbox(at.document.Find(kAlternativeNames.view()).value)) return;
+  at.Fault(email);
+}
+
+// Whether a certificate is self-signed takes a key; one that is self-issued may be.
+void MissingAuthorityKeyId(const CheckCase& at) {
+  if (!at.document.IsSelfIssued()) Missing(at);
+}
+
+void MissingInAuthority(const CheckCase& at) {
+  if (at.document.is_authority) Missing(at);
+}
+
+void Missing(const CheckCase& at) {
+  if (!at.document.Has(at.rule.oid.view())) at.Fault();
+}
+
+}  // namespace Ortholan::strict::looks

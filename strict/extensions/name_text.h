@@ -1,0 +1,28 @@
+// Names and strings inside extensions as text, and whether their text alone gives the octets back.
+#ifndef ORTHOLAN_STRICT_EXTENSIONS_NAME_TEXT_H_
+#define ORTHOLAN_STRICT_EXTENSIONS_NAME_TEXT_H_
+
+#include <string>
+#include <string_view>
+
+#include "strict/der/reader.h"
+
+namespace Ortholan::strict {
+
+// The text of a general name whose tag was checked, "DNS:example.org". These throw std::bad_alloc.
+std::string TextOfName(const Element& name);
+// Whether a text is read as this general name.
+bool NameComesBack(std::string_view text, bool hasMask, ByteView bytes);
+
+// The text of the content of an RDN that was read.
+std::string TextOfRdn(ByteView content);
+bool RdnComesBack(std::string_view text, ByteView content);
+// The content of the one RDN that a text is; refuses the place in the text.
+bool RdnOfText(std::string_view text, std::string* content, Refusal* refusal);
+
+// The UTF-8 of a string; false where the octets are no text.
+bool StringText(uint8_t identifier, ByteView content, std::string* text);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_EXTENSIONS_NAME_TEXT_H_

@@ -1,0 +1,160 @@
+#include "strict/extensions/struct_reader.h"
+
+#include <ortholan/strict/extension_values.h>
+
+#include "strict/certificates/time_text.h"
+#include "strict/extensions/moment.h"
+#include "strict/extensions/tls_reader.h"
+
+namespace Ortholan::strict {
+namespace {
+
+ortholan_octets Octets(ByteView view) { return {view.data, view.size}; }
+
+ortholan_integer IntegerOf(ByteView content) {
+  const bool is_negative = (content[0] & 0x80) != 0;
+  if (content.size > 8) return {Octets(content), is_negative ? INT64_MIN : INT64_MAX};
+  uint64_t value = is_negative ? UINT64_MAX : 0;
+  for (const uint8_t octet : content) value = value << 8 | octet;
+  return {Octets(content), static_cast<int64_t>(value)};
+}
+
+ortholan_bits ViewOfBits(ByteView content) {
+  uint32_t flags = 0;
+  for (size_t bit = 0; bit < 32 && bit < (content.size - 1) * 8; ++bit) {
+    flags |= static_cast<uint32_t>(content[1 + bit / 8] >> (7 - bit % 8) & 1) << bit;
+  }
+  return {Octets(content), flags};
+}
+
+ortholan_moment MomentOf(uint8_t identifier, ByteView content) {
+  char text[20];
+  Output out(text, sizeof text);
+  PutTimeText(identifier, content, &out);
+  return {SecondsOf({text, out.size()}), 1};
+}
+
+template <class Value>
+void Store(const Value& value, uint8_t* place) {
+  *static_cast<Value*>(static_cast<void*>(place)) = value;
+}
+
+// Fields go to their places; lists and values of open types are stored whole, and what is inside
+// them is passed.
+class Filler final : public ShapeVisitor {
+ public:
+  explicit Filler(void* out) : base_(static_cast<uint8_t*>(out)), place_(base_) {}
+
+  void BeginFields(const Shape&) override {
+    if (Passes()) return;
+    bases_[depth_++] = base_;
+    base_ = place_;
+  }
+  void EndFields(const Shape&) override {
+    if (passed_ == 0) {
+      base_ = bases_[--depth_];
+    } else {
+      --passed_;
+    }
+  }
+  void BeginList(const Shape&) override {
+    if (Passes()) return;
+    list_ = place_;
+    list_bytes_ = bytes_;
+    passed_ = 1;
+  }
+  void EndList(const Shape& shape, ByteView content, size_t count) override;
+  void BeginField(const Field& field, ByteView bytes) override;
+  void Leaf(const Shape& shape, const Element& element) override;
+
+ private:
+  static constexpr size_t kMostDepth = 4;  // of structures inside each other
+
+  // Whether the part that begins is inside what is stored whole.
+  bool Passes() {
+    if (passed_ == 0 && !is_whole_) return false;
+    is_whole_ = false;
+    ++passed_;
+    return true;
+  }
+
+  uint8_t* base_;   // of the structure whose fields come
+  uint8_t* place_;  // of the value that comes
+  ByteView bytes_;  // its octets
+  uint8_t* list_ = nullptr;
+  ByteView list_bytes_;
+  uint8_t* bases_[kMostDepth] = {};
+  size_t depth_ = 0;
+  size_t passed_ = 0;      // parts that have begun inside what is stored whole
+  bool is_whole_ = false;  // the value that comes was stored whole
+};
+
+void Filler::BeginField(const Field& field, ByteView bytes) {
+  if (passed_ != 0) return;
+  is_whole_ = field.place == kNoMember || field.shape->kind == ShapeKind::kOpen;
+  if (field.place == kNoMember) return;
+  place_ = base_ + field.place;
+  bytes_ = bytes;
+  if (is_whole_) Store(Octets(bytes), place_);
+}
+
+void Filler::EndList(const Shape& shape, ByteView content, size_t count) {
+  if (--passed_ != 0 || list_ == nullptr) return;
+  if (shape.element->kind == ShapeKind::kGeneralName) {
+    Store(ortholan_general_names_view{Octets(list_bytes_), Octets(content), count}, list_);
+  } else {
+    Store(ortholan_list{Octets(content), count}, list_);
+  }
+  list_ = nullptr;
+}
+
+void Filler::Leaf(const Shape& shape, const Element& element) {
+  if (passed_ != 0) return;
+  if (is_whole_) {
+    is_whole_ = false;
+    return;
+  }
+  const ByteView content = element.content;
+  switch (shape.kind) {
+    case ShapeKind::kBoolean:
+      return Store(int32_t{content[0] != 0}, place_);
+    case ShapeKind::kInteger:
+    case ShapeKind::kEnumerated:
+      return Store(IntegerOf(content), place_);
+    case ShapeKind::kBits:
+      return Store(ViewOfBits(content), place_);
+    case ShapeKind::kString: {
+      const uint8_t only = IdentifierOf(shape);
+      const uint8_t identifier = only != 0 ? only : element.identifier;
+      return Store(ortholan_string{Octets(content), identifier}, place_);
+    }
+    case ShapeKind::kUtcTime:
+    case ShapeKind::kTime:
+      return Store(MomentOf(IdentifierOf(shape), content), place_);
+    case ShapeKind::kTlsNumber:
+    case ShapeKind::kTlsTime:
+      return Store(TlsNumber(content), place_);
+    case ShapeKind::kNull:
+      return;
+    case ShapeKind::kGeneralName:
+    case ShapeKind::kSubtreeBase:
+    case ShapeKind::kAny:
+      return Store(Octets(element.bytes), place_);
+    default:
+      return Store(Octets(content), place_);
+  }
+}
+
+}  // namespace
+
+bool ReadStruct(const Shape& shape, ByteView der, Leniency leniency, void* out, Refusal* refusal) {
+  Filler filler(out);
+  return ReadByShape(shape, der, leniency, &filler, refusal);
+}
+
+bool TakeTlsStruct(const Shape& element, ByteView* list, ByteView* bytes, void* out) {
+  Filler filler(out);
+  return ReadTlsElement(element, list, bytes, &filler);
+}
+
+}  // namespace Ortholan::strict
