@@ -3,6 +3,7 @@
 #ifndef ORTHOLAN_STRICT_H_
 #define ORTHOLAN_STRICT_H_
 
+#include <ortholan/strict/attribute_types.h>
 #include <ortholan/strict/base.h>
 #include <ortholan/strict/certificates.h>
 #include <ortholan/strict/check.h>
