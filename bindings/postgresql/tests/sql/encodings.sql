@@ -15,7 +15,12 @@ SELECT key, value, octets FROM x509_name_attributes('\x300F310D300B06035504030C0
 SELECT x509_extensions(:'letters') -> 0 -> 'refusal' AS letters, x509_extensions(:'blank') -> 0 AS blank;
 SELECT x509_alt_names(:'letters', true) IS NULL AS is_null;
 \c ortholan_ascii
+-- Installed by somebody who is no superuser.
+CREATE ROLE ortholan_somebody;
+GRANT CREATE ON DATABASE ortholan_ascii TO ortholan_somebody;
+SET ROLE ortholan_somebody;
 CREATE EXTENSION ortholan;
+RESET ROLE;
 SELECT x509_extensions(:'letters') -> 0 -> 'refusal' AS letters, x509_extensions(:'blank') -> 0 AS blank;
 SELECT convert_to(x509_name_text('\x300F310D300B06035504030C04D090D0BB'), 'SQL_ASCII') AS utf8;
 SELECT x509_name_from_text('CN=' || convert_from('\xD090', 'SQL_ASCII'));
@@ -23,3 +28,4 @@ SELECT x509_name_from_text('CN=' || convert_from('\xD0', 'SQL_ASCII'));
 \c contrib_regression
 DROP DATABASE ortholan_latin1;
 DROP DATABASE ortholan_ascii;
+DROP ROLE ortholan_somebody;
