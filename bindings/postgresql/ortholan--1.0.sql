@@ -132,6 +132,12 @@ CREATE FUNCTION x509_identifies_reason(certificate bytea, reference text, kind t
   AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 50;
 COMMENT ON FUNCTION x509_identifies_reason(bytea, text, text) IS
   'why it is not, NULL where it is';
+CREATE FUNCTION x509_presented_names(
+  certificate bytea, reference text, kind text DEFAULT 'host', malformed_ok boolean DEFAULT false)
+  RETURNS TABLE (name text, reason text)
+  AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 100 ROWS 5;
+COMMENT ON FUNCTION x509_presented_names(bytea, text, text, boolean) IS
+  'the names that a certificate presents, and why each is not the one asked for, NULL where it is';
 CREATE FUNCTION x509_permitted(chain bytea[], malformed_ok boolean DEFAULT false)
   RETURNS boolean
   AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 200;

@@ -32,17 +32,20 @@ static ortholan_reason read_names(const ortholan_certificate_view* certificate, 
   return reason;
 }
 
-static Datum text_of_name(const ortholan_general_name_view* name, bool is_soft) {
-  result_room room = room_for(2 * name->bytes.size);
+Datum general_name_text(ortholan_octets name, bool is_soft) {
+  result_room room = room_for(2 * name.size);
   ortholan_reason reason;
   ortholan_refusal refusal;
   do {
-    reason =
-        ortholan_general_name_to_text(name->bytes, room.data, room.capacity, &room.size, &refusal);
+    reason = ortholan_general_name_to_text(name, room.data, room.capacity, &room.size, &refusal);
   } while (room_grew(&room, reason));
   if (reason == ORTHOLAN_REASON_NONE) return text_in(&room, is_soft);
   refuse(VALUE_CERTIFICATE, &refusal, is_soft);
   return 0;
+}
+
+static Datum text_of_name(const ortholan_general_name_view* name, bool is_soft) {
+  return general_name_text(name->bytes, is_soft);
 }
 
 // A DNS name in lower case; 0 for any other name and for what is no host, wildcards included.

@@ -16,6 +16,8 @@ SELECT reference, kind, x509_identifies(der, reference, kind), x509_identifies_r
 FROM samples, (VALUES ('Example.ORG', 'host'), ('www.example.org', 'host'), ('192.0.2.1', 'ip'),
   ('user@example.org', 'email'), ('http://example.org', 'uri'), ('_ldap.example.org', 'srv'))
   AS asked (reference, kind) WHERE n = 1;
+SELECT p.* FROM samples, x509_presented_names(der, '192.0.2.1', 'ip') p WHERE n = 1;
+SELECT x509_identifies_reason(der, '192.0.2.1') FROM samples WHERE n = 1;
 SELECT x509_identifies(der, 'example.org') FROM samples WHERE n IN (2, 6) ORDER BY n;
 SELECT x509_identifies(der, 'example..org') FROM samples WHERE n = 1;
 SELECT x509_identifies(der, 'example.org', 'domain') FROM samples WHERE n = 1;
