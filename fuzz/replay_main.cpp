@@ -43,6 +43,7 @@ constexpr TargetRow kTargets[] = {
     {"rfc4514", FuzzRfc4514, "names.txt"},
     {"name_constraints", FuzzNameConstraints, "general-names.txt"},
     {"identity", FuzzIdentity},
+    {"extension_value", FuzzExtensionValue, "extensions.txt"},
 };
 
 // What is longer is not cut, or not spoiled: every octet is a run of all laws.

@@ -20,6 +20,7 @@ void FuzzCInterface(const uint8_t* data, size_t size);
 void FuzzRfc4514(const uint8_t* data, size_t size);
 void FuzzNameConstraints(const uint8_t* data, size_t size);
 void FuzzIdentity(const uint8_t* data, size_t size);
+void FuzzExtensionValue(const uint8_t* data, size_t size);
 
 }  // namespace Ortholan::fuzzing
 

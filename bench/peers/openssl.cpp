@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "bench/chains.h"
+#include "bench/extensions.h"
 #include "bench/hosts.h"
 #include "bench/measure.h"
 #include "bench/names.h"
@@ -216,6 +217,31 @@ bool IsFor(const std::string& der, const std::string& host) {
                          nullptr) == 1;
 }
 
+// Reads a value into OpenSSL's structure and frees it.
+bool ReadValue(X509_EXTENSION* extension) {
+  const X509V3_EXT_METHOD* const method = X509V3_EXT_get(extension);
+  void* const value = X509V3_EXT_d2i(extension);
+  if (method == nullptr || value == nullptr) return false;
+  if (method->it != nullptr) {
+    ASN1_item_free(static_cast<ASN1_VALUE*>(value), ASN1_ITEM_ptr(method->it));
+  } else {
+    method->ext_free(value);
+  }
+  return true;
+}
+
+size_t ReadAll(const std::string& list) {
+  const unsigned char* at = Octets(list);
+  const std::shared_ptr<X509_EXTENSIONS> extensions(
+      d2i_X509_EXTENSIONS(nullptr, &at, static_cast<long>(list.size())),
+      [](X509_EXTENSIONS* all) { sk_X509_EXTENSION_pop_free(all, X509_EXTENSION_free); });
+  size_t count = 0;
+  for (int i = 0; i < sk_X509_EXTENSION_num(extensions.get()); ++i) {
+    if (ReadValue(sk_X509_EXTENSION_value(extensions.get(), i))) ++count;
+  }
+  return count;
+}
+
 void AddCases() {
   // The smallest string type that holds a value, as the other libraries choose, not always UTF-8.
   ASN1_STRING_set_default_mask_asc("default");
@@ -226,6 +252,7 @@ void AddCases() {
   AddExtension();
   AddConstraints();
   AddHosts(kSubject, IsFor);
+  AddExtensions(kSubject, ReadAll);
 }
 
 const Registration registration(kSubject, OpenSSL_version(OPENSSL_VERSION_STRING), AddCases);

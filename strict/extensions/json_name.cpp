@@ -7,9 +7,6 @@
 #include "strict/extensions/leaf_text.h"
 #include "strict/extensions/name_text.h"
 #include "strict/extensions/shape_reader.h"
-#include "strict/general_names/escaped_text.h"
-#include "strict/general_names/general_name_parser.h"
-#include "strict/general_names/name_kinds.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {
@@ -31,46 +28,11 @@ bool TakeParts(const JsonValue& json, const JsonValue** parts, Refusal* refusal)
 
 ByteView Bytes(const std::string& text) { return AsBytes(text.data(), text.size()); }
 
-std::string ElementOf(uint8_t identifier, std::string_view content) {
-  BackwardOutput measure(nullptr, 0);
-  measure.PutHeader(identifier, content.size());
-  std::string element(measure.size(), '\0');
-  BackwardOutput header(element.data(), element.size());
-  header.PutHeader(identifier, content.size());
-  return element.append(content);
-}
-
-// A base of a subtree may be less than a name: a host of mailboxes, ".example.org".
-bool BaseOf(std::string_view text, std::string* element) {
-  for (const GeneralNameKind kind :
-       {GeneralNameKind::kMail, GeneralNameKind::kDns, GeneralNameKind::kUri}) {
-    const std::string_view prefix = PrefixOf(kind);
-    UnescapedText characters;
-    if (text.substr(0, prefix.size()) != prefix ||
-        !characters.Read(text.substr(prefix.size()), nullptr)) {
-      continue;
-    }
-    *element = ElementOf(Context(static_cast<uint8_t>(kind)), characters.text());
-    return true;
-  }
-  return false;
-}
-
 bool NameOfText(const Shape& shape, const std::string& text, const JsonValue& json,
                 std::string* element, Refusal* refusal) {
-  const bool is_base = shape.kind == ShapeKind::kSubtreeBase;
-  if (!is_base || !BaseOf(text, element)) {
-    BackwardOutput measure(nullptr, 0);
-    Refusal found;
-    if (!PutGeneralNameOfText(text, is_base, &measure, &found)) {
-      return RefuseJson(found.reason, json, refusal);
-    }
-    element->assign(measure.size(), '\0');
-    BackwardOutput out(element->data(), element->size());
-    PutGeneralNameOfText(text, is_base, &out, nullptr);
-  }
   Refusal found;
-  return CheckByShape(shape, Bytes(*element), Leniency::kDer, &found) ||
+  return (ElementOfName(text, shape.kind == ShapeKind::kSubtreeBase, element, &found) &&
+          CheckByShape(shape, Bytes(*element), Leniency::kDer, &found)) ||
          RefuseJson(found.reason, json, refusal);
 }
 

@@ -4,12 +4,42 @@
 
 #include "strict/der/string_value.h"
 #include "strict/extensions/leaf_text.h"
+#include "strict/general_names/escaped_text.h"
 #include "strict/general_names/general_name_parser.h"
 #include "strict/general_names/general_name_text.h"
+#include "strict/general_names/name_kinds.h"
 #include "strict/names/name_to_text.h"
 #include "strict/names/text_to_name.h"
 
 namespace Ortholan::strict {
+namespace {
+
+// A base of a subtree may be less than a name: a host of mailboxes, ".example.org".
+bool BaseOf(std::string_view text, std::string* element) {
+  for (const GeneralNameKind kind :
+       {GeneralNameKind::kMail, GeneralNameKind::kDns, GeneralNameKind::kUri}) {
+    const std::string_view prefix = PrefixOf(kind);
+    UnescapedText characters;
+    if (text.substr(0, prefix.size()) != prefix ||
+        !characters.Read(text.substr(prefix.size()), nullptr)) {
+      continue;
+    }
+    *element = ElementOf(Context(static_cast<uint8_t>(kind)), characters.text());
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string ElementOf(uint8_t identifier, std::string_view content) {
+  BackwardOutput measure(nullptr, 0);
+  measure.PutHeader(identifier, content.size());
+  std::string element(measure.size(), '\0');
+  BackwardOutput header(element.data(), element.size());
+  header.PutHeader(identifier, content.size());
+  return element.append(content);
+}
 
 std::string TextOfName(const Element& name) {
   GeneralNameView view;
@@ -17,11 +47,18 @@ std::string TextOfName(const Element& name) {
   return TextOf([&view](Output* out) { PutTextOfGeneralName(view, out); });
 }
 
-bool NameComesBack(std::string_view text, bool hasMask, ByteView bytes) {
-  std::string again(bytes.size, '\0');
-  BackwardOutput out(again.data(), again.size());
-  return PutGeneralNameOfText(text, hasMask, &out, nullptr) && out.fits() &&
-         SameBytes({out.front(), out.size()}, bytes);
+bool ElementOfName(std::string_view text, bool isBase, std::string* element, Refusal* refusal) {
+  if (isBase && BaseOf(text, element)) return true;
+  BackwardOutput measure(nullptr, 0);
+  if (!PutGeneralNameOfText(text, isBase, &measure, refusal)) return false;
+  element->assign(measure.size(), '\0');
+  BackwardOutput out(element->data(), element->size());
+  return PutGeneralNameOfText(text, isBase, &out, refusal);
+}
+
+bool NameComesBack(std::string_view text, bool isBase, ByteView bytes) {
+  std::string again;
+  return ElementOfName(text, isBase, &again, nullptr) && again == AsText(bytes);
 }
 
 std::string TextOfRdn(ByteView content) {
