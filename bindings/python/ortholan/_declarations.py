@@ -59,6 +59,8 @@ typedef struct ortholan_finding { ortholan_reason reason; ortholan_verdict verdi
     size_t certificate; size_t authority; int32_t place; ortholan_octets name;
     ortholan_octets subtree; size_t subtree_count; } ortholan_finding;
 typedef struct ortholan_permit_options { uint64_t budget; } ortholan_permit_options;
+typedef struct ortholan_fault { const char* rule; const char* section; const char* sentence;
+    ortholan_octets extension; ortholan_octets part; ortholan_refusal refusal; } ortholan_fault;
 typedef struct ortholan_column { const uint8_t* data; size_t size; const int64_t* offsets;
     size_t count; } ortholan_column;
 typedef struct ortholan_column_room { uint8_t* data; size_t size; int64_t* offsets;
@@ -167,6 +169,8 @@ ortholan_reason ortholan_extension_text(ortholan_octets oid, ortholan_octets val
     size_t indent, char* out, size_t room, size_t* size, ortholan_refusal* refusal);
 ortholan_reason ortholan_extension_from_json(ortholan_text type, ortholan_text json, uint8_t* out,
     size_t room, size_t* size, ortholan_refusal* refusal);
+ortholan_reason ortholan_check(ortholan_octets der, ortholan_fault* faults, size_t room,
+    size_t* count, ortholan_refusal* refusal);
 ortholan_reason ortholan_column_rfc4514_write(const ortholan_column* names, int32_t mode,
     const ortholan_rfc4514_options* options, const ortholan_column_room* room, size_t* done);
 ortholan_reason ortholan_column_rfc4514_read(const ortholan_column* texts,
