@@ -59,7 +59,7 @@ std::string ReadOne(const std::string& operand) {
   return text;
 }
 
-Ortholan::IdentObj Octets(const ortholan::Name& name) {
+Ortholan::IdentObj DerOf(const ortholan::Name& name) {
   return {name.der().data(), static_cast<Ortholan::DWORD>(name.der().size())};
 }
 
@@ -73,7 +73,7 @@ std::string Decode(const Ortholan::IdentObj& der, const ortholan::Rfc4514& optio
 
 int RunEncodeRfc4514(const Arguments& arguments) {
   const ortholan::Rfc4514 options = EncodeOptions(arguments);
-  const Ortholan::IdentObj der = Octets(Encode(ReadOne(arguments.operands[0]), options));
+  const Ortholan::IdentObj der = DerOf(Encode(ReadOne(arguments.operands[0]), options));
   if (const auto path = arguments.Value("--out")) {
     WriteOctets(*path, der);
   } else {

@@ -19,7 +19,7 @@ ortholan_integer IntegerOf(ByteView content) {
   return {Octets(content), static_cast<int64_t>(value)};
 }
 
-ortholan_bits BitsOf(ByteView content) {
+ortholan_bits ViewOfBits(ByteView content) {
   uint32_t flags = 0;
   for (size_t bit = 0; bit < 32 && bit < (content.size - 1) * 8; ++bit) {
     flags |= static_cast<uint32_t>(content[1 + bit / 8] >> (7 - bit % 8) & 1) << bit;
@@ -122,7 +122,7 @@ void Filler::Leaf(const Shape& shape, const Element& element) {
     case ShapeKind::kEnumerated:
       return Store(IntegerOf(content), place_);
     case ShapeKind::kBits:
-      return Store(BitsOf(content), place_);
+      return Store(ViewOfBits(content), place_);
     case ShapeKind::kString: {
       const uint8_t only = IdentifierOf(shape);
       const uint8_t identifier = only != 0 ? only : element.identifier;
