@@ -97,8 +97,8 @@ class Extension:
     def meaning(self) -> Any:
         """The value in dictionaries, lists, text and numbers, by the names of its ASN.1.
 
-        {"cA": True, "pathLenConstraint": 0}; `docs/extensions.md` has the forms. A value that is
-        not of the extension's structure is refused; {"octets": digits} stands for one not known.
+        {"cA": True, "pathLenConstraint": 0}; <ortholan/strict/extensions.h> has the forms. A value
+        that is not of the extension's structure is refused; one not known is {"octets": digits}.
         """
         found = functions.extension_json(_content(self.oid), self.value, Reading.DER)
         return json.loads(found)
