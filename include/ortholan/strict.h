@@ -7,6 +7,7 @@
 #include <ortholan/strict/base.h>
 #include <ortholan/strict/certificates.h>
 #include <ortholan/strict/check.h>
+#include <ortholan/strict/columns.h>
 #include <ortholan/strict/constraints.h>
 #include <ortholan/strict/extension_builders.h>
 #include <ortholan/strict/extension_values.h>

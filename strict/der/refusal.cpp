@@ -65,10 +65,10 @@ constexpr Row kReasons[] = {
     ROW(TEXT_BEHIND_QUOTE, "text stands behind the closing quote of a value"),
     ROW(TEXT_ALPHABET, "the attribute's string type does not have this character"),
     ROW(TEXT_NO_STRING, "values of this type are no strings"),
+    ROW(TYPE_NAME, "no text could have this name for a type"),
     ROW(TEXT_LINE,
         "a line of a postal address is empty, or a backslash in it has neither 24 nor 5C behind "
         "it"),
-    ROW(TYPE_NAME, "no text could have this name for a type"),
     ROW(DUPLICATE_EXTENSION, "the same extension stands there twice"),
     ROW(PEM_END, "a PEM block has to end with its own line and holds base64 alone"),
     ROW(PEM_LABEL, "a PEM block ends with another label than it begins with"),
@@ -154,6 +154,14 @@ constexpr Row kReasons[] = {
     ROW(JSON_DIFFERENT, "two members stand for different things"),
 };
 #undef ROW
+
+constexpr bool AreAscending() {
+  for (size_t i = 1; i < std::size(kReasons); ++i) {
+    if (kReasons[i].reason <= kReasons[i - 1].reason) return false;
+  }
+  return true;
+}
+static_assert(AreAscending(), "rows are found by halving");
 
 const Row* Find(ortholan_reason reason) {
   const Row* const row =

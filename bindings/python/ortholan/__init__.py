@@ -23,11 +23,13 @@ from .certificates import (
     CertificateKind,
     Extension,
     PemBlock,
+    extension_identifier,
     load_certificates,
     read_extensions,
     read_pem,
     write_extensions,
 )
+from .checks import Fault, check
 from .constraints import Finding, NamePlace, Permission, permits, permits_names
 from .general_names import (
     GeneralName,
@@ -57,12 +59,13 @@ from .reasons import Answer, Reason, Refusal, Verdict
 
 __all__ = [
     "Answer", "Attribute", "CANNOT_TELL", "Certificate", "CertificateKind", "Extension",
-    "Finding", "GeneralName", "HostChoices", "Identity", "Kind", "Mailbox", "Match", "Mismatch",
-    "NO", "Name", "NamePlace", "OtherKind", "OtherName", "PemBlock", "Permission", "Place",
-    "RDN", "Reading", "Reason", "Refusal", "Rule", "TextOptions", "Uri", "Verdict", "YES",
-    "batch", "check_host", "classic", "identify", "identify_by_names", "load_certificates",
-    "permits", "permits_names", "read_extensions", "read_general_names", "read_pem",
-    "short_name", "type_identifier", "write_extensions", "write_general_names",
+    "Fault", "Finding", "GeneralName", "HostChoices", "Identity", "Kind", "Mailbox", "Match",
+    "Mismatch", "NO", "Name", "NamePlace", "OtherKind", "OtherName", "PemBlock", "Permission",
+    "Place", "RDN", "Reading", "Reason", "Refusal", "Rule", "TextOptions", "Uri", "Verdict",
+    "YES", "batch", "check", "check_host", "classic", "extension_identifier", "identify",
+    "identify_by_names", "load_certificates", "permits", "permits_names", "read_extensions",
+    "read_general_names", "read_pem", "short_name", "type_identifier", "write_extensions",
+    "write_general_names",
 ]
 
 __version__: str = classic.version()

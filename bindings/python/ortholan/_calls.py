@@ -63,7 +63,7 @@ def _called(function: Any, parameters: list[str]) -> Callable[..., Any]:
     for place, parameter in enumerate(parameters):
         if parameter in ("char* out", "uint8_t* out"):
             return _with_room(function, place, parameter == "char* out", has_refusal)
-    if parameters[-1] == "ortholan_match* match":
+    if function.restype is ctypes.c_char_p or parameters[-1] == "ortholan_match* match":
         return function  # type: ignore[no-any-return]
     return _with_refusal(function) if has_refusal else _with_reason(function)
 

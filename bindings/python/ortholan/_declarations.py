@@ -59,6 +59,12 @@ typedef struct ortholan_finding { ortholan_reason reason; ortholan_verdict verdi
     size_t certificate; size_t authority; int32_t place; ortholan_octets name;
     ortholan_octets subtree; size_t subtree_count; } ortholan_finding;
 typedef struct ortholan_permit_options { uint64_t budget; } ortholan_permit_options;
+typedef struct ortholan_fault { const char* rule; const char* section; const char* sentence;
+    ortholan_octets extension; ortholan_octets part; ortholan_refusal refusal; } ortholan_fault;
+typedef struct ortholan_column { const uint8_t* data; size_t size; const int64_t* offsets;
+    size_t count; } ortholan_column;
+typedef struct ortholan_column_room { uint8_t* data; size_t size; int64_t* offsets;
+    ortholan_reason* reasons; } ortholan_column_room;
 typedef struct ortholan_attribute { const char* type; const char* key; const char* value;
     size_t value_size; const uint8_t* der; size_t der_size; } ortholan_attribute;
 """
@@ -154,6 +160,25 @@ ortholan_reason ortholan_permits_names(ortholan_octets constraints, ortholan_oct
     ortholan_verdict* verdict, ortholan_finding* findings, size_t room, size_t* count);
 ortholan_reason ortholan_finding_sentence(const ortholan_finding* finding, char* out, size_t room,
     size_t* size);
+const char* ortholan_extension_name(ortholan_octets oid);
+ortholan_reason ortholan_extension_oid_from_name(ortholan_text name, uint8_t* out, size_t room,
+    size_t* size);
+ortholan_reason ortholan_extension_json(ortholan_octets oid, ortholan_octets value, int32_t mode,
+    char* out, size_t room, size_t* size, ortholan_refusal* refusal);
+ortholan_reason ortholan_extension_text(ortholan_octets oid, ortholan_octets value, int32_t mode,
+    size_t indent, char* out, size_t room, size_t* size, ortholan_refusal* refusal);
+ortholan_reason ortholan_extension_from_json(ortholan_text type, ortholan_text json, uint8_t* out,
+    size_t room, size_t* size, ortholan_refusal* refusal);
+ortholan_reason ortholan_check(ortholan_octets der, ortholan_fault* faults, size_t room,
+    size_t* count, ortholan_refusal* refusal);
+ortholan_reason ortholan_column_rfc4514_write(const ortholan_column* names, int32_t mode,
+    const ortholan_rfc4514_options* options, const ortholan_column_room* room, size_t* done);
+ortholan_reason ortholan_column_rfc4514_read(const ortholan_column* texts,
+    const ortholan_rfc4514_options* options, const ortholan_column_room* room, size_t* done);
+ortholan_reason ortholan_column_match_key(const ortholan_column* names, int32_t rule,
+    const ortholan_column_room* room, size_t* done);
+ortholan_reason ortholan_column_general_name_to_text(const ortholan_column* names,
+    const ortholan_column_room* room, size_t* done);
 """
 
 # <ortholan/ortholan_c.h>

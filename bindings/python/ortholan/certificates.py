@@ -4,6 +4,10 @@
     >>> print(certificates[0].subject, *certificates[0].alternative_names)    # doctest: +SKIP
     CN=Gamma UPN:user email:user@example.org DNS:example.org ...
 
+    >>> extension = Extension.of("basicConstraints", {"cA": True}, critical=True)
+    >>> extension.oid, extension.value.hex(), extension.meaning
+    ('2.5.29.19', '30030101ff', {'cA': True})
+
 Keys and signatures are not looked at.
 """
 
@@ -12,6 +16,7 @@ from __future__ import annotations
 import dataclasses
 import datetime
 import enum
+import json
 import os
 import pathlib
 from ctypes import byref
@@ -72,10 +77,50 @@ class Extension:
         functions.extensions_view_read(whole, Reading.STRUCTURE, byref(found))
         return copy(found.extensions)
 
+    @classmethod
+    def of(cls, type: str, meaning: Any, critical: bool = False) -> Extension:
+        """An extension of what it means, as `meaning` has it, by its name or dotted digits.
+
+        What is wrong is refused, at the place in the JSON of `meaning`.
+        """
+        octets, text = type.encode("utf-8"), json.dumps(meaning, separators=(",", ":"))
+        value = functions.extension_from_json(octets, text.encode("utf-8"))
+        return cls(extension_identifier(type), critical, value)
+
+    @property
+    def name(self) -> str:
+        """What its standard calls it, "basicConstraints"; the identifier of one not known."""
+        found = functions.extension_name(_content(self.oid))
+        return str(found.decode("ascii")) if found else self.oid
+
+    @property
+    def meaning(self) -> Any:
+        """The value in dictionaries, lists, text and numbers, by the names of its ASN.1.
+
+        {"cA": True, "pathLenConstraint": 0}; <ortholan/strict/extensions.h> has the forms. A value
+        that is not of the extension's structure is refused; one not known is {"octets": digits}.
+        """
+        found = functions.extension_json(_content(self.oid), self.value, Reading.DER)
+        return json.loads(found)
+
+    @property
+    def text(self) -> str:
+        """The value in plain words, a line for each fact, safe to show."""
+        return str(functions.extension_text(_content(self.oid), self.value, Reading.DER, 0))
+
     @property
     def names(self) -> list[GeneralName]:
         """The value read as general names, as alternative names have them."""
         return read_general_names(self.value)
+
+
+def extension_identifier(type: str) -> str:
+    """The dotted identifier of an extension, "2.5.29.19" of "basicConstraints"."""
+    return oid_text(functions.extension_oid_from_name(type.encode("utf-8")))
+
+
+def _content(oid: str) -> bytes:
+    return bytes(functions.oid_from_text(oid.encode("utf-8")))
 
 
 def _extensions(certificate: Any) -> list[Extension]:
@@ -94,7 +139,7 @@ def read_extensions(der: OctetsLike, reading: Reading = Reading.DER) -> list[Ext
 def write_extensions(extensions: Iterable[Extension]) -> bytes:
     """Such a list in DER, in the order given; at least one, and none of them twice."""
     views = [
-        structures.extension_view(oid=view(functions.oid_from_text(each.oid.encode("utf-8"))),
+        structures.extension_view(oid=view(_content(each.oid)),
                                   value=view(each.value), critical=each.critical)
         for each in extensions
     ]
@@ -173,12 +218,14 @@ class Certificate(Value):
         """All extensions in their order; of a request those that it asks for."""
         return _extensions(self._view())
 
-    def extension(self, oid: str) -> Extension | None:
-        """The one extension of a type, or None; one that stands there twice is refused."""
+    def extension(self, type: str) -> Extension | None:
+        """The one extension of a type, "keyUsage" or dotted digits, or None; one that stands there
+        twice is refused."""
+        oid = extension_identifier(type)
         found = structures.extension_view()
         try:
             functions.certificate_view_extension(
-                byref(self._view()), functions.oid_from_text(oid.encode("utf-8")), byref(found))
+                byref(self._view()), _content(oid), byref(found))
         except Refusal as refusal:
             if refusal.reason == Reason.NOT_FOUND:
                 return None

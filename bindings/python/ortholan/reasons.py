@@ -66,6 +66,7 @@ class Reason(enum.IntEnum):
     TEXT_ALPHABET = 93
     TEXT_NO_STRING = 94
     TYPE_NAME = 95
+    TEXT_LINE = 96
     DUPLICATE_EXTENSION = 120
     PEM_END = 121
     PEM_LABEL = 122
@@ -135,6 +136,18 @@ class Reason(enum.IntEnum):
     DIRECTORY_UNTOLD = 311
     BUDGET = 312
     UNREADABLE_CERTIFICATE = 313
+    EXTENSION_TYPE = 400
+    TLS_SIZE = 401
+    JSON = 402
+    JSON_TWICE = 403
+    JSON_DEPTH = 404
+    JSON_FORM = 405
+    JSON_MEMBER = 406
+    JSON_LACKS = 407
+    JSON_WORD = 408
+    JSON_NUMBER = 409
+    JSON_TEXT = 410
+    JSON_DIFFERENT = 411
 
     @property
     def sentence(self) -> str:

@@ -1,6 +1,7 @@
 """The rows that the other interfaces are asked too."""
 
 import ipaddress
+import json
 
 import ortholan
 from ortholan import Answer, GeneralName, Name, Reading, Reason, Rule, TextOptions, batch
@@ -164,6 +165,35 @@ def test_alternative_names():
         return (made.der.hex().upper(),)
 
     check("strict_alternative_names.tsv", der, "der")
+
+
+def test_values_of_extensions():
+    def told(row):
+        extension = ortholan.Extension(row["oid"], False, octets(row["der"]))
+        meaning = extension.meaning
+        assert meaning == json.loads(row["json"] or "null") and extension.text
+        return ortholan.Extension.of(row["oid"], meaning).value.hex().upper(), "", ""
+
+    def refused(row):
+        try:
+            return told(row)
+        except ortholan.Refusal as refusal:
+            return row["der"], refusal.reason.name, refusal.offset
+
+    check("strict_extensions.tsv", refused, "der", "reason", "offset")
+
+
+def test_what_is_forbidden():
+    def told(row):
+        try:
+            faults = ortholan.check(octets(row["der"]))
+        except ortholan.Refusal:
+            return ("refused",)
+        assert all(fault.section in str(fault) for fault in faults)
+        assert all(fault.part in octets(row["der"]) for fault in faults)
+        return (",".join(fault.rule for fault in faults),)
+
+    check("checks.tsv", told, "faults")
 
 
 def test_parts_of_names():
