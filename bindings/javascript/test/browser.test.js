@@ -70,7 +70,8 @@ test("a certificate, whom it is for, and a chain", () => look({}, async ({ click
   await click("[data-sample=certificate]");
   assert.match(await text("#status"), /^certificate, \d+ octets$/i);
   const facts = seen(await text("#facts"));
-  for (const part of ["CN=www.example.org,O=Bücher & Söhne", "4F1E2D3C", "IP:2001:db8::7"]) {
+  for (const part of ["CN=www.example.org,O=Bücher & Söhne", "4F1E2D3C", "IP:2001:db8::7",
+    "keyUsage2.5.29.15criticaldigitalSignature"]) {
     assert.ok(facts.includes(part), part);
   }
   await click("#asked");

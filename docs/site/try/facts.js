@@ -1,6 +1,5 @@
 // Certificates, names and general names in words.
 import { attempt, copyButton, count, h, hex, hexStart, shown, wrong } from "./dom.js";
-import { nameOfExtension } from "./meaning.js";
 
 const stringTypes = { 0x0c: "UTF8String", 0x12: "NumericString", 0x13: "PrintableString",
   0x14: "TeletexString", 0x16: "IA5String", 0x1a: "VisibleString", 0x1c: "UniversalString",
@@ -84,16 +83,18 @@ function named(name) {
 }
 
 function extension(each) {
-  const name = nameOfExtension(each);
   return h("li", null,
-    h("p", { class: "title" }, h("strong", null, name ?? each.oid),
-      name === undefined ? null : h("span", { class: "quiet" }, each.oid),
+    h("p", { class: "title" }, h("strong", null, each.name ?? each.oid),
+      each.name === null ? null : h("span", { class: "quiet" }, each.oid),
       each.critical ? h("span", { class: "critical" }, "critical") : null),
     attempt(() => meaning(each), wrong));
 }
 
+const mostText = 20_000;
+const start = (text) => (text.length > mostText ? `${text.slice(0, mostText)} …` : text.trimEnd());
+
 function meaning(each) {
-  return h("pre", { class: "meaning" }, each.text ?? hexStart(each.value));
+  return h("pre", { class: "meaning" }, start(each.text));
 }
 
 function certificateSections(certificate) {
