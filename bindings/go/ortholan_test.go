@@ -60,6 +60,14 @@ func TestNamesToText(t *testing.T) {
 	same(t, Name{}.String(), "")
 }
 
+func TestNamesThatAreBuilt(t *testing.T) {
+	_, err := BuildName(TypeAndValue{"C", "RU"}, TypeAndValue{"CN", ""}, TypeAndValue{"FOO", "x"})
+	same(t, refusal(t, err).Item, 2)
+	built, _ := BuildName(TypeAndValue{"DC", "org"}, TypeAndValue{"CN", "А"})
+	read, _ := ParseName("CN=А,DC=org")
+	same(t, built, read)
+}
+
 func TestNamesThatAreRead(t *testing.T) {
 	rows(t, "strict_names.tsv", func(t *testing.T, row row) {
 		reading, _ := strconv.Atoi(row["mode"])

@@ -82,6 +82,13 @@ namespace Ortholan.Tests
         }
 
         [Test]
+        public void NamesThatAreBuilt()
+        {
+            Assert.AreEqual(2, Refusal(() => Name.Build(("C", "RU"), ("CN", ""), ("FOO", "x"))).Item);
+            Assert.AreEqual(Name.Parse("CN=А,DC=org"), Name.Build(("DC", "org"), ("CN", "А")));
+        }
+
+        [Test]
         public void NamesThatAreRead()
         {
             Row.Each("strict_names.tsv", row =>

@@ -68,6 +68,13 @@ fn names_to_text() {
 }
 
 #[test]
+fn names_that_are_built() {
+    let refusal = Name::build(&[("C", "RU"), ("CN", ""), ("FOO", "x")]).unwrap_err();
+    assert_eq!(refusal.item(), Some(2), "{refusal}");
+    assert_eq!(Name::build(&[("DC", "org"), ("CN", "А")]).unwrap(), "CN=А,DC=org".parse().unwrap());
+}
+
+#[test]
 fn names_that_are_read() {
     for row in rows("strict_names.tsv") {
         let reading = match row.text("mode") {
