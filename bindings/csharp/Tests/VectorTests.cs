@@ -229,5 +229,22 @@ namespace Ortholan.Tests
             Assert.AreEqual("DNS:example.org", answer.Name.ToString());
             Refusal(() => PemBlock.ReadAll("-----BEGIN A-----\n"));
         }
+
+        [Test]
+        public void Extensions()
+        {
+            string pem = File.ReadAllText(Path.Combine(Row.Data, "certificates", "typed.pem"));
+            Certificate certificate = Certificate.FromDer(PemBlock.ReadAll(pem).Single().Octets);
+            foreach (Extension extension in certificate.Extensions)
+            {
+                string json = extension.ToJson();
+                Assert.AreEqual(extension.Value, ExtensionJson.ValueFromJson(extension.Type, json), json);
+                StringAssert.EndsWith("\n", extension.ToWords());
+            }
+            byte[] list = ExtensionJson.ExtensionsFromJson(certificate.ExtensionsToJson());
+            StringAssert.Contains(Hex.Digits(list), Hex.Digits(certificate.ToDer()));
+            Assert.AreEqual(6,
+                Refusal(() => ExtensionJson.ValueFromJson("basicConstraints", "{\"cA\":1}")).Offset);
+        }
     }
 }
