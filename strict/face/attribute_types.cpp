@@ -10,7 +10,7 @@ using namespace Ortholan::strict;
 
 namespace {
 
-ortholan_text TextOf(std::string_view text) { return {text.data(), text.size()}; }
+ortholan_text TextAt(std::string_view text) { return {text.data(), text.size()}; }
 
 ortholan_reason Give(const AttributeType* found, ortholan_attribute_type* type) {
   if (found == nullptr) return ORTHOLAN_REASON_NOT_FOUND;
@@ -18,9 +18,9 @@ ortholan_reason Give(const AttributeType* found, ortholan_attribute_type* type) 
   std::string_view aliases = found->aliases;
   if (!aliases.empty()) aliases.remove_suffix(1);
   *type = {Octets(found->oid.view()),
-           TextOf(found->name),
-           TextOf(found->long_name),
-           TextOf(aliases),
+           TextAt(found->name),
+           TextAt(found->long_name),
+           TextAt(aliases),
            static_cast<int32_t>(found->syntax),
            found->bound};
   return ORTHOLAN_REASON_NONE;

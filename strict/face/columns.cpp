@@ -26,7 +26,7 @@ bool ItemAt(const ortholan_column& items, size_t index, ortholan_octets* item) {
   return true;
 }
 
-ortholan_text TextOf(ortholan_octets item) {
+ortholan_text TextOfItem(ortholan_octets item) {
   return {reinterpret_cast<const char*>(item.data), item.size};
 }
 
@@ -73,7 +73,7 @@ ortholan_reason ortholan_column_rfc4514_read(const ortholan_column* texts,
                                              const ortholan_column_room* room, size_t* done) {
   return AnswerEach<uint8_t>(
       texts, room, done, [=](ortholan_octets item, uint8_t* out, size_t left, size_t* size) {
-        return ortholan_rfc4514_read(TextOf(item), options, out, left, size, nullptr);
+        return ortholan_rfc4514_read(TextOfItem(item), options, out, left, size, nullptr);
       });
 }
 
