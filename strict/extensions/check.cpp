@@ -1,5 +1,6 @@
 #include "strict/extensions/check.h"
 
+#include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
 #include "strict/extensions/check_rules.h"
 

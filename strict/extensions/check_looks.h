@@ -2,7 +2,9 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_
 
-#include "strict/extensions/check_case.h"
+namespace Ortholan::strict {
+struct CheckCase;
+}  // namespace Ortholan::strict
 
 namespace Ortholan::strict::looks {
 

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
 
 namespace Ortholan::strict {
