@@ -1,7 +1,7 @@
 #include "strict/extensions/check.h"
 
+#include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
-#include "strict/extensions/check_rules.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -10,13 +10,9 @@
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/check.h"
+#include "strict/extensions/check_rules.h"
 
 namespace Ortholan::strict {
-
-struct CheckRule;
-
-// Kinds of documents, added.
-enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
 
 // The order of octets.
 inline bool AreOctetsBefore(ByteView a, ByteView b) { return AsText(a) < AsText(b); }

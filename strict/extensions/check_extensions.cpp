@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "strict/der/string_value.h"
+#include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
-#include "strict/extensions/check_rules.h"
 #include "strict/extensions/known_extensions.h"
 #include "strict/extensions/shape_reader.h"
 

@@ -2,7 +2,16 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_
 
-#include "strict/extensions/check_case.h"
+#include "bytes/byte_view.h"
+
+namespace Ortholan::strict {
+
+struct CheckCase;
+
+// Where RFC 5280 has an extension; "4.2" and "5.2" for others.
+const char* SectionOf(ByteView oid, uint8_t kind);
+
+}  // namespace Ortholan::strict
 
 namespace Ortholan::strict::looks {
 
@@ -72,12 +81,5 @@ void AttributeCertificates(const CheckCase& at);
 void AccessMethodsOfList(const CheckCase& at);
 
 }  // namespace Ortholan::strict::looks
-
-namespace Ortholan::strict {
-
-// Where RFC 5280 has an extension; "4.2" and "5.2" for others.
-const char* SectionOf(ByteView oid, uint8_t kind);
-
-}  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_

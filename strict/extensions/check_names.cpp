@@ -1,5 +1,6 @@
 // CheckRules about distinguished names and general names.
 #include "strict/der/string_value.h"
+#include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"

@@ -5,10 +5,14 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_CHECK_RULES_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_CHECK_RULES_H_
 
-#include "strict/extensions/check_case.h"
 #include "strict/names/attribute_types.h"
 
 namespace Ortholan::strict {
+
+struct CheckCase;
+
+// Kinds of documents, added.
+enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
 
 // What a rule is asked about, each in turn.
 enum class Scope : uint8_t {
