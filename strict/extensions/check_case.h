@@ -80,6 +80,38 @@ inline size_t CountCharacters(const Element& value) {
   return count;
 }
 
+// The elements of a value that is a SEQUENCE.
+inline ByteView ListOf(const CheckCase& at) { return ContentOf(at.extension.value, kSequence); }
+
+inline bool HasPart(ByteView content, uint8_t identifier) {
+  bool has = false;
+  ForEachElement(content, [&](const Element& part) { has |= part.identifier == identifier; });
+  return has;
+}
+
+// A part's content; no octets where it is not there.
+inline ByteView PartOf(ByteView content, uint8_t identifier) {
+  ByteView found;
+  ForEachElement(content, [&](const Element& part) {
+    if (part.identifier == identifier) found = part.content;
+  });
+  return found;
+}
+
+// The identifier that a structure begins with, and what stands behind it.
+struct Identified {
+  ByteView oid;
+  ByteView rest;
+
+  bool Is(const OidOctets& known) const { return SameBytes(oid, known.view()); }
+};
+inline Identified IdentifiedOf(const Element& structure) {
+  Identified parts;
+  Reader fields(structure.content, Leniency::kLenient, nullptr);
+  if (fields.Read(kOid, &parts.oid)) parts.rest = fields.rest();
+  return parts;
+}
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_CHECK_CASE_H_
