@@ -9,6 +9,7 @@
 #include "examples/commands.h"
 #include "examples/document_file.h"
 #include "examples/failure.h"
+#include "examples/findings.h"
 #include "examples/general_names.h"
 #include "examples/input.h"
 #include "examples/progress.h"
@@ -127,17 +128,28 @@ std::string Joined(std::string text, const std::vector<std::string>& faults) {
   return text;
 }
 
+std::string ShownLine(std::string_view der, bool isJson) {
+  const Document document = ReadDocument(der);
+  return isJson ? DocumentJson({}, 0, document)
+                : Joined(DocumentText(0, document), document.faults);
+}
+
+std::string CheckedLine(std::string_view der, bool isJson) {
+  const Findings findings = ReadFindings(der);
+  return isJson ? FindingsJson({}, 0, findings) : Joined(FindingsText(0, findings), {});
+}
+
 ItemWork ShowLines(const Arguments& arguments) {
+  if (arguments.Has("--diff")) throw UsageError{"--diff does not go with --lines"};
   SetLibraryText(arguments.Has("--library-text"));
-  return [buffer = std::string()](const Item& item, Answers& answers) mutable {
+  const auto line = arguments.Has("--check") ? CheckedLine : ShownLine;
+  return [line, buffer = std::string()](const Item& item, Answers& answers) mutable {
     const ortholan_octets octets = OctetsOf(item, buffer);
     const std::string_view der(reinterpret_cast<const char*>(octets.data), octets.size);
     if (KindOf(der) == Kind::kPkcs7) {
       Refuse("this is a PKCS #7 bundle, which show opens without --lines");
     }
-    const Document document = ReadDocument(der);
-    answers.AddLine(answers.IsJson() ? DocumentJson({}, 0, document)
-                                     : Joined(DocumentText(0, document), document.faults));
+    answers.AddLine(line(der, answers.IsJson()));
   };
 }
 

@@ -2,7 +2,6 @@
 
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
-#include "strict/extensions/check_rules.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -10,13 +10,9 @@
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/check.h"
+#include "strict/extensions/check_rules.h"
 
 namespace Ortholan::strict {
-
-struct CheckRule;
-
-// Kinds of documents, added.
-enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
 
 // The order of octets.
 inline bool AreOctetsBefore(ByteView a, ByteView b) { return AsText(a) < AsText(b); }
@@ -82,6 +78,38 @@ inline size_t CountCharacters(const Element& value) {
   ScalarReader scalars(value.identifier, value.content);
   for (uint32_t scalar; scalars.Next(&scalar);) ++count;
   return count;
+}
+
+// The elements of a value that is a SEQUENCE.
+inline ByteView ListOf(const CheckCase& at) { return ContentOf(at.extension.value, kSequence); }
+
+inline bool HasPart(ByteView content, uint8_t identifier) {
+  bool has = false;
+  ForEachElement(content, [&](const Element& part) { has |= part.identifier == identifier; });
+  return has;
+}
+
+// A part's content; no octets where it is not there.
+inline ByteView PartOf(ByteView content, uint8_t identifier) {
+  ByteView found;
+  ForEachElement(content, [&](const Element& part) {
+    if (part.identifier == identifier) found = part.content;
+  });
+  return found;
+}
+
+// The identifier that a structure begins with, and what stands behind it.
+struct Identified {
+  ByteView oid;
+  ByteView rest;
+
+  bool Is(const OidOctets& known) const { return SameBytes(oid, known.view()); }
+};
+inline Identified IdentifiedOf(const Element& structure) {
+  Identified parts;
+  Reader fields(structure.content, Leniency::kLenient, nullptr);
+  if (fields.Read(kOid, &parts.oid)) parts.rest = fields.rest();
+  return parts;
 }
 
 }  // namespace Ortholan::strict

@@ -1,7 +1,6 @@
-// CheckRules about a document as a whole, and about extensions that are missing.
+// Rules about a document as a whole, and about extensions that are missing.
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
-#include "strict/extensions/check_rules.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/names/name_view.h"
 

@@ -2,8 +2,15 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_
 
+#include "bytes/byte_view.h"
+
 namespace Ortholan::strict {
+
 struct CheckCase;
+
+// Where RFC 5280 has an extension; "4.2" and "5.2" for others.
+const char* SectionOf(ByteView oid, uint8_t kind);
+
 }  // namespace Ortholan::strict
 
 namespace Ortholan::strict::looks {
@@ -40,7 +47,7 @@ void MissingAuthorityKeyId(const CheckCase& at);
 void MissingInAuthority(const CheckCase& at);
 void Missing(const CheckCase& at);
 
-// check_extensions.cpp: of any extension.
+// check_extensions.cpp, check_profile.cpp, check_policies.cpp, check_points.cpp: of any extension.
 void Twice(const CheckCase& at);
 void ValueEncoding(const CheckCase& at);
 void EmptyLists(const CheckCase& at);
@@ -74,12 +81,5 @@ void AttributeCertificates(const CheckCase& at);
 void AccessMethodsOfList(const CheckCase& at);
 
 }  // namespace Ortholan::strict::looks
-
-namespace Ortholan::strict {
-
-// Where RFC 5280 has an extension; "4.2" and "5.2" for others.
-const char* SectionOf(ByteView oid, uint8_t kind);
-
-}  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_CHECK_LOOKS_H_

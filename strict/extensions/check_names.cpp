@@ -1,4 +1,4 @@
-// CheckRules about distinguished names and general names.
+// Rules about distinguished names and general names.
 #include "strict/der/string_value.h"
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"

@@ -11,6 +11,9 @@ namespace Ortholan::strict {
 
 struct CheckCase;
 
+// Kinds of documents, added.
+enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
+
 // What a rule is asked about, each in turn.
 enum class Scope : uint8_t {
   kEncoding,       // the whole, be it readable or not

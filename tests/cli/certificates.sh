@@ -145,6 +145,15 @@ octets <<<30303029020101300030003000301C311A301806035504030C115C75303031421BE280
   | base64 | block "$(cat)" >hidden.pem
 row "hidden characters" 0 '~      CN \(2\.5\.4\.3\) UTF8String: \\\\u001B\\u001B\\u200B\\uFEFF\\U000E0041' "" show hidden.pem
 
+# By lines, where the exit status is that of the stream.
+row "checked by lines" 0 $'certificate: nothing found\n' "" show --check --lines bmp.pem
+row "checked by lines, as JSON" 0 '~\{"kind":"revocationList","findings":\[\{"rule":"list-authority-key-id-missing".*' "" \
+  show --check --lines --json list.pem
+row "compared by lines" 2 "" "x509name: --diff does not go with --lines" show --diff --lines bmp.pem
+row "nothing differs" 0 "" "" show --diff printable.pem printable.der
+row "three to compare" 2 "" "x509name: --diff takes two documents, and there are 3 in the files" \
+  show --diff pkcs7.pem
+
 row "survey" 0 '~  went text to DER to text unchanged +4' "" survey printable.pem cyrillic.pem
 row "survey, refused" 0 '~ +several attributes in one RDN +2' "" survey multi_valued.pem bmp.pem
 

@@ -36,8 +36,10 @@ if(NOT WIN32)
   set_tests_properties(cli_terminal PROPERTIES SKIP_RETURN_CODE 77)
   ortholan_cli_test(completion
     "${cli}/completion.sh" "${PROJECT_SOURCE_DIR}/examples/x509name.bash" ${runs_x509name})
-  ortholan_cli_test(streams_page python3 "${cli}/console_blocks.py"
-    "${PROJECT_SOURCE_DIR}/docs/streams.md" "${certificates}" ${runs_x509name})
+  foreach(page IN ITEMS streams show)
+    ortholan_cli_test(${page}_page python3 "${cli}/console_blocks.py"
+      "${PROJECT_SOURCE_DIR}/docs/${page}.md" "${certificates}" ${runs_x509name})
+  endforeach()
 endif()
 if(ORTHOLAN_CHECK_SOURCES)
   ortholan_cli_test(manual
