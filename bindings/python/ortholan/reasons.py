@@ -66,6 +66,7 @@ class Reason(enum.IntEnum):
     TEXT_ALPHABET = 93
     TEXT_NO_STRING = 94
     TYPE_NAME = 95
+    TEXT_LINE = 96
     DUPLICATE_EXTENSION = 120
     PEM_END = 121
     PEM_LABEL = 122
