@@ -6,7 +6,7 @@ PRESETS ?= native sanitize windows
 BINDINGS := python wasm postgresql rust go csharp visual-c machines
 
 .DEFAULT_GOAL := help
-.PHONY: help demo test thread valgrind compilers fuzz bench bench-check bench-baseline suites docs abi \
+.PHONY: help demo test thread valgrind compilers fuzz mutate bench bench-check bench-baseline suites docs abi \
   format deb package clean $(BINDINGS)
 
 help:
@@ -16,6 +16,7 @@ help:
 	@echo 'make thread       the same tests under ThreadSanitizer'
 	@echo 'make valgrind     the native tests under valgrind, some minutes'
 	@echo 'make fuzz         build the fuzz targets and run each for a while'
+	@echo 'make mutate       a million mutated inputs for names, their text and matching, under sanitizers'
 	@echo 'make bench        measure beside other libraries, some minutes (RECORD=yes: and note it in'
 	@echo '                  docs/performance.md)'
 	@echo 'make bench-check  compare instructions and allocations with the recorded ones, which'
@@ -65,6 +66,12 @@ fuzz:
 	cmake --preset fuzz
 	cmake --build --preset fuzz
 	cmake --build --preset fuzz --target fuzz
+
+mutate:
+	@scripts/setup.sh fuzz
+	cmake --preset sanitize
+	cmake --build --preset sanitize --target fuzz_replay
+	build/sanitize/fuzz_replay --mutate $(or $(COUNT),1000000) fuzz tests/data rfc4514 matching
 
 bench:
 	@scripts/setup.sh bench

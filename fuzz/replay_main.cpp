@@ -1,21 +1,24 @@
 // Runs the fuzz targets over kept inputs, without a fuzzer.
 //
-//   fuzz_replay <fuzz directory> <directory of samples> [<target>...]
+//   fuzz_replay [--mutate <count>] <fuzz directory> <directory of samples> [<target>...]
 //
 // A target's inputs lie in corpus/<target> and findings/<target> of the fuzz directory, a file
 // each; a directory that is missing holds none. A .txt file of samples has an input for every
 // target on each line, in hex behind whatever else the line has; "#" begins a comment. What
 // is of a target's own kind is also cut short after each octet, unless it is long, and a short
-// one spoiled in each.
+// one spoiled in each. With --mutate each target gets that many inputs made of all these instead.
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "fuzz/law.h"
+#include "fuzz/mutator.h"
 #include "fuzz/targets.h"
 
 namespace {
@@ -53,7 +56,8 @@ constexpr size_t kMadeUp = 300;
 
 class Replay {
  public:
-  explicit Replay(const TargetRow& target) : target_(target) {}
+  // Runs what it is given, or keeps it for RunMutated.
+  Replay(const TargetRow& target, bool keeps) : target_(target), keeps_(keeps) {}
 
   size_t count() const { return count_; }
 
@@ -66,17 +70,20 @@ class Replay {
   }
 
   void RunMadeUp() {
-    uint32_t state = 2463534242;  // Marsaglia's xorshift
-    const auto next = [&state] {
-      state ^= state << 13;
-      state ^= state >> 17;
-      return state ^= state << 5;
-    };
+    Numbers numbers;
     for (size_t i = 0; i < kMadeUp; ++i) {
-      std::string octets(next() % 120, '\0');
-      for (char& octet : octets) octet = static_cast<char>(next() >> 11);
+      std::string octets(numbers.Below(120), '\0');
+      for (char& octet : octets) octet = static_cast<char>(numbers.Next() >> 11);
       Run("made up", octets);
     }
+  }
+
+  void RunMutated(size_t count) {
+    if (kept_.empty()) return;
+    keeps_ = false;
+    count_ = 0;
+    Mutator mutator(kept_);
+    for (size_t i = 0; i < count; ++i) Run("mutated", mutator.Next());
   }
 
   void RunSamples(const fs::path& directory) {
@@ -111,32 +118,40 @@ class Replay {
   }
 
   void Run(const fs::path& path, const std::string& bytes) {
+    ++count_;
+    if (keeps_) return kept_.push_back(bytes);
     SetInput(std::string(target_.name) + ", " + path.filename().string(), bytes);
     target_.run(reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size());
-    ++count_;
   }
 
   const TargetRow& target_;
+  bool keeps_;
+  std::vector<std::string> kept_;
   size_t count_ = 0;
 };
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 3) {
-    std::fprintf(stderr, "usage: fuzz_replay <fuzz directory> <samples> [<target>...]\n");
+  const bool mutates = argc > 2 && std::string_view(argv[1]) == "--mutate";
+  const size_t mutated = mutates ? std::strtoull(argv[2], nullptr, 10) : 0;
+  const int first = mutates ? 3 : 1;
+  if (argc < first + 2) {
+    std::fprintf(
+        stderr, "usage: fuzz_replay [--mutate <count>] <fuzz directory> <samples> [<target>...]\n");
     return 2;
   }
-  const fs::path fuzz = argv[1];
-  const std::set<std::string_view> chosen(argv + 3, argv + argc);
+  const fs::path fuzz = argv[first];
+  const std::set<std::string_view> chosen(argv + first + 2, argv + argc);
   size_t targets = 0;
   for (const TargetRow& target : kTargets) {
     if (!chosen.empty() && chosen.count(target.name) == 0) continue;
-    Replay replay(target);
+    Replay replay(target, mutates);
     replay.RunKept(fuzz / "corpus" / target.name);
     replay.RunKept(fuzz / "findings" / target.name);
-    replay.RunSamples(argv[2]);
+    replay.RunSamples(argv[first + 1]);
     if (target.own.empty()) replay.RunMadeUp();
+    if (mutates) replay.RunMutated(mutated);
     std::printf("%s: %zu inputs\n", target.name.data(), replay.count());
     ++targets;
   }
