@@ -16,7 +16,7 @@ const std::vector<const Command*>& AllCommands() {
       &kEncodeCommand,    &kDecodeCommand,      &kPairsCommand,  &kGetCommand,
       &kSetCommand,       &kEqualCommand,       &kWithinCommand, &kKeyCommand,
       &kIdentifyCommand,  &kPermittedCommand,   &kShowCommand,   &kSurveyCommand,
-      &kExtensionCommand, &kGeneralNameCommand, &kMakeCommand,
+      &kExtensionCommand, &kGeneralNameCommand, &kMakeCommand, &kTypesCommand,
   };
   return all;
 }

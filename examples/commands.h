@@ -30,6 +30,7 @@ extern const Command kMakeCommand;
 // strict_matching.cpp
 extern const Command kWithinCommand;
 extern const Command kKeyCommand;
+extern const Command kTypesCommand;
 
 // strict_constraints.cpp
 extern const Command kPermittedCommand;

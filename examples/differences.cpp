@@ -116,7 +116,7 @@ std::vector<SamePair> PairsOf(const Document& first, const Document& second) {
 }
 
 std::string TitleOf(const ExtensionReading& extension) {
-  if (extension.title == nullptr) return extension.oid;
+  if (extension.title.empty()) return extension.oid;
   return extension.oid + " " + extension.title;
 }
 

@@ -1,7 +1,5 @@
 #include "examples/extensions.h"
 
-#include <ortholan/strict/extensions.h>
-
 #include <algorithm>
 #include <ortholan/strict.hpp>
 
@@ -10,33 +8,24 @@
 namespace Example {
 namespace {
 
-using ortholan::Octets;
-using ortholan::Reading;
-using ortholan::Refusal;
-
-// What `call` puts for the value: first as DER, else as people must look at it, with the refusal.
+// What `call` makes of the value: as DER, else as people must look at it, with the refusal.
 template <class Call>
 std::string Told(Call call, std::string* refusal) {
-  std::string text;
-  for (const Reading reading : {Reading::kDer, Reading::kLenient}) {
-    Refusal refused;
-    const auto put = [&](char* out, size_t room, size_t* size) {
-      return call(static_cast<int32_t>(reading), out, room, size, &refused);
-    };
-    if (ortholan::WithRoom(&text, put) == ORTHOLAN_REASON_NONE) break;
-    if (refusal->empty()) *refusal = refused.Sentence();
-  }
-  return text;
+  const ortholan::Result<std::string> der = call(ortholan::Reading::kDer);
+  if (der) return *der;
+  *refusal = der.refusal().Sentence();
+  const ortholan::Result<std::string> lenient = call(ortholan::Reading::kLenient);
+  return lenient ? *lenient : std::string();
 }
 
-void ReadValue(Octets oid, ExtensionReading& reading) {
-  const ortholan_octets value = Octets(reading.value);
-  reading.json = Told(
-      [&](int32_t mode, auto... out) { return ortholan_extension_json(oid, value, mode, out...); },
-      &reading.refusal);
+void ReadValue(ortholan::Octets oid, ExtensionReading& reading) {
+  const ortholan::Octets value = reading.value;
+  reading.json =
+      Told([&](ortholan::Reading mode) { return ortholan::ExtensionJson(oid, value, mode); },
+           &reading.refusal);
   reading.lines = Told(
-      [&](int32_t mode, auto... out) {
-        return ortholan_extension_text(oid, value, mode, kExtensionIndent, out...);
+      [&](ortholan::Reading mode) {
+        return ortholan::ExtensionText(oid, value, mode, kExtensionIndent);
       },
       &reading.refusal);
 }
@@ -65,16 +54,16 @@ ExtensionReading ReadExtension(std::string_view record) {
   reading.oid = *oid;
   reading.isCritical = hasFlag && fields[1].content != std::string_view("\0", 1);
   reading.value = fields.back().content;
-  ortholan_extension_type type;
-  if (ortholan_extension_type_of(Octets(fields[0].content), &type) != 0) return reading;
-  reading.title = type.title;
+  const auto type = ortholan::FindExtensionType(fields[0].content);
+  if (!type) return reading;
+  reading.title = type->title;
   ReadValue(fields[0].content, reading);
   if (HoldsNames(reading.oid)) reading.names = ReadGeneralNames(reading.value);
   return reading;
 }
 
 std::string ExtensionTitle(const ExtensionReading& extension) {
-  return extension.title != nullptr ? extension.title : extension.oid;
+  return !extension.title.empty() ? extension.title : extension.oid;
 }
 
 }  // namespace Example

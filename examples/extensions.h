@@ -14,7 +14,7 @@ struct ExtensionReading {
   std::string_view record;  // its whole encoding
   bool isRead = false;      // whether what follows is there
   std::string oid;
-  const char* title = nullptr;  // for people; null for one that is not known
+  std::string title;  // for people; empty for one that is not known
   bool isCritical = false;
   std::string_view value;
   // Of one that is known: its value as JSON, and as lines that are safe to show, further in by
@@ -26,7 +26,7 @@ struct ExtensionReading {
   std::vector<GeneralNameReading> names;
 
   // Whether something that is known cannot be read, or not all of it.
-  bool IsFaulty() const { return title != nullptr && json.empty(); }
+  bool IsFaulty() const { return !title.empty() && json.empty(); }
   bool HasLibraryText() const { return !names.empty() && !names[0].libraryText.empty(); }
 };
 

@@ -1,7 +1,5 @@
 #include "examples/findings.h"
 
-#include <ortholan/strict/extensions.h>
-
 #include <list>
 #include <ortholan/strict.hpp>
 
@@ -33,9 +31,8 @@ Finding FindingOf(const ortholan::Fault& fault) {
   }
   if (fault.extension.size == 0) return finding;
   finding.oid = ortholan::OidToText(fault.extension).value();
-  ortholan_extension_type type;
-  const bool isKnown = ortholan_extension_type_of(fault.extension, &type) == ORTHOLAN_REASON_NONE;
-  finding.title = isKnown ? type.title : finding.oid;
+  const auto type = ortholan::FindExtensionType(fault.extension);
+  finding.title = type ? std::string(type->title) : finding.oid;
   return finding;
 }
 

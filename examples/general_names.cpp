@@ -68,6 +68,10 @@ std::string LibraryText(std::string_view name) {
   }
 }
 
+}  // namespace
+
+void SetLibraryText(bool isWanted) { isLibraryTextWanted = isWanted; }
+
 GeneralNameReading ReadGeneralName(std::string_view octets) {
   GeneralNameReading reading;
   reading.octets = octets;
@@ -79,10 +83,6 @@ GeneralNameReading ReadGeneralName(std::string_view octets) {
   if (isLibraryTextWanted) reading.libraryText = LibraryText(octets);
   return reading;
 }
-
-}  // namespace
-
-void SetLibraryText(bool isWanted) { isLibraryTextWanted = isWanted; }
 
 std::vector<GeneralNameReading> ReadGeneralNames(std::string_view value) {
   std::vector<GeneralNameReading> names;

@@ -19,6 +19,8 @@ struct GeneralNameReading {
   std::string libraryText;  // where SetLibraryText asked for it
 };
 
+// One name that is the whole of `octets`.
+GeneralNameReading ReadGeneralName(std::string_view octets);
 // The names of a list that is the whole of `value`; octets that begin with no element are the last.
 std::vector<GeneralNameReading> ReadGeneralNames(std::string_view value);
 

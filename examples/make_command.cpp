@@ -1,8 +1,8 @@
 // make: extensions in DER from a description in JSON.
 
-#include <ortholan/strict/extensions.h>
-
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <ortholan/strict.hpp>
 #include <string>
 #include <string_view>
@@ -40,44 +40,26 @@ std::string ReadDescription(const std::string& operand) {
 
 [[noreturn]] void RefuseType(const std::string& type) {
   std::vector<std::string> names;
-  ortholan_extension_type known;
-  while (ortholan_extension_type_at(names.size(), &known) == 0) names.emplace_back(known.name);
+  for (const ortholan::ExtensionType& known : ortholan::KnownExtensions()) {
+    names.emplace_back(known.name);
+  }
   Refuse("there is no extension " + type + DidYouMean(type, names));
 }
 
-// The octets that `call` writes, which takes room and a refusal.
-template <class Call>
-std::vector<std::uint8_t> Made(const std::string& json, Call call) {
-  std::vector<std::uint8_t> der;
-  ortholan::Refusal refusal;
-  const auto put = [&](std::uint8_t* out, std::size_t room, std::size_t* size) {
-    return call(ortholan::ToText(json), out, room, size, &refusal);
-  };
-  const ortholan_reason reason = ortholan::WithRoom(&der, put);
-  if (reason == ORTHOLAN_REASON_NONE) return der;
-  if (refusal.offset == ORTHOLAN_NO_PLACE) Refuse(refusal.Sentence());
-  FailAtPlace(json, refusal);
-}
+using Made = ortholan::Result<std::vector<std::uint8_t>>;
 
-std::vector<std::uint8_t> MakeValue(const std::string& type, const std::string& json) {
-  std::uint8_t room[64];
-  std::size_t size = 0;
-  if (ortholan_extension_oid_from_name(ortholan::ToText(type), room, sizeof room, &size) ==
-      ORTHOLAN_REASON_EXTENSION_TYPE) {
-    RefuseType(type);
-  }
-  return Made(json, [&type](ortholan_text text, auto... out) {
-    return ortholan_extension_from_json(ortholan::ToText(type), text, out...);
-  });
+Made Make(const std::optional<std::string>& type, const std::string& json) {
+  if (!type) return ortholan::ExtensionsFromJson(json);
+  if (!ortholan::ExtensionOid(*type)) RefuseType(*type);
+  return ortholan::ExtensionFromJson(*type, json);
 }
 
 int RunMake(const Arguments& arguments) {
-  const auto type = arguments.Value("--value");
   const std::string json = ReadDescription(arguments.operands[0]);
-  const std::vector<std::uint8_t> der =
-      type ? MakeValue(*type, json)
-           : Made(json, [](auto... rest) { return ortholan_extensions_from_json(rest...); });
-  const Ortholan::IdentObj octets(der.data(), static_cast<Ortholan::DWORD>(der.size()));
+  const Made der = Make(arguments.Value("--value"), json);
+  if (!der && der.refusal().offset == ORTHOLAN_NO_PLACE) Refuse(der.refusal().Sentence());
+  if (!der) FailAtPlace(json, der.refusal());
+  const Ortholan::IdentObj octets(der->data(), static_cast<Ortholan::DWORD>(der->size()));
   if (const auto path = arguments.Value("--out")) {
     WriteOctets(*path, octets);
   } else {

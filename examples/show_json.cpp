@@ -41,11 +41,18 @@ std::string AttributeJson(const NameAttribute& attribute) {
 
 std::string RdnJson(const NameRdn& rdn) { return ArrayOf(rdn.attributes, AttributeJson); }
 
-std::string GeneralNameJson(const GeneralNameReading& name) {
-  JsonObject object;
-  if (name.kind.empty()) return object.AddText("octets", Hex(name.octets)).End();
+void AddGeneralName(const GeneralNameReading& name, JsonObject& object) {
+  if (name.kind.empty()) {
+    object.AddText("octets", Hex(name.octets));
+    return;
+  }
   object.AddText("kind", name.kind).AddText("text", name.text);
   if (!name.type.empty()) object.AddText("type", name.type).AddText("typeName", name.typeName);
+}
+
+std::string NameOfListJson(const GeneralNameReading& name) {
+  JsonObject object;
+  AddGeneralName(name, object);
   if (!name.libraryText.empty()) object.AddText("libraryText", name.libraryText);
   return object.End();
 }
@@ -84,16 +91,24 @@ std::string NameJson(const NameReading& name) {
   return object.Add("rdns", ArrayOf(name.tree.rdns, RdnJson)).End();
 }
 
+std::string GeneralNameJson(const GeneralNameReading& name, unsigned tag,
+                            const std::string& libraryText) {
+  JsonObject object;
+  object.AddNumber("tag", tag);
+  AddGeneralName(name, object);
+  return object.AddText("libraryText", libraryText).End();
+}
+
 std::string ExtensionJson(const ExtensionReading& extension) {
   JsonObject object;
   if (!extension.isRead) return object.AddText("octets", Hex(extension.record)).End();
   object.AddText("oid", extension.oid);
-  if (extension.title != nullptr) object.AddText("name", std::string(extension.title));
+  if (!extension.title.empty()) object.AddText("name", extension.title);
   object.AddBool("critical", extension.isCritical).AddText("value", Hex(extension.value));
   if (!extension.json.empty()) object.Add("content", extension.json);
   if (!extension.refusal.empty()) object.AddText("notDer", extension.refusal);
   if (!extension.names.empty()) {
-    object.Add("generalNames", ArrayOf(extension.names, GeneralNameJson));
+    object.Add("generalNames", ArrayOf(extension.names, NameOfListJson));
   }
   return object.End();
 }

@@ -16,6 +16,9 @@ const char* KindWord(Kind kind);
 JsonObject JsonPlace(const std::string& path, std::size_t number);
 
 std::string NameJson(const NameReading& name);
+// One name by itself, with the number that the library has for its tag and its text there.
+std::string GeneralNameJson(const GeneralNameReading& name, unsigned tag,
+                            const std::string& libraryText);
 std::string ExtensionJson(const ExtensionReading& extension);
 
 // Without a path or with number 0 there is no such member.

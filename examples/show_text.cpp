@@ -75,6 +75,9 @@ std::string GeneralNameText(const GeneralNameReading& name, const std::string& i
          Visible(name.libraryText) + "\n";
 }
 
+constexpr char kBelow[] = "      ";
+static_assert(sizeof kBelow == kExtensionIndent + 1);
+
 // What stands behind the title: a value of one word or list on its line, others below it.
 std::string ContentText(const ExtensionReading& extension, const std::string& indent) {
   const std::string& lines = extension.lines;
@@ -95,14 +98,19 @@ std::string ExtensionText(const ExtensionReading& extension, const std::string& 
     return FaultyLine(indent, "no extension", Copy(extension.record));
   }
   std::string line = indent + extension.oid;
-  if (extension.title != nullptr) line += " " + Paint(Colour::kKey, extension.title);
+  if (!extension.title.empty()) line += " " + Paint(Colour::kKey, extension.title);
   if (extension.isCritical) line += ", " + Paint(Colour::kNotable, "critical");
   line += extension.isCritical ? ":" : ", not critical:";
-  const std::string below(kExtensionIndent, ' ');
-  return line + ContentText(extension, below) + RefusalLine(extension.refusal, below);
+  return line + ContentText(extension, kBelow) + RefusalLine(extension.refusal, kBelow);
 }
 
 }  // namespace
+
+std::string MeaningText(const ExtensionReading& extension) {
+  if (extension.lines.empty() && extension.refusal.empty()) return {};
+  std::string text = ExtensionTitle(extension) + ":" + ContentText(extension, kBelow);
+  return text + RefusalLine(extension.refusal, kBelow);
+}
 
 std::string DocumentTitle(Kind kind, std::size_t number) {
   std::string title = "certificate";

@@ -9,6 +9,9 @@
 
 namespace Example {
 
+// What an extension means, behind its title; empty for one that is not known.
+std::string MeaningText(const ExtensionReading& extension);
+
 // "certificate 1", without a number for 0.
 std::string DocumentTitle(Kind kind, std::size_t number);
 

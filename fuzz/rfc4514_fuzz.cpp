@@ -90,7 +90,9 @@ void FuzzRfc4514(const uint8_t* data, size_t size) {
   const auto made = Name::FromText(text);
   CheckCAgrees(text, made);
   if (made) {
-    if (const auto strict = NameView::Read(made->der())) CheckWriting(*strict);
+    const auto strict = NameView::Read(made->der());
+    LAW(strict.has_value());
+    CheckWriting(*strict);
   }
   CheckForgery(text);
 }

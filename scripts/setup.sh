@@ -41,8 +41,8 @@ case ${1-} in
   package) packages=("${native[@]}" "${debian[@]}" "${windows[@]}" unzip) ;;
   postgresql) packages=("${binding[@]}" dpkg-dev postgresql postgresql-server-dev-all) ;;
   python)
-    packages=("${demo[@]}" binutils mypy python3-pip python3-pytest python3-setuptools python3-venv
-      python3-wheel)
+    packages=("${demo[@]}" binutils mypy python3-cryptography python3-pip python3-pytest
+      python3-setuptools python3-venv python3-wheel)
     ;;
   rust) packages=("${binding[@]}" cargo rust-clippy rustc) ;;
   go) packages=("${binding[@]}" golang-go) ;;

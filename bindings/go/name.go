@@ -90,6 +90,35 @@ func ParseNameAs(text string, options TextOptions) (Name, error) {
 	return Name{}, err
 }
 
+// TypeAndValue is an attribute to be written: a type such as CN or dotted digits, and its text.
+type TypeAndValue struct {
+	Type  string
+	Value string
+}
+
+// BuildName makes a name of attributes, an RDN each, the most significant first. The Refusal's Item says
+// which attribute was refused.
+func BuildName(attributes ...TypeAndValue) (Name, error) {
+	var m memory
+	defer m.free()
+	plain := array[C.ortholan_new_attribute](&m, len(attributes))
+	for i, each := range attributes {
+		plain[i]._type, plain[i].text = m.text(each.Type), m.text(each.Value)
+	}
+	der, err := write(func(out room, place *C.ortholan_refusal) C.ortholan_reason {
+		return C.ortholan_name_build(first(plain), C.size_t(len(plain)), nil, out.octets(), out.size(),
+			out.needs, place)
+	})
+	var refusal *Refusal
+	if errors.As(err, &refusal) {
+		refusal.Item = int(refusal.Met)
+	}
+	if err != nil {
+		return Name{}, err
+	}
+	return ReadNameAs(der, Structure)
+}
+
 // ReadName reads a Name in DER that is the whole of der.
 func ReadName(der []byte) (Name, error) {
 	return ReadNameAs(der, DER)

@@ -60,6 +60,14 @@ func TestNamesToText(t *testing.T) {
 	same(t, Name{}.String(), "")
 }
 
+func TestNamesThatAreBuilt(t *testing.T) {
+	_, err := BuildName(TypeAndValue{"C", "RU"}, TypeAndValue{"CN", ""}, TypeAndValue{"FOO", "x"})
+	same(t, refusal(t, err).Item, 2)
+	built, _ := BuildName(TypeAndValue{"DC", "org"}, TypeAndValue{"CN", "А"})
+	read, _ := ParseName("CN=А,DC=org")
+	same(t, built, read)
+}
+
 func TestNamesThatAreRead(t *testing.T) {
 	rows(t, "strict_names.tsv", func(t *testing.T, row row) {
 		reading, _ := strconv.Atoi(row["mode"])
@@ -214,4 +222,26 @@ func TestCertificates(t *testing.T) {
 	same(t, answer.Name.String(), "DNS:example.org")
 	_, err = PEMBlocks([]byte("-----BEGIN A-----\n"))
 	refusal(t, err)
+}
+
+func TestExtensions(t *testing.T) {
+	text, _ := os.ReadFile(data + "certificates/typed.pem")
+	blocks, _ := PEMBlocks(text)
+	certificate, err := ReadCertificate(blocks[0].Octets)
+	same(t, err, nil)
+	for _, extension := range certificate.Extensions {
+		oid, _ := OIDToText(extension.OID)
+		json, err := extension.JSON()
+		same(t, err, nil)
+		value, err := ExtensionFromJSON(oid, json)
+		same(t, err, nil)
+		same(t, digits(value), digits(extension.Value))
+		words, err := extension.Words()
+		same(t, err == nil && strings.HasSuffix(words, "\n"), true)
+	}
+	json, _ := certificate.ExtensionsJSON()
+	list, err := ExtensionsFromJSON(json)
+	same(t, err == nil && strings.Contains(digits(certificate.DER), digits(list)), true)
+	_, err = ExtensionFromJSON("basicConstraints", `{"cA":1}`)
+	same(t, refusal(t, err).Offset, 6)
 }

@@ -104,11 +104,16 @@ CREATE FUNCTION x509_alt_names(
 COMMENT ON FUNCTION x509_alt_names(bytea, boolean, boolean) IS
   'the alternative names as texts such as DNS:example.org; lenient also takes names that are '
   'malformed inside';
+CREATE FUNCTION x509_dns_names(certificate bytea, malformed_ok boolean DEFAULT false)
+  RETURNS text[]
+  AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 100;
+COMMENT ON FUNCTION x509_dns_names(bytea, boolean) IS
+  'the hosts and wildcards among the alternative names, in lower case; for indexes';
 CREATE FUNCTION x509_extensions(certificate bytea, malformed_ok boolean DEFAULT false)
   RETURNS jsonb
   AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 200;
 COMMENT ON FUNCTION x509_extensions(bytea, boolean) IS
-  'the extensions, an array of objects with oid, critical and value';
+  'the extensions, an array of objects with oid, name, critical and value';
 CREATE FUNCTION x509_pem(pem text, malformed_ok boolean DEFAULT false)
   RETURNS TABLE (label text, octets bytea)
   AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 100 ROWS 2;
@@ -127,6 +132,12 @@ CREATE FUNCTION x509_identifies_reason(certificate bytea, reference text, kind t
   AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 50;
 COMMENT ON FUNCTION x509_identifies_reason(bytea, text, text) IS
   'why it is not, NULL where it is';
+CREATE FUNCTION x509_presented_names(
+  certificate bytea, reference text, kind text DEFAULT 'host', malformed_ok boolean DEFAULT false)
+  RETURNS TABLE (name text, reason text)
+  AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 100 ROWS 5;
+COMMENT ON FUNCTION x509_presented_names(bytea, text, text, boolean) IS
+  'the names that a certificate presents, and why each is not the one asked for, NULL where it is';
 CREATE FUNCTION x509_permitted(chain bytea[], malformed_ok boolean DEFAULT false)
   RETURNS boolean
   AS 'MODULE_PATHNAME' LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE COST 200;

@@ -16,8 +16,8 @@ import sys
 import chart
 
 # In the order that they are read in; a page that nobody named follows.
-GUIDES = ["docs/getting-started", "docs/recipes", "docs/identity", "docs/constraints", "docs/matching",
-          "docs/streams", "docs/x509name", "docs/c-interface", "docs/python", "docs/javascript",
+GUIDES = ["docs/getting-started", "docs/recipes", "docs/identity", "docs/constraints", "docs/extensions",
+          "docs/matching", "docs/streams", "docs/x509name", "docs/c-interface", "docs/python", "docs/javascript",
           "docs/languages"]
 NAMES = ["docs/name-text", "docs/rfc4514", "docs/der", "docs/structures", "docs/status-codes"]
 LINK = re.compile(r"\[([^\]\n]*)\]\(([^)\s]+)\)")

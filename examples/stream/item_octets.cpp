@@ -13,7 +13,7 @@
 namespace Example {
 namespace {
 
-constexpr std::size_t kBlock = 64;
+constexpr std::size_t kStep = 64;
 
 // The values of digits of either case, each character of `text` for itself; false where one is no
 // digit. Without branches and tables, so that the compiler takes many at once.
@@ -38,17 +38,17 @@ void JoinDigits(const unsigned char* digits, std::size_t size, char* out) {
 bool ReadHex(std::string_view text, std::string& buffer) {
   if (text.empty() || text.size() % 2 != 0) return false;
   buffer.resize(text.size() / 2);
-  unsigned char digits[kBlock];
-  if (text.size() < kBlock) {
+  unsigned char digits[kStep];
+  if (text.size() < kStep) {
     if (!ReadDigits(text.data(), text.size(), digits)) return false;
     JoinDigits(digits, text.size(), buffer.data());
     return true;
   }
   // The last block may lie over the one before.
-  const std::size_t last = text.size() - kBlock;
-  for (std::size_t i = 0;; i = std::min(i + kBlock, last)) {
-    if (!ReadDigits(text.data() + i, kBlock, digits)) return false;
-    JoinDigits(digits, kBlock, buffer.data() + i / 2);
+  const std::size_t last = text.size() - kStep;
+  for (std::size_t i = 0;; i = std::min(i + kStep, last)) {
+    if (!ReadDigits(text.data() + i, kStep, digits)) return false;
+    JoinDigits(digits, kStep, buffer.data() + i / 2);
     if (i == last) return true;
   }
 }

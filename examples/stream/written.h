@@ -16,8 +16,8 @@ namespace Example {
 // points into `room`. Throws std::bad_alloc.
 template <class Call>
 ortholan_reason Write(std::string& room, std::string_view* written, Call call) {
-  constexpr std::size_t kFirst = 512;
-  if (room.size() < kFirst) room.resize(kFirst);
+  constexpr std::size_t kUsualRoom = 512;
+  if (room.size() < kUsualRoom) room.resize(kUsualRoom);
   std::size_t size = 0;
   ortholan_reason reason = call(room.data(), room.size(), &size);
   if (reason == ORTHOLAN_REASON_ROOM) {

@@ -3,11 +3,13 @@
 #ifndef ORTHOLAN_STRICT_H_
 #define ORTHOLAN_STRICT_H_
 
+#include <ortholan/strict/attribute_types.h>
 #include <ortholan/strict/base.h>
 #include <ortholan/strict/certificates.h>
 #include <ortholan/strict/check.h>
 #include <ortholan/strict/columns.h>
 #include <ortholan/strict/constraints.h>
+#include <ortholan/strict/extension_builders.h>
 #include <ortholan/strict/extension_values.h>
 #include <ortholan/strict/extensions.h>
 #include <ortholan/strict/general_names.h>

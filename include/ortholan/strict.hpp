@@ -4,6 +4,7 @@
 #ifndef ORTHOLAN_STRICT_HPP_
 #define ORTHOLAN_STRICT_HPP_
 
+#include <ortholan/strict/attribute_types.hpp>
 #include <ortholan/strict/base.hpp>
 #include <ortholan/strict/certificates.hpp>
 #include <ortholan/strict/check.hpp>

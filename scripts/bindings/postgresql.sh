@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# The extension for PostgreSQL on the library of this tree, on a server in a directory of its own that
-# listens on a socket there and nowhere else.
+# The extension for PostgreSQL on the library of this tree, on a server in a directory of its own
+# that listens on a socket there and nowhere else.
 #
 #   postgresql.sh [test]          builds it and runs its tests
 #   postgresql.sh psql [ARG...]   builds it and runs psql in a database that has it
 #   postgresql.sh install         builds it and installs it into the system's server
 #
-# SANITIZE=yes builds it with UndefinedBehaviorSanitizer; the server does not start under the other one.
+# SANITIZE=yes builds it with UndefinedBehaviorSanitizer.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 task=${1-test}
@@ -64,8 +64,11 @@ extension_destdir = '$scratch/root'
 fsync = off
 max_wal_size = 4GB
 CONFIGURATION
-  as_server env LC_ALL=C.UTF-8 "$programs/pg_ctl" -D "$scratch/data" -l "$scratch/log" -w start >/dev/null ||
-    { cat "$scratch/log" >&2; exit 1; }
+  if ! as_server env LC_ALL=C.UTF-8 "$programs/pg_ctl" -D "$scratch/data" -l "$scratch/log" -w \
+    start >/dev/null; then
+    cat "$scratch/log" >&2
+    exit 1
+  fi
   export PGHOST=$scratch PGUSER=postgres
 }
 
@@ -76,7 +79,8 @@ stop_server() {
 }
 
 run_tests() {
-  export ORTHOLAN_VECTORS=$root/tests/data/vectors ORTHOLAN_CERTIFICATES=$root/tests/data/certificates
+  export ORTHOLAN_VECTORS=$root/tests/data/vectors
+  export ORTHOLAN_CERTIFICATES=$root/tests/data/certificates
   extension installcheck || { cat "$build/regression.diffs" >&2; exit 1; }
   python3 "$source/tests/pages.py" docs/postgresql.md bindings/postgresql/README.md
   if grep -E 'was terminated by signal|PANIC|runtime error' "$scratch/log" >&2; then
@@ -88,7 +92,10 @@ run_tests() {
 flags=(COPT="-Werror${SANITIZE:+ -fsanitize=undefined -fno-sanitize-recover}")
 if [[ -z ${ORTHOLAN_PREFIX-} ]]; then
   mkdir -p build
-  scripts/bindings/library.sh >build/library.log || { cat build/library.log; exit 1; }
+  if ! scripts/bindings/library.sh >build/library.log; then
+    cat build/library.log >&2
+    exit 1
+  fi
 else
   PKG_CONFIG_PATH=$ORTHOLAN_PREFIX/lib/pkgconfig
 fi
@@ -103,8 +110,8 @@ case $task in
   install)
     as_root=()
     if ((EUID != 0)); then as_root=(sudo); fi
-    "${as_root[@]}" env PKG_CONFIG_PATH="$PKG_CONFIG_PATH" make -s -C "$build" -f "$source/Makefile" install \
-      PG_CONFIG="$PG_CONFIG"
+    "${as_root[@]}" env PKG_CONFIG_PATH="$PKG_CONFIG_PATH" make -s -C "$build" \
+      -f "$source/Makefile" install PG_CONFIG="$PG_CONFIG"
     echo "postgresql.sh: installed; in a database of yours: CREATE EXTENSION ortholan"
     ;;
   psql)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Packs the installed files of the extension for PostgreSQL as postgresql-VERSION-ortholan, and prints
-# where the package is.
+# Packs the installed files of the extension for PostgreSQL as postgresql-VERSION-ortholan and
+# prints where the package is.
 #
 #   postgresql_deb.sh TREE PACKAGES
 set -euo pipefail
@@ -25,8 +25,10 @@ strip --strip-unneeded "${modules[@]}"
   printf 'License: Expat\n'
   sed -n '/^Permission/,$ { s/^$/./; s/^/ /; p }' LICENSE
 } >"$documents/copyright"
-printf 'ortholan (%s) unstable; urgency=medium\n\n  * As the library of this version.\n\n -- %s  %s\n' \
-  "$version" "$contact" "$(date -R -u)" | gzip -9n >"$documents/changelog.Debian.gz"
+printf 'ortholan (%s) unstable; urgency=medium\n\n  * As the library of this version.\n\n' \
+  "$version" >"$documents/changelog.Debian"
+printf ' -- %s  %s\n' "$contact" "$(date -R -u)" >>"$documents/changelog.Debian"
+gzip -9nf "$documents/changelog.Debian"
 
 # dpkg-shlibdeps reads the list of packages of a source, and writes beside it.
 source=$(mktemp -d)

@@ -9,7 +9,6 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 binding=bindings/javascript
 out=build/javascript
-mkdir -p "$out/objects"
 
 # Every function of the C interface that the package calls.
 exported=_malloc,_free
@@ -17,15 +16,19 @@ for name in $(grep -oh 'ortholan_[a-z0-9_]*' "$binding"/src/*.js | sort -u); do
   exported+=,_$name
 done
 
+# The sources of one folder are compiled as one unit.
 compile() {
-  object=build/javascript/objects/${1//\//_}.o
+  unit=build/javascript/units/${1//\//_}
+  printf '#include "%s"\n' "$1"/*.cpp >"$unit.cpp"
   em++ -std=c++17 -Oz -fno-rtti -Wall -Wextra -Wshorten-64-to-32 -Werror -Iinclude -I. \
-    -c "$1" -o "$object"
+    -c "$unit.cpp" -o "$unit.o"
 }
 export -f compile
-find bytes strict -name '*.cpp' -print0 | xargs -0 -P "$(nproc)" -I{} bash -euc 'compile "$1"' - {}
+rm -rf "$out/units"
+mkdir -p "$out/units"
+printf '%s\0' bytes strict/*/ | xargs -0 -P "$(nproc)" -I{} bash -euc 'compile "${1%/}"' - {}
 
-em++ -Oz --no-entry "$out"/objects/*.o -o "$out/ortholan.wasm" \
+em++ -Oz --no-entry "$out"/units/*.o -o "$out/ortholan.wasm" \
   -sSTANDALONE_WASM -sALLOW_MEMORY_GROWTH -sFILESYSTEM=0 -sMALLOC=emmalloc \
   -sTOTAL_STACK=1MB -sINITIAL_MEMORY=2MB -sEXPORTED_FUNCTIONS="$exported"
 

@@ -126,15 +126,15 @@ bool ReadBerValue(ByteView ber, std::string* der, Refusal* refusal) {
   der->clear();
   Reader in(ber, Leniency::kLenient, refusal);
   if (!Converter(refusal).PutElement(&in, der) || !in.End()) return false;
+  const ByteView made = AsBytes(der->data(), der->size());
   Refusal inner;
   Element value;
-  Reader whole(AsBytes(der->data(), der->size()), Leniency::kDer, &inner);
-  if (whole.Read(&value) && CheckString(value, Leniency::kDer, &inner)) return true;
+  Reader whole(made, Leniency::kDer, &inner);
+  if (whole.Read(&value) && CheckValue(value, Leniency::kDer, &inner)) return true;
   // What was whole stands as far from the end as in DER.
-  const auto from_end =
-      static_cast<size_t>(value.content.end() - static_cast<const uint8_t*>(inner.at));
-  const bool moved = (ber[0] & kConstructedBit) != 0;
-  return in.RefuseAt(inner.reason, moved ? ber.data : ber.end() - from_end, inner.expected);
+  const auto from_end = static_cast<size_t>(made.end() - static_cast<const uint8_t*>(inner.at));
+  const bool was_whole = (ber[0] & kConstructedBit) == 0 || SameBytes(ber, made);
+  return in.RefuseAt(inner.reason, was_whole ? ber.end() - from_end : ber.data, inner.expected);
 }
 
 }  // namespace Ortholan::strict

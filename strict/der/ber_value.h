@@ -15,7 +15,7 @@
 namespace Ortholan::strict {
 
 // Puts the element that is the whole of `ber`, at most 32 levels deep, in place of what `*der`
-// holds. Throws std::bad_alloc.
+// holds. Refuses what CheckValue refuses of the result. Throws std::bad_alloc.
 bool ReadBerValue(ByteView ber, std::string* der, Refusal* refusal);
 
 }  // namespace Ortholan::strict

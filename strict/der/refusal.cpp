@@ -59,7 +59,7 @@ constexpr Row kReasons[] = {
     ROW(TEXT_PAIR, "a backslash escapes nothing"),
     ROW(TEXT_UNESCAPED, "a character has to be escaped by a backslash"),
     ROW(TEXT_HEX, "behind \"#\" stand other characters than pairs of hexadecimal digits"),
-    ROW(TEXT_ELEMENT, "the hexadecimal digits are no element in DER"),
+    ROW(TEXT_ELEMENT, "the hexadecimal digits are no element in BER"),
     ROW(TEXT_VALUE_UTF8, "the escaped octets are not UTF-8"),
     ROW(TEXT_QUOTE, "a quoted value has no closing quote"),
     ROW(TEXT_BEHIND_QUOTE, "text stands behind the closing quote of a value"),

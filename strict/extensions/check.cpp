@@ -27,7 +27,7 @@ uint32_t VersionOf(ByteView der, CertificateKind kind) {
 }
 
 // Bits of the first two octets, the first bit lowest.
-uint32_t WordOfBits(ByteView bit_string) {
+uint32_t UsageBitsOf(ByteView bit_string) {
   uint32_t bits = 0;
   for (size_t i = 1; i < bit_string.size && i <= 2; ++i) {
     for (size_t bit = 0; bit < 8; ++bit) {
@@ -84,7 +84,7 @@ CheckedDocument::CheckedDocument(ByteView der) {
   version = VersionOf(der, view.kind());
   const ExtensionView usage = Find(kKeyUsageOid.view());
   has_key_usage = !usage.bytes.empty();
-  key_usage = WordOfBits(ContentOf(usage.value, kBitString));
+  key_usage = UsageBitsOf(ContentOf(usage.value, kBitString));
   Reader constraints(ContentOf(Find(kBasicConstraintsOid.view()).value, kSequence),
                      Leniency::kLenient, nullptr);
   ByteView flag;

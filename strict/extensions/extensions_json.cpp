@@ -1,6 +1,7 @@
 #include "strict/extensions/extensions_json.h"
 
 #include "strict/certificates/certificate_view.h"
+#include "strict/der/reader.h"
 #include "strict/extensions/identifier_names.h"
 #include "strict/extensions/json_output.h"
 #include "strict/extensions/known_extensions.h"

@@ -2,6 +2,7 @@
 
 #include <ortholan/strict/extensions.h>
 
+#include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/leaf_text.h"
 #include "strict/general_names/escaped_text.h"

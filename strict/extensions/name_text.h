@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
+#include "strict/der/refusal.h"
 
 namespace Ortholan::strict {
 

@@ -11,7 +11,7 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_SHAPE_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_SHAPE_H_
 
-#include "strict/der/reader.h"
+#include "strict/der/element.h"
 #include "strict/extensions/oid_constant.h"
 
 namespace Ortholan::strict {

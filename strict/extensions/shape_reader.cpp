@@ -6,6 +6,7 @@
 #include "strict/der/any_value.h"
 #include "strict/der/boolean.h"
 #include "strict/der/identifier.h"
+#include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 #include "strict/extensions/tls_reader.h"
 #include "strict/general_names/general_name_view.h"

@@ -9,6 +9,7 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_SHAPE_READER_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_SHAPE_READER_H_
 
+#include "strict/der/refusal.h"
 #include "strict/extensions/shape.h"
 
 namespace Ortholan::strict {

@@ -5,6 +5,7 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_STRUCT_READER_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_STRUCT_READER_H_
 
+#include "strict/der/refusal.h"
 #include "strict/extensions/shape.h"
 
 namespace Ortholan::strict {

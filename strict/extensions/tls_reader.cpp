@@ -47,7 +47,7 @@ class TlsWalk {
     return true;
   }
   bool TakeVector(ByteView* in, ByteView* part) {
-    return Take(in, kTlsSizeOctets, part) && Take(in, TlsNumber(*part), part);
+    return Take(in, kTlsSizeOctets, part) && Take(in, static_cast<size_t>(TlsNumber(*part)), part);
   }
 
   bool Tell(const Shape& shape, ByteView part) {

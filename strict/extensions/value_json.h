@@ -2,6 +2,7 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_VALUE_JSON_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_VALUE_JSON_H_
 
+#include "strict/der/refusal.h"
 #include "strict/extensions/json_output.h"
 #include "strict/extensions/shape.h"
 

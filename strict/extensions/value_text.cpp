@@ -41,9 +41,9 @@ class TextVisitor final : public ShapeVisitor {
     if (field.presence == Presence::kToldDefault) PutLine(field.words, "no");
   }
   void Leaf(const Shape& shape, const Element& element) override;
+  void PutLine(std::string_view label, std::string_view text);
 
  private:
-  void PutLine(std::string_view label, std::string_view text);
   // The label as a line of its own, where there is one.
   void PutLabel();
   void Leave() {
@@ -183,7 +183,11 @@ bool PutValueText(const Shape* shape, ByteView der, Leniency leniency, size_t in
     visitor.Leaf({ShapeKind::kOctets}, {kOctetString, der, der});
     return true;
   }
-  return ReadByShape(*shape, der, leniency, &visitor, refusal);
+  const size_t before = out->size();
+  if (!ReadByShape(*shape, der, leniency, &visitor, refusal)) return false;
+  // Nothing was told of a structure without parts.
+  if (out->size() == before) visitor.PutLine({}, "none");
+  return true;
 }
 
 }  // namespace Ortholan::strict

@@ -6,6 +6,7 @@
 #define ORTHOLAN_STRICT_EXTENSIONS_VALUE_TEXT_H_
 
 #include "strict/der/output.h"
+#include "strict/der/refusal.h"
 #include "strict/extensions/shape.h"
 
 namespace Ortholan::strict {

@@ -6,6 +6,8 @@
 #ifndef ORTHOLAN_STRICT_NAMES_ATTRIBUTE_TYPES_H_
 #define ORTHOLAN_STRICT_NAMES_ATTRIBUTE_TYPES_H_
 
+#include <ortholan/strict/attribute_types.h>
+
 #include <string_view>
 
 #include "bytes/byte_view.h"
@@ -14,14 +16,14 @@ namespace Ortholan::strict {
 
 // What text becomes as a value of the type.
 enum class ValueSyntax : uint8_t {
-  kDirectoryString,  // PrintableString or UTF8String, as the caller's policy has it
-  kPrintable,
-  kIA5,
-  kNumeric,
-  kUtf8,
-  kIA5OrUtf8,      // IA5String where the characters allow it (RFC 2985 5.4.1)
-  kPostalAddress,  // lines (postal_address.h)
-  kNoText,         // no string: written as # and the digits of its encoding alone
+  kDirectoryString = ORTHOLAN_SYNTAX_FREE_TEXT,
+  kPrintable = ORTHOLAN_SYNTAX_PRINTABLE,
+  kIA5 = ORTHOLAN_SYNTAX_IA5,
+  kNumeric = ORTHOLAN_SYNTAX_NUMERIC,
+  kUtf8 = ORTHOLAN_SYNTAX_UTF8,
+  kIA5OrUtf8 = ORTHOLAN_SYNTAX_IA5_OR_UTF8,  // as RFC 2985 5.4.1 has it
+  kPostalAddress = ORTHOLAN_SYNTAX_POSTAL_ADDRESS,
+  kNoText = ORTHOLAN_SYNTAX_NO_TEXT,
 };
 
 // Content octets of an identifier, made from its dotted text by the compiler.

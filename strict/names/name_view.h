@@ -73,7 +73,7 @@ class NameView {
   NameView() = default;
 
   // Reads a Name that is the whole of `der`. `*name` changes only on success. With
-  // Leniency::kStructure values are any element and SETs stand in any order.
+  // Leniency::kStructure strings are not looked at and SETs stand in any order.
   static bool Read(ByteView der, Leniency leniency, NameView* name, Refusal* refusal);
   // A Name that was read before and found to have as many RDNs and attributes.
   static NameView OfChecked(ByteView der, size_t rdn_count, size_t attribute_count);

@@ -150,18 +150,25 @@ row "survey, refused" 0 '~ +several attributes in one RDN +2' "" survey multi_va
 
 # Extensions and general names, octets by hand from X.690 and RFC 5280.
 row "critical extension" 0 \
-  $'2.5.29.15\ncritical\n030205A0\n300E0603551D0F0101FF0404030205A0\n' "" \
+  $'2.5.29.15\ncritical\n030205A0\n300E0603551D0F0101FF0404030205A0\nKey Usage: digitalSignature, keyEncipherment\n' "" \
   extension 300E0603551D0F0101FF0404030205A0
 row "extension with an encoded default" 0 \
-  $'2.5.29.15\nnot critical\n030205A0\n300B0603551D0F0404030205A0\n' "" \
+  $'2.5.29.15\nnot critical\n030205A0\n300B0603551D0F0404030205A0\nKey Usage: digitalSignature, keyEncipherment\n' "" \
   extension 300E0603551D0F0101000404030205A0
 row "extension of one part" 1 "" "x509name: extension: the extension cannot be read$(code 0x80093103)" \
   extension 30050603551D0F
 row "extension cut short" 1 "" "x509name: extension: .*$(code 0x80093103)" \
   extension 300E0603551D0F0101FF0404030205
-row "DNS name" 0 $'2\texample.org\n' "" general-name 820B6578616D706C652E6F7267
-row "address" 0 $'7\t135:4:192:0:2:1\n' "" general-name 8704C0000201
-row "registered identifier" 0 $'8\t1.2.3.4\n' "" general-name 88032A0304
+row "DNS name" 0 $'2\texample.org\nDNS:example.org\n' "" general-name 820B6578616D706C652E6F7267
+row "address" 0 $'7\t135:4:192:0:2:1\nIP:192.0.2.1\n' "" general-name 8704C0000201
+row "registered identifier" 0 $'8\t1.2.3.4\nRID:1.2.3.4\n' "" general-name 88032A0304
+row "general name as JSON" 0 '{"tag":7,"kind":"iPAddress","text":"192.0.2.1","libraryText":"135:4:192:0:2:1"}'"$line" "" \
+  general-name --json 8704C0000201
+row "extension as JSON" 0 '{"oid":"2.5.29.15","name":"Key Usage","critical":true,"value":"030205A0","content":["digitalSignature","keyEncipherment"]}'"$line" "" \
+  extension --json 300E0603551D0F0101FF0404030205A0
+row "extension that is no DER" 0 '~ *\(no DER: at offset 2: a default value is written out\)' "" \
+  extension 300C0603551D1304053003010100
+row "extension that is not what it is called" 0 '~Key Usage: 05 00' "" extension 30090603551D0F04020500
 # Four octets, A0 02 05 00, are U+02A0 and U+0005, and a text of four units.
 row "other name" 0 "#3009CAA00500000A" "" general-name A0020500
 row "general name cut short" 1 "" "x509name: general-name: .*$(code 0x80093103)" general-name 82

@@ -102,3 +102,11 @@ row "file that cannot be made" 1 "" \
   "x509name: encode: cannot create nowhere/a\.der$(code 82)" encode --out nowhere/a.der 'CN=Alpha'
 row "file with a Cyrillic name" 0 "" "" encode --out имя.der 'CN=Alpha'
 row "the same file read" 0 "CN=Alpha$line" "" decode имя.der
+
+row "a type by a name of any letter case" 0 \
+  $'1.2.840.113549.1.9.1\temailAddress, E, email, pkcs9email\tIA5String\t255\n' "" types PKCS9EMAIL
+row "types by dotted digits, in the order asked" 0 \
+  $'2.5.4.97\torganizationIdentifier, orgId\tfree text\t256\n2.5.4.3\tCN, commonName\tfree text\t64\n' \
+  "" types 2.5.4.97 CN
+row "all types" 0 $'~.*\n2\\.5\\.4\\.16\tpostalAddress\tlines of free text\t\n.*' "" types
+row "a type without a name" 1 "" "x509name: types: no type is called 1\.2\.3; .*" types 1.2.3

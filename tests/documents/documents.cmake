@@ -10,7 +10,7 @@ endif()
 
 foreach(document IN ITEMS README.md docs/getting-started.md docs/recipes.md docs/name-text.md
     docs/rfc4514.md docs/c-interface.md docs/identity.md docs/matching.md
-    docs/constraints.md docs/show.md)
+    docs/constraints.md docs/extensions.md docs/show.md)
   ortholan_document_programs(${document})
 endforeach()
 
@@ -18,6 +18,7 @@ if(NOT ORTHOLAN_CHECK_SOURCES)
   return()
 endif()
 ortholan_test(document_tests SHARED documents/page.cpp documents/tables_test.cpp
-  documents/constraints_table_test.cpp documents/check_table_test.cpp support/certificates.cpp)
+  documents/constraints_table_test.cpp documents/check_table_test.cpp documents/extensions_table_test.cpp
+  support/certificates.cpp)
 get_filename_component(root "${ORTHOLAN_TEST_ROOT}" DIRECTORY)
 target_compile_definitions(document_tests PRIVATE ORTHOLAN_TEST_SOURCES="${root}")

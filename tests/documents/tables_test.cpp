@@ -198,31 +198,44 @@ void CheckRfc4514Refusal(const std::vector<Cell>& cells) {
   EXPECT_EQ(ortholan::ExplainNameText(cells[0].Value(), name.refusal()).message, cells[2].Value());
 }
 
-// The string type that a value of digits gets under each policy.
+std::string NamesOf(const ortholan::AttributeType& type) {
+  std::string names(type.name());
+  if (type.long_name() != type.name()) names.append(", ").append(type.long_name());
+  if (!type.aliases().empty()) names += ", ";
+  for (const char c : type.aliases()) names += c == ' ' ? ", " : std::string(1, c);
+  return names;
+}
+
+// A row of the table of types, and the string type that a value of digits gets under each policy.
 void CheckRfc4514Type(const std::vector<Cell>& cells) {
   const struct {
     const char* told;
     uint32_t chosen;
     uint32_t by_utf8;
-  } kTypes[] = {{"free text", 0x13, 0x0C},  {"PrintableString", 0x13, 0x13},
-                {"IA5String", 0x16, 0x16},  {"NumericString", 0x12, 0x12},
-                {"UTF8String", 0x0C, 0x0C}, {"IA5String or UTF8String", 0x16, 0x16},
-                {"none, # alone", 0, 0}};
+  } kSyntaxes[] = {{"free text", 0x13, 0x0C},          {"PrintableString", 0x13, 0x13},
+                   {"IA5String", 0x16, 0x16},          {"NumericString", 0x12, 0x12},
+                   {"UTF8String", 0x0C, 0x0C},         {"IA5String or UTF8String", 0x16, 0x16},
+                   {"lines of free text", 0x30, 0x30}, {"none, `#` alone", 0, 0}};
+  const auto oid = ortholan::OidFromText(cells[0].text).value();
+  const auto type = ortholan::AttributeTypeOf(oid);
+  ASSERT_TRUE(type) << cells[0].text;
+  EXPECT_EQ(NamesOf(*type), cells[1].text);
+  EXPECT_EQ(type->bound() == 0 ? "" : std::to_string(type->bound()), cells[3].text);
+  const auto& syntax = kSyntaxes[static_cast<size_t>(type->syntax())];
+  EXPECT_EQ(syntax.told, cells[2].text);
   ortholan::Rfc4514 utf8;
   utf8.strings = ortholan::StringPolicy::kUtf8;
   for (std::string names = cells[1].text + ", "; !names.empty();
        names.erase(0, names.find(", ") + 2)) {
-    const std::string text = names.substr(0, names.find(", ")) + "=1";
-    const auto first = ortholan::Name::FromText(text);
-    const auto second = ortholan::Name::FromText(text, utf8);
-    for (const auto& type : kTypes) {
-      if (cells[2].text != type.told) continue;
-      ASSERT_EQ(first.has_value(), type.chosen != 0) << text;
-      if (!first) continue;
-      EXPECT_EQ(first->view().begin()->identifier(), type.chosen) << text;
-      EXPECT_EQ(second->view().begin()->identifier(), type.by_utf8) << text;
-      EXPECT_EQ(ortholan::OidToText(first->view().begin()->type()).value(), cells[0].text);
-    }
+    const std::string name = names.substr(0, names.find(", "));
+    EXPECT_EQ(ortholan::AttributeTypeNamed(name).value().oid(), ortholan::Octets(oid)) << name;
+    const auto first = ortholan::Name::FromText(name + "=1");
+    const auto second = ortholan::Name::FromText(name + "=1", utf8);
+    ASSERT_EQ(first.has_value(), syntax.chosen != 0) << name;
+    if (!first) continue;
+    EXPECT_EQ(first->view().begin()->identifier(), syntax.chosen) << name;
+    EXPECT_EQ(second->view().begin()->identifier(), syntax.by_utf8) << name;
+    EXPECT_EQ(first->view().begin()->type(), ortholan::Octets(oid));
   }
 }
 

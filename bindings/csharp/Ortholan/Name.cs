@@ -126,6 +126,28 @@ namespace Ortholan
             }
         }
 
+        /// <summary>Makes a name of types and values, an RDN each, the most significant first. A type is a
+        /// name such as CN or dotted digits; the exception's Item says which attribute was
+        /// refused.</summary>
+        /// <exception cref="RefusedException"/>
+        public static Name Build(params (string Type, string Value)[] attributes)
+        {
+            using (var call = new Call())
+            {
+                var plain = (Native.NewAttribute*)call.New(sizeof(Native.NewAttribute), attributes.Length);
+                for (int i = 0; i < attributes.Length; ++i)
+                {
+                    plain[i].type = call.Text(attributes[i].Type);
+                    plain[i].text = call.Text(attributes[i].Value);
+                }
+                Native.Refusal where = RefusedException.NoPlace;
+                int reason = Call.TryWrite((room, size, needs, place) => Native.Calls.ortholan_name_build(
+                    plain, (UIntPtr)attributes.Length, null, room, size, needs, place), &where, out byte[] der);
+                RefusedException.ThrowIf(reason, where, unchecked((int)where.met));
+                return new Name(der, Reading.Structure);
+            }
+        }
+
         /// <summary>Reads a Name that is the whole of the octets.</summary>
         /// <exception cref="RefusedException"/>
         public static Name FromDer(ReadOnlySpan<byte> der, Reading reading = Reading.Der)

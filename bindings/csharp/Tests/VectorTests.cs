@@ -82,6 +82,13 @@ namespace Ortholan.Tests
         }
 
         [Test]
+        public void NamesThatAreBuilt()
+        {
+            Assert.AreEqual(2, Refusal(() => Name.Build(("C", "RU"), ("CN", ""), ("FOO", "x"))).Item);
+            Assert.AreEqual(Name.Parse("CN=А,DC=org"), Name.Build(("DC", "org"), ("CN", "А")));
+        }
+
+        [Test]
         public void NamesThatAreRead()
         {
             Row.Each("strict_names.tsv", row =>
@@ -221,6 +228,23 @@ namespace Ortholan.Tests
             Identity answer = certificate.Identify(ReferenceKind.Host, "EXAMPLE.org");
             Assert.AreEqual("DNS:example.org", answer.Name.ToString());
             Refusal(() => PemBlock.ReadAll("-----BEGIN A-----\n"));
+        }
+
+        [Test]
+        public void Extensions()
+        {
+            string pem = File.ReadAllText(Path.Combine(Row.Data, "certificates", "typed.pem"));
+            Certificate certificate = Certificate.FromDer(PemBlock.ReadAll(pem).Single().Octets);
+            foreach (Extension extension in certificate.Extensions)
+            {
+                string json = extension.ToJson();
+                Assert.AreEqual(extension.Value, ExtensionJson.ValueFromJson(extension.Type, json), json);
+                StringAssert.EndsWith("\n", extension.ToWords());
+            }
+            byte[] list = ExtensionJson.ExtensionsFromJson(certificate.ExtensionsToJson());
+            StringAssert.Contains(Hex.Digits(list), Hex.Digits(certificate.ToDer()));
+            Assert.AreEqual(6,
+                Refusal(() => ExtensionJson.ValueFromJson("basicConstraints", "{\"cA\":1}")).Offset);
         }
     }
 }

@@ -1,10 +1,11 @@
 // Certificates, certificate requests and revocation lists (RFC 5280, RFC 2986): names, times,
 // extensions. Keys and signatures are not looked at.
+import { Extension } from "./extensions.js";
 import { parseGeneralNames } from "./general_names.js";
 import { octetsOf, readInput } from "./input.js";
 import { layout, run, textOf } from "./memory.js";
 import { Name } from "./names.js";
-import { oidFromText, oidToText } from "./oid.js";
+import { oidFromText } from "./oid.js";
 import { readings, word } from "./options.js";
 import { Refused } from "./refused.js";
 
@@ -26,15 +27,6 @@ function timeText(time) {
       (...out) => call.invoke("ortholan_time_to_text", at, ...out));
     if (reason !== 0) throw new Refused(reason, call.reasonSentence(reason));
     return textOf(octets);
-  });
-}
-
-function makeExtension(found) {
-  return Object.freeze({
-    oid: oidToText(found.oid),
-    critical: found.critical === 1,
-    value: found.value,
-    der: found.bytes,
   });
 }
 
@@ -87,7 +79,7 @@ export class Certificate {
 
   get extensions() {
     return run((call) => [...call.each("ortholan_certificate_view_next_extension",
-      this.#read(call), extensionView)]).map(makeExtension);
+      this.#read(call), extensionView)]).map((found) => new Extension(found, this.#reading));
   }
 
   /** The one extension of a type, or null. One that stands there twice is refused. */
@@ -101,7 +93,7 @@ export class Certificate {
         if (error.code === "NOT_FOUND") return null;
         throw error;
       }
-      return makeExtension(call.read(extensionView, found));
+      return new Extension(call.read(extensionView, found), this.#reading);
     });
   }
 

@@ -139,13 +139,32 @@ export function encodeGeneralName(text: string, options?: { allowRange?: boolean
 export function buildAltNames(
   texts: string[], options?: { form?: "value" | "critical" | "extension" }): Uint8Array;
 
-export interface Extension {
+export type Json = null | boolean | number | string | Json[] | { [member: string]: Json };
+
+/** One extension; a value that is malformed is refused when its meaning is asked for. */
+export class Extension {
+  private constructor();
   readonly oid: string;
+  /** "basicConstraints"; null for one that is not known. */
+  readonly name: string | null;
   readonly critical: boolean;
   /** Inside the OCTET STRING. */
   readonly value: Uint8Array;
   readonly der: Uint8Array;
+  /** The value, its members called as the standard calls its parts: { cA: true }. */
+  readonly json: Json;
+  /** The same in plain words for people, a line for each fact. */
+  readonly text: string;
+  toJSON(): Json;
 }
+/** What a type is called: "basicConstraints", and "Basic Constraints" for people; or null. */
+export function extensionType(oid: string): { oid: string; name: string; title: string } | null;
+/** The value of an extension in DER, by name or dotted digits, of what Extension.json gives. */
+export function encodeExtension(type: string, json: Json): Uint8Array;
+/** SEQUENCE OF Extension in DER. */
+export function buildExtensions(
+  extensions: Array<({ oid: string } | { name: string }) & { critical?: boolean; value: Json }>
+): Uint8Array;
 
 /** A certificate, request or revocation list; what is malformed inside is refused when asked for. */
 export class Certificate {

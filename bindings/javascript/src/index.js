@@ -2,6 +2,7 @@
 // has to be freed, and threads do not share anything.
 export { Certificate, parseCertificate, parseCertificates } from "./certificates.js";
 export { permitted, permittedNames } from "./constraints.js";
+export { buildExtensions, encodeExtension, Extension, extensionType } from "./extensions.js";
 export {
   buildAltNames, encodeGeneralName, GeneralName, parseGeneralName, parseGeneralNames,
 } from "./general_names.js";

@@ -42,7 +42,14 @@ function open() {
   }
   const { exports } = new WebAssembly.Instance(module, imports);
   exports._initialize();
-  return exports;
+  return look({ exports });
+}
+
+// A heap that grows leaves the views of its old place without octets.
+function look(library) {
+  library.heap = new Uint8Array(library.exports.memory.buffer);
+  library.view = new DataView(library.exports.memory.buffer);
+  return library;
 }
 
 // The fields of a C structure: "i" a signed number, "u" an unsigned one or a size, "o" octets or
@@ -73,17 +80,23 @@ export function utf8(text) {
 }
 
 class Call {
-  #exports;
+  #library;
   #blocks = [];
 
-  constructor(exports) {
-    this.#exports = exports;
+  constructor(library) {
+    this.#library = library;
+  }
+
+  get #heap() {
+    return this.#library.heap;
   }
 
   /** Calls a function of the library. A stop of the module is told as lack of memory. */
   invoke(name, ...args) {
     try {
-      return this.#exports[name](...args);
+      const result = this.#library.exports[name](...args);
+      if (this.#heap.length === 0) look(this.#library);
+      return result;
     } catch (cause) {
       library = undefined;
       this.#blocks = [];
@@ -93,7 +106,7 @@ class Call {
 
   free() {
     for (const block of this.#blocks) this.invoke("free", block);
-    if (this.#exports.memory.buffer.byteLength > keptBytes) library = undefined;
+    if (this.#heap.length > keptBytes) library = undefined;
   }
 
   /** Zeros for a structure, or for so many octets. */
@@ -102,22 +115,14 @@ class Call {
     const block = size < mostBytes ? this.invoke("malloc", size + 1) : 0;
     if (block === 0) throw new Refused(memoryReason, "there is not enough memory");
     this.#blocks.push(block);
-    this.#octets(block, size).fill(0);
+    this.#heap.fill(0, block, block + size);
     return block;
-  }
-
-  #octets(at, size) {
-    return new Uint8Array(this.#exports.memory.buffer, at, size);
-  }
-
-  #view() {
-    return new DataView(this.#exports.memory.buffer);
   }
 
   /** Octets in the module's memory, as a structure has them. */
   place(octets) {
     const data = this.room(octets.length);
-    this.#octets(data, octets.length).set(octets);
+    this.#heap.set(octets, data);
     return { data, size: octets.length };
   }
 
@@ -138,7 +143,7 @@ class Call {
   }
 
   write(layout, at, values) {
-    const view = this.#view();
+    const { view } = this.#library;
     for (const { name, type, offset } of layout.fields) {
       const value = values[name] ?? 0;
       if (type !== "o") {
@@ -159,7 +164,7 @@ class Call {
 
   /** A structure's numbers; of octets a copy. */
   read(layout, at) {
-    const view = this.#view();
+    const { view } = this.#library;
     const found = {};
     for (const { name, type, offset } of layout.fields) {
       if (type === "i") {
@@ -167,7 +172,8 @@ class Call {
       } else {
         found[name] = view.getUint32(at + offset, true);
         if (type === "o") {
-          found[name] = this.#octets(found[name], view.getUint32(at + offset + 4, true)).slice();
+          const size = view.getUint32(at + offset + 4, true);
+          found[name] = this.#heap.slice(found[name], found[name] + size);
         }
       }
     }
@@ -176,8 +182,7 @@ class Call {
 
   /** A text that ends with NUL. */
   terminated(at) {
-    const octets = this.#octets(at, this.#exports.memory.buffer.byteLength - at);
-    return decoder.decode(octets.subarray(0, octets.indexOf(0)));
+    return decoder.decode(this.#heap.subarray(at, this.#heap.indexOf(0, at)));
   }
 
   /** What `body(out, room, size)` writes, asked again where the room was too small. */
@@ -187,7 +192,7 @@ class Call {
       const out = this.room(room);
       const reason = body(out, room, size);
       const needed = this.read(number, size).value;
-      if (reason !== roomReason) return { reason, octets: this.#octets(out, needed).slice() };
+      if (reason !== roomReason) return { reason, octets: this.#heap.slice(out, out + needed) };
       room = needed;
     }
   }

@@ -70,7 +70,8 @@ test("a certificate, whom it is for, and a chain", () => look({}, async ({ click
   await click("[data-sample=certificate]");
   assert.match(await text("#status"), /^certificate, \d+ octets$/i);
   const facts = seen(await text("#facts"));
-  for (const part of ["CN=www.example.org,O=Bücher & Söhne", "4F1E2D3C", "IP:2001:db8::7"]) {
+  for (const part of ["CN=www.example.org,O=Bücher & Söhne", "4F1E2D3C", "IP:2001:db8::7",
+    "keyUsage 2.5.29.15 critical digitalSignature"]) {
     assert.ok(facts.includes(part), part);
   }
   await click("#asked");
@@ -106,6 +107,17 @@ test("texts, pasted in any form", () => look({}, async ({ evaluate, paste, text 
     assert.ok((await text("#status")).toLowerCase().includes(status.toLowerCase()),
       `${pasted}: ${await text("#status")}`);
   }
+  const drop = (digits) => evaluate(`(() => {
+    const dataTransfer = new DataTransfer();
+    const octets = "${digits}".match(/../g).map((each) => Number.parseInt(each, 16));
+    dataTransfer.items.add(new File([new Uint8Array(octets)], "a.der"));
+    document.querySelector("#facts").dispatchEvent(
+      new DragEvent("drop", { dataTransfer, bubbles: true, cancelable: true }));
+    return new Promise((resolve) => { setTimeout(resolve, 250); });
+  })()`);
+  await drop("300C310A300806035504030C0142");
+  assert.ok((await text("#facts")).includes("CN=B"));
+  assert.equal(await evaluate(`document.querySelector("#input").value`), "MAwxCjAIBgNVBAMMAUI=");
   // The caret stands below the character, whatever stands before it.
   await paste("CN=Ж漢字, foo");
   const [met, caret] = await evaluate(`[".met", ".caret"].map((each) => {

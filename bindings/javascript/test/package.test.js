@@ -7,8 +7,8 @@ import path from "node:path";
 import { after, test } from "node:test";
 import { fileURLToPath } from "node:url";
 import {
-  buildAltNames, Certificate, encodeName, identify, Name, parseCertificates, parseGeneralNames,
-  parseName, permitted, readInput, Refused,
+  buildAltNames, buildExtensions, Certificate, encodeExtension, encodeName, extensionType, identify,
+  Name, parseCertificates, parseGeneralNames, parseName, permitted, readInput, Refused,
 } from "../../../build/javascript/ortholan/index.js";
 import { element } from "./der.js";
 import { hex, octets } from "./vectors.js";
@@ -65,6 +65,7 @@ test("what the document has people run", () => {
   for (const block of blocks) {
     const expected = [...block.matchAll(/\/\/ (?:→ )(.*)/g)].map((match) => match[1]);
     fs.writeFileSync(path.join(project, "server.pem"), pem("alternative_names.pem"));
+    fs.writeFileSync(path.join(project, "typed.pem"), pem("typed.pem"));
     const printed = inProject("node", "--input-type=module", "-e", block);
     assert.deepEqual(printed.trimEnd().split("\n"), expected);
   }
@@ -89,6 +90,20 @@ test("certificates, requests and revocation lists", () => {
   assert.equal(parseCertificates(two).length, 2);
   assert.throws(() => new Certificate(two), /^Refused: 2 PEM blocks where one is wanted$/);
   assert.equal(permitted(["3000"]).verdict, "cannot tell");
+});
+
+test("extensions by what they mean", () => {
+  const { extensions } = new Certificate(pem("typed.pem"));
+  const basic = extensions.find((each) => each.name === "basicConstraints");
+  assert.deepEqual(basic.json, { cA: true, pathLenConstraint: 3 });
+  assert.equal(basic.text, "certificate authority: yes\npath length: 3\n");
+  for (const each of extensions) {
+    assert.equal(hex(encodeExtension(each.oid, each.json)), hex(each.value));
+  }
+  assert.equal(hex(buildExtensions(JSON.parse(JSON.stringify(extensions)))),
+    hex(element(0x30, ...extensions.map((each) => each.der))));
+  assert.throws(() => encodeExtension("keyUsage", ["flying"]), { code: "JSON_WORD" });
+  assert.equal(extensionType("1.2.3"), null);
 });
 
 test("what people paste", () => {

@@ -1,6 +1,6 @@
 // Compiled, never run: what the types allow, and what they refuse.
 import {
-  buildAltNames, Certificate, encodeName, identify, Name, parseCertificate, parseGeneralNames,
+  buildAltNames, Certificate, encodeExtension, encodeName, identify, Name, parseCertificate, parseGeneralNames,
   permitted, readInput, Refused, type Verdict,
 } from "ortholan";
 
@@ -13,6 +13,8 @@ const verdict: Verdict = permitted([certificate, "3000"], { mostFindings: 3 });
 const reasons: string[] = answer.mismatches.map((mismatch) => `${mismatch.text}: ${mismatch.code}`);
 const all: Uint8Array[] = readInput(buildAltNames(["DNS:a"], { form: "critical" }));
 const kinds = parseGeneralNames(all[0]).filter((each) => each.kind === "dNSName");
+const meanings = certificate.extensions.map((each) => ({ name: each.name ?? each.oid, is: each.json }));
+const value: Uint8Array = encodeExtension("basicConstraints", { cA: true });
 const place = (error: unknown): number | undefined =>
   error instanceof Refused ? error.index ?? error.offset : undefined;
 
@@ -25,4 +27,4 @@ name.equals(name, { rule: "loose" });
 // @ts-expect-error: values do not change
 name.der = new Uint8Array();
 
-export { texts, subject, verdict, reasons, kinds, place };
+export { texts, subject, verdict, reasons, kinds, meanings, value, place };

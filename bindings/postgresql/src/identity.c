@@ -2,11 +2,15 @@
 #include "certificates.h"
 // After what they need.
 #include <catalog/pg_type_d.h>
+#include <executor/executor.h>
+#include <funcapi.h>
+#include <miscadmin.h>
 #include <utils/array.h>
 #include <utils/builtins.h>
 
 PG_FUNCTION_INFO_V1(x509_identifies);
 PG_FUNCTION_INFO_V1(x509_identifies_reason);
+PG_FUNCTION_INFO_V1(x509_presented_names);
 PG_FUNCTION_INFO_V1(x509_permitted);
 PG_FUNCTION_INFO_V1(x509_permitted_reason);
 
@@ -28,21 +32,34 @@ static int32_t kind_of(const char* word) {
                   errhint("Kinds are host, ip, email, uri and srv.")));
 }
 
-// Asks whether the certificate (0) is for the reference (1) of a kind (2). Returns where the
-// question is none, and where the certificate cannot be read, for NULL, or raises an error.
-static bool identify(FunctionCallInfo fcinfo, bool is_soft, ortholan_identity* identity) {
-  ortholan_reference reference = {.kind = kind_of(text_to_cstring(PG_GETARG_TEXT_PP(2)))};
-  if (!utf8_of_datum(PG_GETARG_DATUM(1), is_soft, &reference.text)) return false;
+// What was asked, and the answer.
+typedef struct question {
+  ortholan_reference reference;
+  ortholan_reason reason;  // why the question is none
   ortholan_refusal refusal;
-  const ortholan_octets der = OCTETS_OF_ARG(0);
-  const ortholan_reason reason = ortholan_identify(der, &reference, identity, &refusal);
-  if (reason != ORTHOLAN_REASON_NONE) {
-    refuse(VALUE_REFERENCE, &refusal, is_soft);
-    return false;
+  ortholan_identity identity;
+} question;
+
+// Asks whether the certificate (0) is for the reference (1) of a kind (2).
+static question ask(FunctionCallInfo fcinfo) {
+  question asked = {.reference.kind = kind_of(text_to_cstring(PG_GETARG_TEXT_PP(2)))};
+  utf8_of_datum(PG_GETARG_DATUM(1), false, &asked.reference.text);
+  asked.reason =
+      ortholan_identify(OCTETS_OF_ARG(0), &asked.reference, &asked.identity, &asked.refusal);
+  check_call(asked.reason);
+  return asked;
+}
+
+// The same; a question that is none, and a certificate that cannot be read, are errors unless
+// `is_soft`.
+static question ask_or_refuse(FunctionCallInfo fcinfo, bool is_soft) {
+  const question asked = ask(fcinfo);
+  if (asked.reason != ORTHOLAN_REASON_NONE) {
+    refuse(VALUE_REFERENCE, &asked.refusal, is_soft);
+  } else if (asked.identity.verdict == ORTHOLAN_VERDICT_CANNOT_TELL) {
+    refuse(VALUE_CERTIFICATE, &asked.refusal, is_soft);
   }
-  if (identity->verdict != ORTHOLAN_VERDICT_CANNOT_TELL) return true;
-  refuse(VALUE_CERTIFICATE, &refusal, is_soft);
-  return true;
+  return asked;
 }
 
 static Datum verdict_of(FunctionCallInfo fcinfo, ortholan_verdict verdict) {
@@ -51,18 +68,35 @@ static Datum verdict_of(FunctionCallInfo fcinfo, ortholan_verdict verdict) {
 }
 
 Datum x509_identifies(PG_FUNCTION_ARGS) {
-  ortholan_identity identity;
-  if (!identify(fcinfo, PG_GETARG_BOOL(3), &identity)) PG_RETURN_NULL();
-  return verdict_of(fcinfo, identity.verdict);
+  const question asked = ask_or_refuse(fcinfo, PG_GETARG_BOOL(3));
+  return verdict_of(fcinfo, asked.identity.verdict);
 }
 
 Datum x509_identifies_reason(PG_FUNCTION_ARGS) {
-  ortholan_identity identity;
-  if (!identify(fcinfo, true, &identity)) {
-    PG_RETURN_TEXT_P(cstring_to_text("the question is no reference of its kind"));
+  const question asked = ask(fcinfo);
+  if (asked.identity.verdict == ORTHOLAN_VERDICT_YES) PG_RETURN_NULL();
+  if (asked.refusal.reason != ORTHOLAN_REASON_NONE) return refusal_text(&asked.refusal);
+  PG_RETURN_TEXT_P(cstring_to_text(ortholan_reason_sentence(asked.identity.reason)));
+}
+
+// The names that were looked at, each with the reason why it is not the one; NULL for one that is.
+Datum x509_presented_names(PG_FUNCTION_ARGS) {
+  const bool is_soft = PG_GETARG_BOOL(3);
+  ReturnSetInfo* const result = (ReturnSetInfo*)fcinfo->resultinfo;
+  InitMaterializedSRF(fcinfo, MAT_SRF_USE_EXPECTED_DESC);
+  const question asked = ask_or_refuse(fcinfo, is_soft);
+  ortholan_presented_name name;
+  for (size_t at = 0;
+       ortholan_identity_explain(&asked.identity, &asked.reference, &at, &name) == 0;) {
+    CHECK_FOR_INTERRUPTS();
+    Datum columns[] = {general_name_text(name.bytes, is_soft), 0};
+    if (name.reason != ORTHOLAN_REASON_NONE) {
+      columns[1] = CStringGetTextDatum(ortholan_reason_sentence(name.reason));
+    }
+    bool nulls[] = {columns[0] == 0, columns[1] == 0};
+    tuplestore_putvalues(result->setResult, result->setDesc, columns, nulls);
   }
-  if (identity.verdict == ORTHOLAN_VERDICT_YES) PG_RETURN_NULL();
-  PG_RETURN_TEXT_P(cstring_to_text(ortholan_reason_sentence(identity.reason)));
+  PG_RETURN_NULL();
 }
 
 // Holds the certificates of an array (0) against the name constraints among them. Whether one was

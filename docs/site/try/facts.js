@@ -1,6 +1,6 @@
 // Certificates, names and general names in words.
+import { Certificate } from "ortholan";
 import { attempt, copyButton, count, h, hex, hexStart, shown, wrong } from "./dom.js";
-import { nameOfExtension } from "./meaning.js";
 
 const stringTypes = { 0x0c: "UTF8String", 0x12: "NumericString", 0x13: "PrintableString",
   0x14: "TeletexString", 0x16: "IA5String", 0x1a: "VisibleString", 0x1c: "UniversalString",
@@ -83,23 +83,31 @@ function named(name) {
     h("code", null, text.slice(colon + 1))];
 }
 
-function extension(each) {
-  const name = nameOfExtension(each);
-  return h("li", null,
-    h("p", { class: "title" }, h("strong", null, name ?? each.oid),
-      name === undefined ? null : h("span", { class: "quiet" }, each.oid),
-      each.critical ? h("span", { class: "critical" }, "critical") : null),
-    attempt(() => meaning(each), wrong));
+const mostText = 20_000;
+
+function meaning(text) {
+  return h("pre", { class: "meaning" },
+    text.length > mostText ? `${text.slice(0, mostText)} …` : text.trimEnd());
 }
 
-function meaning(each) {
-  return h("pre", { class: "meaning" }, each.text ?? hexStart(each.value));
+/** One extension; of a value that is refused also what a lenient reading has, or its octets. */
+function extension(each, leniently) {
+  return h("li", null,
+    h("p", { class: "title" }, h("strong", null, each.name ?? each.oid),
+      each.name === null ? null : h("span", { class: "quiet" }, each.oid),
+      each.critical ? h("span", { class: "critical" }, "critical") : null),
+    attempt(() => meaning(each.text), (sentence) => [wrong(sentence),
+      attempt(() => meaning(leniently().text), () => meaning(hexStart(each.value)))]));
+}
+
+function extensions(certificate) {
+  const lenient = new Certificate(certificate.der, { reading: "lenient" });
+  return attempt(() => h("ul", { class: "extensions" }, certificate.extensions.map(
+    (each, i) => extension(each, () => lenient.extensions[i]))), wrong);
 }
 
 function certificateSections(certificate) {
   const serial = certificate.serialNumber;
-  const extensions = attempt(() => h("ul", { class: "extensions" },
-    certificate.extensions.map(extension)), wrong);
   return [
     section(certificate.kind[0].toUpperCase() + certificate.kind.slice(1), pairs([
       party("Subject", () => certificate.subject),
@@ -109,7 +117,7 @@ function certificateSections(certificate) {
     ])),
     certificate.kind === "revocation list" ? null :
       section("Alternative names", altNames(certificate)),
-    section("Extensions", extensions),
+    section("Extensions", extensions(certificate)),
   ];
 }
 

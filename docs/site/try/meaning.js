@@ -1,5 +1,5 @@
 // What an element is, in words: its type and its value.
-import { parseName } from "ortholan";
+import { extensionType, parseName } from "ortholan";
 import { count, hexStart, shown } from "./dom.js";
 import { oidOf } from "./schema.js";
 
@@ -55,6 +55,8 @@ export function identifierName(element) {
   const dotted = oidOf(element);
   if (identifiers[dotted] !== undefined) return identifiers[dotted];
   try {
+    const extension = extensionType(dotted);
+    if (extension !== null) return extension.name;
     return element.inside.length < 0x60 ? attributeName(element.inside) : undefined;
   } catch {
     return undefined;
@@ -105,15 +107,4 @@ export function describe(element) {
   const size = element.end - element.content;
   return `${typeOf(element)} at ${count(element.start)}: ${count(element.content - element.start)} ` +
     `+ ${count(size, "octet")}`;
-}
-
-const extensionNames = { "2.5.29.14": "subjectKeyIdentifier", "2.5.29.15": "keyUsage",
-  "2.5.29.17": "subjectAltName", "2.5.29.18": "issuerAltName", "2.5.29.19": "basicConstraints",
-  "2.5.29.20": "cRLNumber", "2.5.29.30": "nameConstraints", "2.5.29.31": "cRLDistributionPoints",
-  "2.5.29.32": "certificatePolicies", "2.5.29.35": "authorityKeyIdentifier",
-  "2.5.29.37": "extKeyUsage", "1.3.6.1.5.5.7.1.1": "authorityInfoAccess" };
-
-/** The name of an extension's type; undefined for one that is not known. */
-export function nameOfExtension(extension) {
-  return extensionNames[extension.oid];
 }

@@ -148,8 +148,7 @@ enum {
   // order, strings outside their alphabet.
   ORTHOLAN_READ_LENIENT = 1,
   // DER but for what changes no meaning (the order of SETs, default values written out), and
-  // without
-  // a look at strings, which whoever compares values does himself.
+  // without a look at strings, which whoever compares values does himself.
   ORTHOLAN_READ_STRUCTURE = 2
 };
 

@@ -150,6 +150,7 @@ TEST(ExtensionText, IsPlainAndSafe) {
       {"basicConstraints", "{}", "  certificate authority: no\n"},
       {"keyUsage", R"(["cRLSign",9])", "  cRLSign, 9\n"},
       {"keyUsage", "[]", "  none\n"},
+      {"policyConstraints", "{}", "  none\n"},
       {"precertificatePoison", "null", "  present\n"},
       {"subjectAltName", "[]", "  none\n"},
       {"netscapeComment", R"("a\nb \\ \u001b[31m")", "  a\\0Ab \\\\ \\1B[31m\n"},

@@ -11,6 +11,11 @@ BEGIN
 END $$;
 CREATE FUNCTION extension(oid text, value bytea) RETURNS bytea LANGUAGE sql AS
   $$ SELECT tlv('30', tlv('06', octets(oid)), tlv('04', value)) $$;
+-- Certificate policies with a user notice.
+CREATE FUNCTION notice(characters bytea) RETURNS bytea LANGUAGE sql AS $$
+  SELECT extension('551D20', tlv('30', tlv('30', '\x0604551D2000', tlv('30', tlv('30',
+    '\x06082B06010505070202', tlv('30', tlv('0C', characters)))))))
+$$;
 -- A certificate with these extensions.
 CREATE FUNCTION certificate(issuer bytea, subject bytea, extensions bytea) RETURNS bytea LANGUAGE sql AS $$
   SELECT tlv('30', tlv('30', '\xA003020102020101', algorithm, issuer,

@@ -16,6 +16,8 @@ SELECT reference, kind, x509_identifies(der, reference, kind), x509_identifies_r
 FROM samples, (VALUES ('Example.ORG', 'host'), ('www.example.org', 'host'), ('192.0.2.1', 'ip'),
   ('user@example.org', 'email'), ('http://example.org', 'uri'), ('_ldap.example.org', 'srv'))
   AS asked (reference, kind) WHERE n = 1;
+SELECT p.* FROM samples, x509_presented_names(der, '192.0.2.1', 'ip') p WHERE n = 1;
+SELECT x509_identifies_reason(der, '192.0.2.1') FROM samples WHERE n = 1;
 SELECT x509_identifies(der, 'example.org') FROM samples WHERE n IN (2, 6) ORDER BY n;
 SELECT x509_identifies(der, 'example..org') FROM samples WHERE n = 1;
 SELECT x509_identifies(der, 'example.org', 'domain') FROM samples WHERE n = 1;
@@ -30,12 +32,13 @@ SELECT x509_permitted('{NULL}');
 -- What is malformed inside: a time, a list of names, names with a NUL and beyond ASCII, a duplicate.
 CREATE TABLE malformed AS SELECT what, certificate('\x3000', '\x3000', extensions) AS der
 FROM (VALUES ('list', extension('551D11', '\x3082')), ('NUL', extension('551D11', '\x30058203410042')),
-  ('beyond ASCII', extension('551D11', tlv('30', tlv('82', 'é')))),
+  ('beyond ASCII', extension('551D11', tlv('30', tlv('82', 'é'), tlv('82', '*.A.b'), tlv('81', 'c')))),
   ('duplicate', extension('551D11', '\x3000') || extension('551D11', '\x3000')),
-  ('type', extension('', '\x3000'))) AS made (what, extensions);
+  ('type', extension('', '\x3000')),
+  ('NUL in a text', notice('\x410042'))) AS made (what, extensions);
 INSERT INTO malformed SELECT 'time', overlay(der PLACING '2' FROM position('260101' IN der) + 2)
 FROM (SELECT certificate('\x3000', '\x3000', '') AS der) d;
-SELECT what, x509_certificate_error(der), x509_alt_names(der, true) AS names,
+SELECT what, x509_certificate_error(der), x509_dns_names(der, true) AS hosts, x509_alt_names(der, true) AS names,
   x509_alt_names(der, true, true) AS lenient, x509_not_before(der, true) AS begin,
   x509_identifies(der, 'a', malformed_ok => true) AS is_a,
   x509_identifies_reason(der, 'a') AS reason, x509_extensions(der, true) AS extensions

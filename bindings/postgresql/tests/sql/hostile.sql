@@ -11,6 +11,7 @@ CREATE FUNCTION read_all(der bytea) RETURNS boolean LANGUAGE sql AS $$
     x509_identifies(der, 'example.org', malformed_ok => true), x509_identifies_reason(der, '::1', 'ip'),
     x509_permitted(ARRAY[der, der], true), x509_permitted_reason(ARRAY[der]),
     x509_name_from_text(encode(der, 'escape'), true), (SELECT count(*) FROM x509_pem(encode(der, 'base64'), true)),
+    (SELECT count(reason) FROM x509_presented_names(der, 'a', malformed_ok => true)),
     (SELECT count(value) FROM x509_name_attributes(der, true)),
     (SELECT count(key) FROM x509_name_attributes(der, true, true))) > 0
 $$;

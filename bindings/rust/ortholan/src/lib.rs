@@ -8,6 +8,7 @@ mod languages {}
 mod call;
 mod certificate;
 mod constraints;
+mod extension_json;
 mod general_name;
 mod identity;
 mod matching;
@@ -19,6 +20,7 @@ mod verdict;
 
 pub use certificate::{Certificate, CertificateKind, Extension, Extensions};
 pub use constraints::{permits, permits_names, Finding, Permission, PermitOptions};
+pub use extension_json::{extension_from_json, extensions_from_json};
 pub use general_name::{
     alternative_names, AlternativeNames, GeneralName, GeneralNames, NameKind, OtherNameKind,
 };

@@ -242,6 +242,35 @@ impl Name {
         Ok(NameView::read_as(&der, Reading::Structure)?.to_name())
     }
 
+    /// A name of types and values, an RDN each, the most significant first. A type is a name such as CN
+    /// or dotted digits; [`Refusal::item`] says which attribute was refused.
+    ///
+    /// ```
+    /// let name = ortholan::Name::build(&[("C", "RU"), ("O", "Org, Ltd"), ("2.5.4.3", "Alpha")])?;
+    /// assert_eq!(name.to_string(), "CN=Alpha,O=Org\\, Ltd,C=RU");
+    /// # Ok::<(), ortholan::Refusal>(())
+    /// ```
+    pub fn build(attributes: &[(&str, &str)]) -> Result<Self, Refusal> {
+        let plain = |&(name, value): &(&str, &str)| ortholan_new_attribute {
+            oid: call::NOTHING,
+            r#type: call::text(name),
+            text: call::text(value),
+            element: call::NOTHING,
+            string_type: 0,
+            joins_rdn: 0,
+        };
+        let plain: Vec<_> = attributes.iter().map(plain).collect();
+        let der = call::placed(|out, room, size, refusal| unsafe {
+            let (first, count) = (plain.as_ptr(), plain.len());
+            ortholan_name_build(first, count, std::ptr::null(), out, room, size, refusal)
+        })
+        .map_err(|refusal| {
+            let item = refusal.met() as usize;
+            refusal.with_item(item)
+        })?;
+        Ok(NameView::read_as(&der, Reading::Structure)?.to_name())
+    }
+
     /// Reads a Name in DER that is the whole of `der`.
     pub fn from_der(der: &[u8]) -> Result<Self, Refusal> {
         Ok(NameView::read(der)?.to_name())

@@ -68,6 +68,13 @@ fn names_to_text() {
 }
 
 #[test]
+fn names_that_are_built() {
+    let refusal = Name::build(&[("C", "RU"), ("CN", ""), ("FOO", "x")]).unwrap_err();
+    assert_eq!(refusal.item(), Some(2), "{refusal}");
+    assert_eq!(Name::build(&[("DC", "org"), ("CN", "А")]).unwrap(), "CN=А,DC=org".parse().unwrap());
+}
+
+#[test]
 fn names_that_are_read() {
     for row in rows("strict_names.tsv") {
         let reading = match row.text("mode") {
@@ -217,4 +224,21 @@ fn certificates() {
     assert_eq!(answer.matched().unwrap().to_string(), "DNS:example.org");
     assert!(certificate.extension(&[0x2A, 3]).unwrap().is_none());
     assert_eq!(pem_blocks(b"-----BEGIN A-----\n").filter(|block| block.is_err()).count(), 1);
+}
+
+#[test]
+fn extensions() {
+    let pem = data("certificates/typed.pem");
+    let block = pem_blocks(&pem).next().unwrap().unwrap();
+    let certificate = Certificate::read(&block.octets).unwrap();
+    for extension in certificate.extensions() {
+        let oid = oid_to_text(extension.oid()).unwrap();
+        let json = extension.json().unwrap();
+        assert_eq!(extension_from_json(&oid, &json).unwrap(), extension.value(), "{json}");
+        assert!(extension.words().unwrap().ends_with('\n'), "{oid}");
+    }
+    let list = extensions_from_json(&certificate.extensions_json().unwrap()).unwrap();
+    assert!(block.octets.windows(list.len()).any(|part| part == list));
+    let refusal = extension_from_json("basicConstraints", "{\"cA\":1}").unwrap_err();
+    assert_eq!(refusal.offset(), Some(6));
 }

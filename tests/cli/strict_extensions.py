@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""make and extension answer the rows of the library: octets from JSON, and JSON from octets.
+
+  strict_extensions.py DATA PROGRAM [ARG]...
+"""
+import json
+import pathlib
+import subprocess
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+
+import vectors  # noqa: E402
+
+program = sys.argv[2:]
+failures = []
+
+
+def ask(row, what, expected, arguments, stdin=""):
+    """What the program prints, or None where it refuses with status 1 and says why."""
+    done = subprocess.run([*program, *arguments], input=stdin, capture_output=True,
+                          encoding="utf-8")
+    said = done.returncode == 0 or (done.returncode == 1 and done.stderr)
+    actual = done.stdout.rstrip("\n") if done.returncode == 0 else None
+    if actual != expected or not said:
+        failures.append(f"{row['where']}: {what}: {actual!r}, not {expected!r}: {done.stderr}")
+
+
+def element(tag, content):
+    size = len(content)
+    octets = size.to_bytes((size.bit_length() + 7) // 8, "big")
+    return bytes([tag]) + (bytes([size]) if size < 128 else
+                           bytes([0x80 | len(octets)]) + octets) + content
+
+
+def identifier(dotted):
+    arcs = [int(arc) for arc in dotted.split(".")]
+    content = b""
+    for arc in [arcs[0] * 40 + arcs[1], *arcs[2:]]:
+        septets = [arc & 0x7F]
+        while arc := arc >> 7:
+            septets.append(0x80 | arc & 0x7F)
+        content += bytes(reversed(septets))
+    return element(6, content)
+
+
+def record(row):
+    return element(0x30, identifier(row["oid"]) + element(4, bytes.fromhex(row["der"])))
+
+
+rows = [row for row in vectors.read("strict_extensions.tsv") if not row["reason"]]
+for row in rows:
+    ask(row, "value", row["der"], ["make", "--value", row["oid"], "-"], row["json"])
+# A whole list, without what would stand there twice.
+whole = {row["oid"]: row for row in rows}.values()
+described = [{"oid": row["oid"], "value": json.loads(row["json"])} for row in whole]
+ask({"where": "all rows"}, "list", element(0x30, b"".join(map(record, whole))).hex().upper(),
+    ["make", "-"], json.dumps(described))
+for row in rows[::8]:
+    made = subprocess.run([*program, "extension", "--json", record(row).hex()],
+                          capture_output=True, encoding="utf-8").stdout
+    ask(row, "JSON and back", row["der"], ["make", "--value", row["oid"], "-"],
+        json.dumps(json.loads(made)["content"]))
+for row in vectors.read("strict_extension_json_errors.tsv"):
+    kind = ["--value", row["type"]] if row["type"] else []
+    ask(row, "refused", None, ["make", *kind, "-"], row["json"])
+
+sys.exit("\n".join(failures) or 0)
