@@ -189,6 +189,26 @@ export function parseCertificate(input: Input, options?: ReadOptions): Certifica
 /** All of a PEM text, or the one of other inputs. */
 export function parseCertificates(input: Input, options?: ReadOptions): Certificate[];
 
+/** Something that RFC 5280 forbids. */
+export interface Fault {
+  /** "path-length-without-ca": stays the same. */
+  readonly rule: string;
+  /** Of RFC 5280. */
+  readonly section: string;
+  /** One English sentence without a full stop. */
+  readonly sentence: string;
+  /** The type of the extension that it is about, be it missing; or null. */
+  readonly extension: string | null;
+  /** Where the part at fault stands; undefined where something is missing. */
+  readonly offset: number | undefined;
+  readonly size: number;
+  /** Why the part cannot be read, and the place, counted from its start. */
+  readonly refusal: string | null;
+  readonly refusedAt: number | undefined;
+}
+/** What RFC 5280 forbids in the names and extensions of a certificate, a request or a CRL. */
+export function check(certificate: Certificate | Input): Fault[];
+
 /** One question. */
 export type Reference = (
   | { host: string } | { ip: string } | { email: string } | { uri: string } | { srv: string }

@@ -1,6 +1,7 @@
 // Names and extensions of X.509 certificates, and verdicts with reasons. Values are copies: nothing
 // has to be freed, and threads do not share anything.
 export { Certificate, parseCertificate, parseCertificates } from "./certificates.js";
+export { check } from "./check.js";
 export { permitted, permittedNames } from "./constraints.js";
 export { buildExtensions, encodeExtension, Extension, extensionType } from "./extensions.js";
 export {

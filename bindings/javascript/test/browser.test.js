@@ -152,6 +152,11 @@ test("octets and what they mean", () => look({}, async ({ click, evaluate, paste
   assert.deepEqual(await marked(), ["06", "03", "550403"]);
   await press("End");
   assert.deepEqual(await marked(), ["0C", "01", "41"]);
+  await paste(hex(certificate({ extensions: [extension(15, octets("0303070600"))] })));
+  assert.ok((await text("#facts")).includes("a BIT STRING is malformed"));
+  await click(".faults .copy");
+  assert.match(await text("#path"), /Certificate › tbsCertificate/);
+  await paste("300c310a300806035504030c0141");
   await click("#dump [data-at='8']");
   assert.match(seen(await text("#tree [aria-selected=true]")), /type OBJECT IDENTIFIER commonName/);
   assert.match(await text("#path"), /Name › RelativeDistinguishedName › .* › type/);

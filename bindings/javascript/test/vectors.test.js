@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import {
-  buildAltNames, encodeGeneralName, encodeName, identify, matchNames, nameWithin, oidFromText, oidToText,
+  buildAltNames, check, encodeGeneralName, encodeName, identify, matchNames, nameWithin, oidFromText, oidToText,
   parseGeneralName, parseName, permitted, Refused,
 } from "../../../build/javascript/ortholan/index.js";
 import { certificate, extension } from "./der.js";
@@ -146,6 +146,11 @@ each("strict_identity_suites.tsv", (row) => {
     if (!(error instanceof Refused)) throw error;
   }
   assert.equal(matches ? "match" : "nomatch", row.verdict);
+});
+
+each("checks.tsv", (row) => {
+  if (row.faults === "refused") refusalOf(() => check(row.der));
+  else assert.equal(check(row.der).map((fault) => fault.rule).join(","), row.faults);
 });
 
 const issuer = encodeName("CN=issuer").der;

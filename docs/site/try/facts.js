@@ -1,5 +1,5 @@
 // Certificates, names and general names in words.
-import { Certificate } from "ortholan";
+import { Certificate, check, extensionType } from "ortholan";
 import { attempt, copyButton, count, h, hex, hexStart, shown, wrong } from "./dom.js";
 
 const stringTypes = { 0x0c: "UTF8String", 0x12: "NumericString", 0x13: "PrintableString",
@@ -84,6 +84,7 @@ function named(name) {
 }
 
 const mostText = 20_000;
+const mostFaults = 100;
 
 function meaning(text) {
   return h("pre", { class: "meaning" },
@@ -106,7 +107,28 @@ function extensions(certificate) {
     (each, i) => extension(each, () => lenient.extensions[i]))), wrong);
 }
 
-function certificateSections(certificate) {
+/** A fault, with a button that shows its octets. */
+function fault(each, showOctet) {
+  const about = each.extension === null ? "" : `${extensionType(each.extension)?.name ??
+    each.extension}: `;
+  const show = each.offset === undefined ? null : h("button", { type: "button", class: "copy",
+    "aria-label": `Show the octets at ${each.offset}`, click: () => showOctet(each.offset) }, "Show");
+  return h("li", null, `${about}${each.sentence}`, each.refusal === null ? "" : ` (${each.refusal})`,
+    each.section === "" ? null : h("span", { class: "quiet" }, ` RFC 5280 ${each.section}`), show);
+}
+
+function faults(certificate, showOctet) {
+  return attempt(() => {
+    const found = check(certificate);
+    if (found.length === 0) return h("p", { class: "hint" }, "Nothing in its names and extensions.");
+    const rest = found.length - mostFaults;
+    return h("ul", { class: "faults" },
+      found.slice(0, mostFaults).map((each) => fault(each, showOctet)),
+      rest > 0 ? h("li", null, `… ${count(rest)} more`) : null);
+  }, wrong);
+}
+
+function certificateSections(certificate, showOctet) {
   const serial = certificate.serialNumber;
   return [
     section(certificate.kind[0].toUpperCase() + certificate.kind.slice(1), pairs([
@@ -118,6 +140,7 @@ function certificateSections(certificate) {
     certificate.kind === "revocation list" ? null :
       section("Alternative names", altNames(certificate)),
     section("Extensions", extensions(certificate)),
+    section("What RFC 5280 forbids", faults(certificate, showOctet)),
   ];
 }
 
@@ -128,11 +151,14 @@ function generalNameSection(names) {
       ["DER", ...copied(hex(names[0].der, ""), "the DER")]]) : null);
 }
 
-/** Sections about what was understood, the most telling first; what was refused is told elsewhere. */
-export function facts({ shape, value }) {
+/**
+ * Sections about what was understood, the most telling first; what was refused is told elsewhere.
+ *   showOctet(offset)  leads to an octet
+ */
+export function facts({ shape, value }, showOctet) {
   if (value === null) return [];
   if (shape === "name") return [nameSection(value)];
   if (shape === "general name") return [generalNameSection([value])];
   if (shape === "general names") return [generalNameSection(value)];
-  return certificateSections(value);
+  return certificateSections(value, showOctet);
 }

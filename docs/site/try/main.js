@@ -18,12 +18,19 @@ const [results, factsPart, path] = ["results", "facts", "path"].map(byId);
 let roots = [];
 const tree = new Tree(byId("tree"), (element) => point(element));
 const dump = new Dump(byId("dump"), (offset, isChosen) => {
-  const element = roots.find((root) => offset >= root.start && offset < root.end)?.at(offset);
-  if (element === undefined) return;
-  if (isChosen) tree.reveal(element, true);
-  else path.replaceChildren(...way(element));
+  if (isChosen) showOctet(offset);
+  else path.replaceChildren(...way(elementAt(offset)));
 });
 const identity = new Identity();
+
+function elementAt(offset) {
+  return roots.find((root) => offset >= root.start && offset < root.end)?.at(offset);
+}
+
+function showOctet(offset) {
+  const element = elementAt(offset);
+  if (element !== undefined) tree.reveal(element, true);
+}
 
 // The way to an element, and what it is.
 function way(element) {
@@ -66,7 +73,10 @@ function show(items, chosen) {
   status.textContent = shown(tell(item, chosen, items.length));
   status.classList.toggle("refused", item.refusal !== null);
   identity.show(item.octets);
-  const [first = null, ...rest] = facts(item);
+  const [first = null, ...rest] = facts(item, (offset) => {
+    showOctet(offset);
+    path.scrollIntoView({ block: "nearest" });
+  });
   factsPart.replaceChildren(...[
     items.length > 1 ? choice(items, chosen) : null,
     first,
@@ -78,8 +88,8 @@ function show(items, chosen) {
   dump.show(item.octets, item.refusal?.offset);
   tree.show(roots);
   const at = item.refusal?.offset;
-  const root = at === undefined ? undefined : roots.find((each) => at >= each.start && at < each.end);
-  if (root !== undefined) tree.reveal(root.at(at));
+  const refused = at === undefined ? undefined : elementAt(at);
+  if (refused !== undefined) tree.reveal(refused);
   results.hidden = false;
 }
 

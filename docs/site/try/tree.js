@@ -44,13 +44,15 @@ export class Tree {
     if (first !== null) this.#choose(first, false);
   }
 
-  /** Opens the way to an element and chooses it. */
+  /** Opens the way to an element and chooses it; the page stays where it is. */
   reveal(element, takesFocus = false) {
     const way = [];
     for (let each = element; each !== null; each = each.parent) way.unshift(each);
     for (const each of way.slice(0, -1)) this.#open(this.#items.get(each), true);
     const item = this.#items.get(element);
-    if (item !== undefined) this.#choose(item, takesFocus);
+    if (item === undefined) return;
+    this.#choose(item, false);
+    if (takesFocus) item.focus({ preventScroll: true });
   }
 
   #itemsOf(elements) {
