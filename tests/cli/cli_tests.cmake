@@ -30,8 +30,8 @@ set(certificates "${CMAKE_CURRENT_SOURCE_DIR}/data/certificates")
 ortholan_cli_test(vectors python3 "${cli}/vectors_test.py" ${runs_x509name})
 ortholan_cli_test(blocks python3 "${cli}/streams_test.py" "${certificates}" ${runs_x509name})
 ortholan_cli_test(json python3 "${cli}/json_test.py" "${certificates}" ${runs_x509name})
-if(NOT WIN32)
-  # Wine's console is not the one of Windows.
+if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
+  # Wine's console is not the one of Windows. Sanitizers have nothing to say of a screen.
   ortholan_cli_test(terminal python3 "${cli}/terminal_test.py" "${certificates}" ${runs_x509name})
   set_tests_properties(cli_terminal PROPERTIES SKIP_RETURN_CODE 77)
   ortholan_cli_test(completion
