@@ -11,14 +11,14 @@
 namespace Ortholan::testing {
 namespace {
 
-ortholan_text TextIn(const std::string& text) { return {text.data(), text.size()}; }
-ortholan_octets OctetsIn(const std::string& octets) {
+ortholan_text TextView(const std::string& text) { return {text.data(), text.size()}; }
+ortholan_octets OctetsView(const std::string& octets) {
   return {reinterpret_cast<const uint8_t*>(octets.data()), octets.size()};
 }
 
 // What a call puts, or nothing with the refusal's name and offset in `*refused`.
 template <class Unit, class Call>
-std::string Put(std::string* refused, Call call) {
+std::string PutBy(std::string* refused, Call call) {
   ortholan_refusal refusal;
   size_t size = 77;
   const ortholan_reason asked = call(static_cast<Unit*>(nullptr), size_t{0}, &size, &refusal);
@@ -36,31 +36,32 @@ std::string Put(std::string* refused, Call call) {
   return {out.begin(), out.end()};
 }
 
-std::string NameOf(const std::string& text, std::string* refused) {
-  return Put<uint8_t>(refused, [&](uint8_t* out, size_t room, size_t* size, ortholan_refusal* why) {
-    return ortholan_general_name_from_text(TextIn(text), 1, out, room, size, why);
-  });
+std::string NameOfText(const std::string& text, std::string* refused) {
+  return PutBy<uint8_t>(
+      refused, [&](uint8_t* out, size_t room, size_t* size, ortholan_refusal* why) {
+        return ortholan_general_name_from_text(TextView(text), 1, out, room, size, why);
+      });
 }
 
 TEST(StrictCInterface, GeneralNames) {
   for (const VectorRow& row : ReadVectors("strict_general_names.tsv")) {
     SCOPED_TRACE(row.where());
     std::string refused;
-    EXPECT_EQ(NameOf(row.text("text"), &refused), row.octets("der"));
+    EXPECT_EQ(NameOfText(row.text("text"), &refused), row.octets("der"));
     EXPECT_EQ(refused, row.has("reason")
                            ? row.text("reason") + ' ' + std::to_string(row.number("offset"))
                            : "");
     if (row.has("reason")) continue;
     const std::string der = row.octets("der");
     const std::string shown =
-        Put<char>(&refused, [&](char* out, size_t room, size_t* size, ortholan_refusal* why) {
-          return ortholan_general_name_to_text(OctetsIn(der), out, room, size, why);
+        PutBy<char>(&refused, [&](char* out, size_t room, size_t* size, ortholan_refusal* why) {
+          return ortholan_general_name_to_text(OctetsView(der), out, room, size, why);
         });
     EXPECT_EQ(shown, row.text(row.has("shown") ? "shown" : "text"));
     EXPECT_EQ(refused, "");
     ortholan_general_name_view name;
     EXPECT_EQ(
-        ortholan_general_name_view_read(OctetsIn(der), ORTHOLAN_READ_STRUCTURE, &name, nullptr),
+        ortholan_general_name_view_read(OctetsView(der), ORTHOLAN_READ_STRUCTURE, &name, nullptr),
         ORTHOLAN_REASON_NONE);
     EXPECT_EQ(name.kind, der[0] & 0x1F);
   }
@@ -72,7 +73,7 @@ TEST(StrictCInterface, AlternativeNames) {
     std::vector<std::string> names(1);
     for (const char c : row.text("names")) c == '|' ? names.emplace_back() : names.back() += c;
     std::vector<ortholan_text> texts;
-    for (const std::string& name : names) texts.push_back(TextIn(name));
+    for (const std::string& name : names) texts.push_back(TextView(name));
     const int32_t form = row.has("critical") ? ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL
                                              : ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION;
     std::string refused;
@@ -80,7 +81,7 @@ TEST(StrictCInterface, AlternativeNames) {
       return ortholan_alternative_names_from_text(texts.data(), texts.size(), form, out, room, size,
                                                   nullptr, why);
     };
-    EXPECT_EQ(Put<uint8_t>(&refused, put), row.octets("der"));
+    EXPECT_EQ(PutBy<uint8_t>(&refused, put), row.octets("der"));
     EXPECT_EQ(refused, "");
   }
 }
