@@ -9,13 +9,16 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <ortholan/strict.hpp>
 #include <string>
 #include <vector>
 
 #include "bench/allocations.h"
+#include "bench/chains.h"
 #include "bench/names.h"
 #include "bench/operations.h"
 #include "bench/samples.h"
+#include "tests/strict/certificate_shell.h"
 
 namespace Bench {
 namespace {
@@ -104,6 +107,53 @@ void AddOthers(std::vector<Operation>* operations) {
       [extension = ReadExtension(record)]() mutable { extension.WriteData(nullptr); });
 }
 
+void AddStrictNames(std::vector<Operation>* operations) {
+  const auto add = [operations](const char* what, std::function<void()> run) {
+    operations->push_back({what, std::move(run)});
+  };
+  const std::string text = ToText(SixAttributes(), {"=", ",", "ST", "L", true, false});
+  const std::string der = ToDer(SixAttributes());
+  const std::string disguised = ToDer(Disguised(SixAttributes()));
+  add("strict: read and check",
+      [der] { Expect(ortholan::NameView::Read(der).has_value(), "read"); });
+  add("strict: RFC 4514 text to DER", [text, der] {
+    const auto name = ortholan::Name::FromText(text);
+    Expect(ortholan::Octets(name->der()) == ortholan::Octets(der), "to DER");
+  });
+  add("strict: DER to RFC 4514 text", [text, der] {
+    Expect(ortholan::NameView::Read(der).value().ToText().value() == text, "to text");
+  });
+  add("strict: same name in disguise",
+      [=] { Expect(ortholan::MatchNames(der, disguised).is_yes(), "same name"); });
+  add("strict: key of a name", [der] {
+    uint8_t room[512];
+    size_t size = 0;
+    ortholan_match_key(ortholan::Octets(der), ORTHOLAN_MATCH_RFC5280, room, sizeof room, &size,
+                       nullptr);
+    Expect(size != 0, "key");
+  });
+}
+
+void AddVerdicts(std::vector<Operation>* operations) {
+  std::string names;
+  for (int i = 0; i < 10; ++i) {
+    names += Element('\x82', "www" + std::to_string(i) + ".department.example.org");
+  }
+  const std::string certificate = Ortholan::testing::CertificateWithNames(Element('\x30', names));
+  operations->push_back({"strict: host of a certificate for 10", [certificate] {
+                           const auto host =
+                               ortholan::Reference::Host("www9.department.example.org");
+                           Expect(ortholan::Identify(certificate, host)->matches(), "host");
+                         }});
+  operations->push_back({"strict: 10 names under 5 subtrees", [chain = UsualChain()] {
+                           const ortholan_octets octets[] = {ortholan::Octets(chain.leaf),
+                                                             ortholan::Octets(chain.authority)};
+                           ortholan_verdict verdict = ORTHOLAN_VERDICT_NO;
+                           ortholan_permits(octets, 2, nullptr, &verdict, nullptr, 0, nullptr);
+                           Expect(verdict == ORTHOLAN_VERDICT_YES, "permitted");
+                         }});
+}
+
 // The first time, which is not counted, finds the memory and the tables cold.
 void CountOne(const Operation& operation) {
   operation.run();
@@ -120,6 +170,8 @@ int Run(const char* only, unsigned long times) {
   std::vector<Operation> operations;
   AddNames(&operations);
   AddOthers(&operations);
+  AddStrictNames(&operations);
+  AddVerdicts(&operations);
   bool found = false;
   for (const Operation& operation : operations) {
     if (only == nullptr) {
