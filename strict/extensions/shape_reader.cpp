@@ -79,7 +79,7 @@ class Walk {
     }
     if (!CheckLeaf(shape, element)) return false;
     if (shape.kind == ShapeKind::kOid) last_oid_ = element.content;
-    visitor_->Leaf(shape, element);
+    if (visitor_ != nullptr) visitor_->Leaf(shape, element);
     return true;
   }
 
@@ -98,11 +98,11 @@ class Walk {
 
   bool ReadSequence(const Shape& shape, ByteView content) {
     Reader in(content, leniency_, refusal_);
-    visitor_->BeginFields(shape);
+    if (visitor_ != nullptr) visitor_->BeginFields(shape);
     for (const Field& field : shape.fields) {
       if (!ReadField(field, &in)) return false;
     }
-    visitor_->EndFields(shape);
+    if (visitor_ != nullptr) visitor_->EndFields(shape);
     return in.End();
   }
 
@@ -115,9 +115,17 @@ class Walk {
         IsDefault(element.content)) {
       return in->RefuseAt(ORTHOLAN_REASON_DEFAULT, place);
     }
-    visitor_->BeginField(field, element.bytes);
-    if (field.tagging == Tagging::kExplicit) return ReadInside(*field.shape, element.content);
-    return ReadElement(*field.shape, element);
+    return ReadFieldValue(field, element);
+  }
+
+  bool ReadFieldValue(const Field& field, const Element& element) {
+    ShapeVisitor* const listener = visitor_;
+    if (listener != nullptr && !listener->BeginField(field, element.bytes)) visitor_ = nullptr;
+    const bool is_read = field.tagging == Tagging::kExplicit
+                             ? ReadInside(*field.shape, element.content)
+                             : ReadElement(*field.shape, element);
+    visitor_ = listener;
+    return is_read;
   }
 
   // false and 0 are encoded alike.
@@ -127,7 +135,7 @@ class Walk {
     if (field.presence == Presence::kRequired) {
       return in->RefuseHere(ORTHOLAN_REASON_IDENTIFIER, IdentifierOf(field));
     }
-    if (field.presence != Presence::kOptional) visitor_->Default(field);
+    if (field.presence != Presence::kOptional && visitor_ != nullptr) visitor_->Default(field);
     return true;
   }
 
@@ -140,12 +148,9 @@ class Walk {
   bool ReadChoice(const Shape& shape, const Element& element) {
     for (const Field& field : shape.fields) {
       if (!MayBegin(field, element.identifier)) continue;
-      visitor_->BeginFields(shape);
-      visitor_->BeginField(field, element.bytes);
-      const bool is_read = field.tagging == Tagging::kExplicit
-                               ? ReadInside(*field.shape, element.content)
-                               : ReadElement(*field.shape, element);
-      if (is_read) visitor_->EndFields(shape);
+      if (visitor_ != nullptr) visitor_->BeginFields(shape);
+      const bool is_read = ReadFieldValue(field, element);
+      if (is_read && visitor_ != nullptr) visitor_->EndFields(shape);
       return is_read;
     }
     return false;  // MayBegin has looked
@@ -155,7 +160,8 @@ class Walk {
     Reader in(content, leniency_, refusal_);
     const bool is_sorted = shape.kind == ShapeKind::kSetOf && leniency_ == Leniency::kDer;
     size_t count = 0;
-    visitor_->BeginList(shape);
+    ShapeVisitor* const listener = visitor_;
+    if (listener != nullptr && !listener->BeginList(shape)) visitor_ = nullptr;
     for (ByteView before; !in.AtEnd(); ++count) {
       const ByteView rest = in.rest();
       if (!ReadValue(*shape.element, &in)) return false;
@@ -165,7 +171,8 @@ class Walk {
       }
       before = element;
     }
-    visitor_->EndList(shape, content, count);
+    visitor_ = listener;
+    if (listener != nullptr) listener->EndList(shape, content, count);
     return true;
   }
 
@@ -264,12 +271,6 @@ bool ReadByShape(const Shape& shape, ByteView der, Leniency leniency, ShapeVisit
                  Refusal* refusal) {
   Reader in(der, leniency, refusal);
   return Walk(leniency, visitor, refusal).ReadValue(shape, &in) && in.End();
-}
-
-bool CheckByShape(const Shape& shape, ByteView der, Leniency leniency, Refusal* refusal) {
-  struct Nobody final : ShapeVisitor {
-  } nobody;
-  return ReadByShape(shape, der, leniency, &nobody, refusal);
 }
 
 }  // namespace Ortholan::strict

@@ -19,14 +19,18 @@ class ShapeVisitor {
  public:
   virtual void BeginFields(const Shape&) {}  // SEQUENCE, CHOICE, TLS record
   virtual void EndFields(const Shape&) {}
-  virtual void BeginList(const Shape&) {}
+  // Whether the elements are to be told.
+  virtual bool BeginList(const Shape&) { return true; }
   // `content` holds `count` elements one behind the other.
   virtual void EndList(const Shape&, ByteView content, size_t count) {
     static_cast<void>(content), static_cast<void>(count);
   }
   // What comes next is the value of the field, which stands there with its tag as `bytes`; a field
-  // of a TLS record has none.
-  virtual void BeginField(const Field&, ByteView bytes) { static_cast<void>(bytes); }
+  // of a TLS record has none. Whether the value is to be told.
+  virtual bool BeginField(const Field&, ByteView bytes) {
+    static_cast<void>(bytes);
+    return true;
+  }
   // The field has its default.
   virtual void Default(const Field&) {}
   // A value without parts. Of a type that nobody knows the shape is kAny.
@@ -36,12 +40,14 @@ class ShapeVisitor {
   ~ShapeVisitor() = default;
 };
 
-// Reads one value that is the whole of `der`.
+// Reads one value that is the whole of `der`. The visitor may be null.
 bool ReadByShape(const Shape& shape, ByteView der, Leniency leniency, ShapeVisitor* visitor,
                  Refusal* refusal);
 
 // The same where nobody listens.
-bool CheckByShape(const Shape& shape, ByteView der, Leniency leniency, Refusal* refusal);
+inline bool CheckByShape(const Shape& shape, ByteView der, Leniency leniency, Refusal* refusal) {
+  return ReadByShape(shape, der, leniency, nullptr, refusal);
+}
 
 // A value of any type.
 extern const Shape kAnyShape;

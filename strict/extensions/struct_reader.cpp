@@ -39,81 +39,49 @@ void Store(const Value& value, uint8_t* place) {
   *static_cast<Value*>(static_cast<void*>(place)) = value;
 }
 
-// Fields go to their places; lists and values of open types are stored whole, and what is inside
-// them is passed.
+// Fields go to their places; lists and values of open types are stored whole.
 class Filler final : public ShapeVisitor {
  public:
   explicit Filler(void* out) : base_(static_cast<uint8_t*>(out)), place_(base_) {}
 
   void BeginFields(const Shape&) override {
-    if (Passes()) return;
     bases_[depth_++] = base_;
     base_ = place_;
   }
-  void EndFields(const Shape&) override {
-    if (passed_ == 0) {
-      base_ = bases_[--depth_];
-    } else {
-      --passed_;
-    }
-  }
-  void BeginList(const Shape&) override {
-    if (Passes()) return;
-    list_ = place_;
-    list_bytes_ = bytes_;
-    passed_ = 1;
-  }
+  void EndFields(const Shape&) override { base_ = bases_[--depth_]; }
+  bool BeginList(const Shape&) override { return false; }
   void EndList(const Shape& shape, ByteView content, size_t count) override;
-  void BeginField(const Field& field, ByteView bytes) override;
+  bool BeginField(const Field& field, ByteView bytes) override;
   void Leaf(const Shape& shape, const Element& element) override;
 
  private:
   static constexpr size_t kMostDepth = 4;  // of structures inside each other
 
-  // Whether the part that begins is inside what is stored whole.
-  bool Passes() {
-    if (passed_ == 0 && !is_whole_) return false;
-    is_whole_ = false;
-    ++passed_;
-    return true;
-  }
-
   uint8_t* base_;   // of the structure whose fields come
   uint8_t* place_;  // of the value that comes
   ByteView bytes_;  // its octets
-  uint8_t* list_ = nullptr;
-  ByteView list_bytes_;
   uint8_t* bases_[kMostDepth] = {};
   size_t depth_ = 0;
-  size_t passed_ = 0;      // parts that have begun inside what is stored whole
-  bool is_whole_ = false;  // the value that comes was stored whole
 };
 
-void Filler::BeginField(const Field& field, ByteView bytes) {
-  if (passed_ != 0) return;
-  is_whole_ = field.place == kNoMember || field.shape->kind == ShapeKind::kOpen;
-  if (field.place == kNoMember) return;
+bool Filler::BeginField(const Field& field, ByteView bytes) {
+  if (field.place == kNoMember) return false;
   place_ = base_ + field.place;
   bytes_ = bytes;
-  if (is_whole_) Store(Octets(bytes), place_);
+  if (field.shape->kind != ShapeKind::kOpen) return true;
+  Store(Octets(bytes), place_);
+  return false;
 }
 
 void Filler::EndList(const Shape& shape, ByteView content, size_t count) {
-  if (--passed_ != 0 || list_ == nullptr) return;
   if (shape.element->kind == ShapeKind::kGeneralName) {
-    Store(ortholan_general_names_view{Octets(list_bytes_), Octets(content), count}, list_);
+    Store(ortholan_general_names_view{Octets(bytes_), Octets(content), count}, place_);
   } else {
-    Store(ortholan_list{Octets(content), count}, list_);
+    Store(ortholan_list{Octets(content), count}, place_);
   }
-  list_ = nullptr;
 }
 
 void Filler::Leaf(const Shape& shape, const Element& element) {
-  if (passed_ != 0) return;
-  if (is_whole_) {
-    is_whole_ = false;
-    return;
-  }
   const ByteView content = element.content;
   switch (shape.kind) {
     case ShapeKind::kBoolean:

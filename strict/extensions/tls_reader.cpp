@@ -51,17 +51,19 @@ class TlsWalk {
   }
 
   bool Tell(const Shape& shape, ByteView part) {
-    visitor_->Leaf(shape, {0, part, part});
+    if (visitor_ != nullptr) visitor_->Leaf(shape, {0, part, part});
     return true;
   }
 
   bool ReadList(const Shape& shape, ByteView content) {
     size_t count = 0;
-    visitor_->BeginList(shape);
+    ShapeVisitor* const listener = visitor_;
+    if (listener != nullptr && !listener->BeginList(shape)) visitor_ = nullptr;
     for (ByteView rest = content, element; !rest.empty(); ++count) {
       if (!ReadSized(*shape.element, &rest, &element)) return false;
     }
-    visitor_->EndList(shape, content, count);
+    visitor_ = listener;
+    if (listener != nullptr) listener->EndList(shape, content, count);
     return true;
   }
 
@@ -72,12 +74,12 @@ class TlsWalk {
   }
 
   bool ReadRecord(const Shape& shape, ByteView* in) {
-    visitor_->BeginFields(shape);
+    if (visitor_ != nullptr) visitor_->BeginFields(shape);
     for (const Field& field : shape.fields) {
-      visitor_->BeginField(field, {});
+      if (visitor_ != nullptr) visitor_->BeginField(field, {});
       if (!Read(*field.shape, in)) return false;
     }
-    visitor_->EndFields(shape);
+    if (visitor_ != nullptr) visitor_->EndFields(shape);
     return true;
   }
 

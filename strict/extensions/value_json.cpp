@@ -18,9 +18,15 @@ class JsonVisitor final : public ShapeVisitor {
 
   void BeginFields(const Shape&) override { json_.Begin('{'); }
   void EndFields(const Shape&) override { json_.End('}'); }
-  void BeginList(const Shape&) override { json_.Begin('['); }
+  bool BeginList(const Shape&) override {
+    json_.Begin('[');
+    return true;
+  }
   void EndList(const Shape&, ByteView, size_t) override { json_.End(']'); }
-  void BeginField(const Field& field, ByteView) override { json_.Member(field.name); }
+  bool BeginField(const Field& field, ByteView) override {
+    json_.Member(field.name);
+    return true;
+  }
   void Default(const Field& field) override {
     json_.Member(field.name);
     json_.Literal(field.shape->kind == ShapeKind::kBoolean ? "false" : "0");

@@ -26,16 +26,18 @@ class TextVisitor final : public ShapeVisitor {
   void EndFields(const Shape& shape) override {
     if (shape.kind != ShapeKind::kChoice) Leave();
   }
-  void BeginList(const Shape&) override {
+  bool BeginList(const Shape&) override {
     outer_.push_back(indent_);
     PutLabel();
+    return true;
   }
   void EndList(const Shape&, ByteView, size_t count) override {
     if (count == 0) PutLine({}, "none");
     Leave();
   }
-  void BeginField(const Field& field, ByteView) override {
+  bool BeginField(const Field& field, ByteView) override {
     if (*field.words != '\0') label_ = field.words;
+    return true;
   }
   void Default(const Field& field) override {
     if (field.presence == Presence::kToldDefault) PutLine(field.words, "no");
