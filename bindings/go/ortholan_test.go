@@ -245,3 +245,17 @@ func TestExtensions(t *testing.T) {
 	_, err = ExtensionFromJSON("basicConstraints", `{"cA":1}`)
 	same(t, refusal(t, err).Offset, 6)
 }
+
+func TestChecks(t *testing.T) {
+	rows(t, "checks.tsv", func(t *testing.T, row row) {
+		told := "refused"
+		if faults, err := Check(row.octets(t, "der")); err == nil {
+			rules := []string{}
+			for _, fault := range faults {
+				rules = append(rules, fault.Rule)
+			}
+			told = strings.Join(rules, ",")
+		}
+		same(t, told, row["faults"])
+	})
+}

@@ -28,7 +28,6 @@ for octet in 00 1F 30 7F 80 84 89 FF; do
   done >spoiled.pem
   block "$whole" >>spoiled.pem
   row "each octet replaced by $octet" 1 "~certificate $((size + 1))" '*:' show spoiled.pem
-  row "the same, checked" 1 "~certificate $((size + 1))" '*:' show --check spoiled.pem
   row "the same, counted" 0 '~certificates +[0-9]+' "" survey spoiled.pem
 done
 

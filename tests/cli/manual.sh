@@ -32,7 +32,7 @@ commands=$(sed -n '/^Commands$/,/^$/s/^  \([a-z-]*\) .*/\1/p' "$scratch/help")
 (($(wc -w <<<"$commands") >= 10)) || fault "the help lists no commands"
 for command in $commands; do
   "$@" "$command" --help >"$scratch/help"
-  usage=$(sed -n 's/^usage: //p' "$scratch/help" | lower | sed 's/file\.\.\./file .../')
+  usage=$(sed -n 's/^usage: //p' "$scratch/help" | lower | sed 's/\([a-z]\)\.\.\./\1 .../')
   sed 's/^ *//' "$(section SYNOPSIS)" | lower >"$scratch/synopsis"
   grep -qxF -e "$usage" "$scratch/synopsis" ||
     fault "the synopsis is not that of the help: $usage"

@@ -59,6 +59,25 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct CheckRule
+    {
+        public byte* name;
+        public byte* section;
+        public byte* sentence;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Fault
+    {
+        public byte* rule;
+        public byte* section;
+        public byte* sentence;
+        public Octets extension;
+        public Octets part;
+        public Refusal refusal;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct Finding
     {
         public int reason;
@@ -194,6 +213,269 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Integer
+    {
+        public Octets content;
+        public long value;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Bits
+    {
+        public Octets content;
+        public uint flags;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct String
+    {
+        public Octets content;
+        public uint identifier;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Moment
+    {
+        public long seconds;
+        public int is_there;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct List
+    {
+        public Octets elements;
+        public UIntPtr count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct BasicConstraints
+    {
+        public int is_authority;
+        public Integer path_length;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AuthorityKeyIdentifier
+    {
+        public Octets key_identifier;
+        public GeneralNamesView issuer;
+        public Integer serial_number;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct KeyUsagePeriod
+    {
+        public Moment not_before;
+        public Moment not_after;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Policy
+    {
+        public Octets oid;
+        public List qualifiers;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PolicyQualifier
+    {
+        public Octets oid;
+        public Octets value;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NoticeReference
+    {
+        public String organization;
+        public List numbers;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct UserNotice
+    {
+        public NoticeReference reference;
+        public String text;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PolicyMapping
+    {
+        public Octets issuer_policy;
+        public Octets subject_policy;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PolicyConstraints
+    {
+        public Integer require_explicit_policy;
+        public Integer inhibit_policy_mapping;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NameSubtrees
+    {
+        public List permitted;
+        public List excluded;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NameSubtree
+    {
+        public Octets @base;
+        public Integer minimum;
+        public Integer maximum;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct DistributionPointName
+    {
+        public GeneralNamesView full_name;
+        public Octets relative_name;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct DistributionPoint
+    {
+        public DistributionPointName name;
+        public Bits reasons;
+        public GeneralNamesView crl_issuer;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct IssuingDistributionPoint
+    {
+        public DistributionPointName name;
+        public int only_user_certificates;
+        public int only_authority_certificates;
+        public int is_indirect;
+        public int only_attribute_certificates;
+        public Bits only_some_reasons;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AccessDescription
+    {
+        public Octets method;
+        public Octets location;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct DirectoryAttribute
+    {
+        public Octets type;
+        public List values;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct SignedTimestamp
+    {
+        public Octets bytes;
+        public ulong version;
+        public Octets log_id;
+        public ulong time;
+        public Octets extensions;
+        public ulong hash;
+        public ulong signature_algorithm;
+        public Octets signature;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct QcStatement
+    {
+        public Octets oid;
+        public Octets info;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct QcCurrency
+    {
+        public String alphabetic;
+        public Integer numeric;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct QcLimit
+    {
+        public QcCurrency currency;
+        public Integer amount;
+        public Integer exponent;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct QcPlace
+    {
+        public String url;
+        public String language;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct QcSemantics
+    {
+        public Octets oid;
+        public GeneralNamesView authorities;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Psd2Statement
+    {
+        public List roles;
+        public String authority;
+        public String authority_identifier;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Psd2Role
+    {
+        public Octets oid;
+        public String name;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct OrganizationIdentifier
+    {
+        public String scheme;
+        public String country;
+        public String state;
+        public String reference;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct CertificateTemplate
+    {
+        public Octets oid;
+        public Integer major_version;
+        public Integer minor_version;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct SecurityName
+    {
+        public Octets type;
+        public Octets text;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct SecurityIdentifier
+    {
+        public SecurityName name;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Capability
+    {
+        public Octets oid;
+        public Octets parameters;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ExtensionType
+    {
+        public Octets oid;
+        public byte* name;
+        public byte* title;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct Reference
     {
         public int kind;
@@ -326,6 +608,7 @@ namespace Ortholan.Native
         public const int ORTHOLAN_REASON_TEXT_ALPHABET = 93;
         public const int ORTHOLAN_REASON_TEXT_NO_STRING = 94;
         public const int ORTHOLAN_REASON_TYPE_NAME = 95;
+        public const int ORTHOLAN_REASON_TEXT_LINE = 96;
         public const int ORTHOLAN_RDNS_REVERSED = 0;
         public const int ORTHOLAN_RDNS_AS_ENCODED = 1;
         public const int ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8 = 0;
@@ -383,6 +666,35 @@ namespace Ortholan.Native
         public const int ORTHOLAN_ALTERNATIVE_NAMES_VALUE = 0;
         public const int ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL = 1;
         public const int ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION = 2;
+        public const int ORTHOLAN_KEY_USAGE_DIGITAL_SIGNATURE = 1;
+        public const int ORTHOLAN_KEY_USAGE_NON_REPUDIATION = 2;
+        public const int ORTHOLAN_KEY_USAGE_KEY_ENCIPHERMENT = 4;
+        public const int ORTHOLAN_KEY_USAGE_DATA_ENCIPHERMENT = 8;
+        public const int ORTHOLAN_KEY_USAGE_KEY_AGREEMENT = 16;
+        public const int ORTHOLAN_KEY_USAGE_KEY_CERT_SIGN = 32;
+        public const int ORTHOLAN_KEY_USAGE_CRL_SIGN = 64;
+        public const int ORTHOLAN_KEY_USAGE_ENCIPHER_ONLY = 128;
+        public const int ORTHOLAN_KEY_USAGE_DECIPHER_ONLY = 256;
+        public const int ORTHOLAN_CRL_KEY_COMPROMISE = 2;
+        public const int ORTHOLAN_CRL_CA_COMPROMISE = 4;
+        public const int ORTHOLAN_CRL_AFFILIATION_CHANGED = 8;
+        public const int ORTHOLAN_CRL_SUPERSEDED = 16;
+        public const int ORTHOLAN_CRL_CESSATION_OF_OPERATION = 32;
+        public const int ORTHOLAN_CRL_CERTIFICATE_HOLD = 64;
+        public const int ORTHOLAN_CRL_PRIVILEGE_WITHDRAWN = 128;
+        public const int ORTHOLAN_CRL_AA_COMPROMISE = 256;
+        public const int ORTHOLAN_REASON_EXTENSION_TYPE = 400;
+        public const int ORTHOLAN_REASON_TLS_SIZE = 401;
+        public const int ORTHOLAN_REASON_JSON = 402;
+        public const int ORTHOLAN_REASON_JSON_TWICE = 403;
+        public const int ORTHOLAN_REASON_JSON_DEPTH = 404;
+        public const int ORTHOLAN_REASON_JSON_FORM = 405;
+        public const int ORTHOLAN_REASON_JSON_MEMBER = 406;
+        public const int ORTHOLAN_REASON_JSON_LACKS = 407;
+        public const int ORTHOLAN_REASON_JSON_WORD = 408;
+        public const int ORTHOLAN_REASON_JSON_NUMBER = 409;
+        public const int ORTHOLAN_REASON_JSON_TEXT = 410;
+        public const int ORTHOLAN_REASON_JSON_DIFFERENT = 411;
         public const int ORTHOLAN_REASON_NO_MATCH = 200;
         public const int ORTHOLAN_REASON_NO_ALTERNATIVE_NAMES = 201;
         public const int ORTHOLAN_REASON_NO_CERTIFICATE = 202;
@@ -429,6 +741,9 @@ namespace Ortholan.Native
         public static extern byte* ortholan_reason_sentence(int reason);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern byte* ortholan_reason_name(int reason);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_oid_to_text(Octets oid, byte* @out, UIntPtr room, UIntPtr* size);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -457,6 +772,12 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_pem_octets(PemBlock* block, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_check(Octets der, Fault* faults, UIntPtr room, UIntPtr* count, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_check_rule_at(UIntPtr index, CheckRule* rule);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_permits(Octets* chain, UIntPtr chain_size, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
@@ -526,6 +847,174 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_alternative_names_from_text(Text* texts, UIntPtr count, int form, byte* @out, UIntPtr room, UIntPtr* size, UIntPtr* wrong, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_string_text(String* @string, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_oid_next(List* list, UIntPtr* offset, Octets* oid);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_integer_next(List* list, UIntPtr* offset, Integer* number);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_string_next(List* list, UIntPtr* offset, String* @string);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_integer_read(Octets value, int mode, Integer* number, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_octet_string_read(Octets value, int mode, Octets* octets, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_string_read(Octets value, int mode, String* @string, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_moment_read(Octets value, int mode, Moment* moment, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_null_read(Octets value, int mode, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_oids_read(Octets value, int mode, List* oids, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_integers_read(Octets value, int mode, List* numbers, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_bits_read(Octets value, int mode, Bits* bits, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_basic_constraints_read(Octets value, int mode, BasicConstraints* constraints, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_authority_key_identifier_read(Octets value, int mode, AuthorityKeyIdentifier* identifier, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_key_usage_period_read(Octets value, int mode, KeyUsagePeriod* period, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policies_read(Octets value, int mode, List* policies, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policy_next(List* policies, UIntPtr* offset, Policy* policy);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policy_qualifier_next(List* qualifiers, UIntPtr* offset, PolicyQualifier* qualifier);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_user_notice_read(Octets value, int mode, UserNotice* notice, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policy_mappings_read(Octets value, int mode, List* mappings, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policy_mapping_next(List* mappings, UIntPtr* offset, PolicyMapping* mapping);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policy_constraints_read(Octets value, int mode, PolicyConstraints* constraints, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_subtrees_read(Octets value, int mode, NameSubtrees* subtrees, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_subtree_next(List* subtrees, UIntPtr* offset, NameSubtree* subtree);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_distribution_points_read(Octets value, int mode, List* points, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_distribution_point_next(List* points, UIntPtr* offset, DistributionPoint* point);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_issuing_distribution_point_read(Octets value, int mode, IssuingDistributionPoint* point, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_information_access_read(Octets value, int mode, List* descriptions, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_access_description_next(List* descriptions, UIntPtr* offset, AccessDescription* description);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_directory_attributes_read(Octets value, int mode, List* attributes, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_directory_attribute_next(List* attributes, UIntPtr* offset, DirectoryAttribute* attribute);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_signed_timestamps_read(Octets value, int mode, List* timestamps, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_signed_timestamp_next(List* timestamps, UIntPtr* offset, SignedTimestamp* timestamp);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_statements_read(Octets value, int mode, List* statements, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_statement_next(List* statements, UIntPtr* offset, QcStatement* statement);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_limit_read(Octets info, int mode, QcLimit* limit, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_places_read(Octets info, int mode, List* places, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_place_next(List* places, UIntPtr* offset, QcPlace* place);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_countries_read(Octets info, int mode, List* countries, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_qc_semantics_read(Octets info, int mode, QcSemantics* semantics, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_psd2_statement_read(Octets info, int mode, Psd2Statement* statement, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_psd2_role_next(List* roles, UIntPtr* offset, Psd2Role* role);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_organization_identifier_read(Octets value, int mode, OrganizationIdentifier* identifier, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_certificate_template_read(Octets value, int mode, CertificateTemplate* made_by, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_security_identifier_read(Octets value, int mode, SecurityIdentifier* identifier, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_capabilities_read(Octets value, int mode, List* capabilities, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_capability_next(List* capabilities, UIntPtr* offset, Capability* capability);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_type_at(UIntPtr index, ExtensionType* type);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_type_of(Octets oid, ExtensionType* type);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern byte* ortholan_extension_name(Octets oid);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_oid_from_name(Text name, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_json(Octets oid, Octets value, int mode, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_text(Octets oid, Octets value, int mode, UIntPtr indent, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extensions_json(Octets der, int mode, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_from_json(Text type, Text json, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extensions_from_json(Text json, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_identify(Octets certificate, Reference* reference, Identity* identity, Refusal* refusal);

@@ -246,5 +246,16 @@ namespace Ortholan.Tests
             Assert.AreEqual(6,
                 Refusal(() => ExtensionJson.ValueFromJson("basicConstraints", "{\"cA\":1}")).Offset);
         }
+
+        [Test]
+        public void Checks()
+        {
+            Row.Each("checks.tsv", row =>
+            {
+                IReadOnlyList<Fault> faults = OrNull(() => Fault.Check(row.Octets("der")));
+                row.Same(row["faults"], faults == null
+                    ? "refused" : string.Join(",", faults.Select(fault => fault.Rule)));
+            });
+        }
     }
 }

@@ -149,6 +149,7 @@ test("inputs of any size, and memory given back", () => {
   assert.equal(names.length, 20_000);
   const digits = hex(element(0x30, octets("00".repeat(5_000_000))));
   assert.throws(() => parseName(digits), { code: "IDENTIFIER" });
+  assert.throws(() => permitted(["3000"], { mostFindings: 2 ** 26 }), { code: "MEMORY" });
   const name = encodeName("CN=a");
   const before = process.memoryUsage().arrayBuffers;
   for (let i = 0; i < 20_000; ++i) name.text();

@@ -91,6 +91,20 @@ TEST(Check, CountsBeyondTheRoom) {
   }
 }
 
+TEST(Check, RefusesMissingArguments) {
+  size_t count = 1;
+  Fault fault;
+  EXPECT_EQ(ortholan_check({nullptr, 1}, &fault, 1, &count, nullptr), ORTHOLAN_REASON_ARGUMENT);
+  EXPECT_EQ(count, 0U);
+  EXPECT_EQ(ortholan_check({nullptr, 0}, nullptr, 1, &count, nullptr), ORTHOLAN_REASON_ARGUMENT);
+  EXPECT_EQ(ortholan_check({nullptr, 0}, &fault, 1, nullptr, nullptr), ORTHOLAN_REASON_ARGUMENT);
+  EXPECT_EQ(ortholan_check({nullptr, 0}, &fault, 1, &count, nullptr), ORTHOLAN_REASON_TRUNCATED);
+  ortholan_check_rule rule = {"", "", ""};
+  EXPECT_EQ(ortholan_check_rule_at(10000, &rule), ORTHOLAN_REASON_NOT_FOUND);
+  EXPECT_EQ(rule.name, nullptr);
+  EXPECT_EQ(ortholan_check_rule_at(0, nullptr), ORTHOLAN_REASON_ARGUMENT);
+}
+
 // Octets cut off or spoiled leave faults with places inside, or a refusal.
 TEST(Check, SurvivesSpoiledDocuments) {
   for (const VectorRow& row : ReadVectors("checks.tsv")) {

@@ -21,6 +21,9 @@ SELECT x509_name_key('\x3000'), x509_name_key('\x30800000', true) IS NULL AS is_
 SELECT x509_name_key('\x30800000');
 SELECT x509_names_match('\x3000', '\x30800000');
 SELECT x509_names_match('\x3000', '\x30800000', true) IS NULL AS is_null;
+-- A code point of which nothing can be told makes no name malformed.
+SELECT x509_names_match(a, b) IS NULL AS is_null, x509_names_match_reason(a, b)
+FROM (SELECT x509_name_from_text(U&'CN=\+01F600'), x509_name_from_text('CN=a')) n (a, b);
 
 -- Values that are stored compressed, and out of line.
 CREATE TABLE toasted (name bytea);

@@ -80,6 +80,7 @@ pub const ORTHOLAN_REASON_TEXT_BEHIND_QUOTE: i32 = 92;
 pub const ORTHOLAN_REASON_TEXT_ALPHABET: i32 = 93;
 pub const ORTHOLAN_REASON_TEXT_NO_STRING: i32 = 94;
 pub const ORTHOLAN_REASON_TYPE_NAME: i32 = 95;
+pub const ORTHOLAN_REASON_TEXT_LINE: i32 = 96;
 pub const ORTHOLAN_RDNS_REVERSED: i32 = 0;
 pub const ORTHOLAN_RDNS_AS_ENCODED: i32 = 1;
 pub const ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8: i32 = 0;
@@ -137,6 +138,35 @@ pub const ORTHOLAN_HOST_WILDCARD: i32 = 8;
 pub const ORTHOLAN_ALTERNATIVE_NAMES_VALUE: i32 = 0;
 pub const ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL: i32 = 1;
 pub const ORTHOLAN_ALTERNATIVE_NAMES_EXTENSION: i32 = 2;
+pub const ORTHOLAN_KEY_USAGE_DIGITAL_SIGNATURE: i32 = 1;
+pub const ORTHOLAN_KEY_USAGE_NON_REPUDIATION: i32 = 2;
+pub const ORTHOLAN_KEY_USAGE_KEY_ENCIPHERMENT: i32 = 4;
+pub const ORTHOLAN_KEY_USAGE_DATA_ENCIPHERMENT: i32 = 8;
+pub const ORTHOLAN_KEY_USAGE_KEY_AGREEMENT: i32 = 16;
+pub const ORTHOLAN_KEY_USAGE_KEY_CERT_SIGN: i32 = 32;
+pub const ORTHOLAN_KEY_USAGE_CRL_SIGN: i32 = 64;
+pub const ORTHOLAN_KEY_USAGE_ENCIPHER_ONLY: i32 = 128;
+pub const ORTHOLAN_KEY_USAGE_DECIPHER_ONLY: i32 = 256;
+pub const ORTHOLAN_CRL_KEY_COMPROMISE: i32 = 2;
+pub const ORTHOLAN_CRL_CA_COMPROMISE: i32 = 4;
+pub const ORTHOLAN_CRL_AFFILIATION_CHANGED: i32 = 8;
+pub const ORTHOLAN_CRL_SUPERSEDED: i32 = 16;
+pub const ORTHOLAN_CRL_CESSATION_OF_OPERATION: i32 = 32;
+pub const ORTHOLAN_CRL_CERTIFICATE_HOLD: i32 = 64;
+pub const ORTHOLAN_CRL_PRIVILEGE_WITHDRAWN: i32 = 128;
+pub const ORTHOLAN_CRL_AA_COMPROMISE: i32 = 256;
+pub const ORTHOLAN_REASON_EXTENSION_TYPE: i32 = 400;
+pub const ORTHOLAN_REASON_TLS_SIZE: i32 = 401;
+pub const ORTHOLAN_REASON_JSON: i32 = 402;
+pub const ORTHOLAN_REASON_JSON_TWICE: i32 = 403;
+pub const ORTHOLAN_REASON_JSON_DEPTH: i32 = 404;
+pub const ORTHOLAN_REASON_JSON_FORM: i32 = 405;
+pub const ORTHOLAN_REASON_JSON_MEMBER: i32 = 406;
+pub const ORTHOLAN_REASON_JSON_LACKS: i32 = 407;
+pub const ORTHOLAN_REASON_JSON_WORD: i32 = 408;
+pub const ORTHOLAN_REASON_JSON_NUMBER: i32 = 409;
+pub const ORTHOLAN_REASON_JSON_TEXT: i32 = 410;
+pub const ORTHOLAN_REASON_JSON_DIFFERENT: i32 = 411;
 pub const ORTHOLAN_REASON_NO_MATCH: i32 = 200;
 pub const ORTHOLAN_REASON_NO_ALTERNATIVE_NAMES: i32 = 201;
 pub const ORTHOLAN_REASON_NO_CERTIFICATE: i32 = 202;
@@ -225,6 +255,25 @@ pub struct ortholan_extension_view {
 pub struct ortholan_pem_block {
     pub label: ortholan_text,
     pub base64: ortholan_text,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_check_rule {
+    pub name: *const c_char,
+    pub section: *const c_char,
+    pub sentence: *const c_char,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_fault {
+    pub rule: *const c_char,
+    pub section: *const c_char,
+    pub sentence: *const c_char,
+    pub extension: ortholan_octets,
+    pub part: ortholan_octets,
+    pub refusal: ortholan_refusal,
 }
 
 #[repr(C)]
@@ -364,6 +413,269 @@ pub struct ortholan_edi_party {
 
 #[repr(C)]
 #[derive(Clone, Copy, Debug)]
+pub struct ortholan_integer {
+    pub content: ortholan_octets,
+    pub value: i64,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_bits {
+    pub content: ortholan_octets,
+    pub flags: u32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_string {
+    pub content: ortholan_octets,
+    pub identifier: u32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_moment {
+    pub seconds: i64,
+    pub is_there: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_list {
+    pub elements: ortholan_octets,
+    pub count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_basic_constraints {
+    pub is_authority: i32,
+    pub path_length: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_authority_key_identifier {
+    pub key_identifier: ortholan_octets,
+    pub issuer: ortholan_general_names_view,
+    pub serial_number: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_key_usage_period {
+    pub not_before: ortholan_moment,
+    pub not_after: ortholan_moment,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_policy {
+    pub oid: ortholan_octets,
+    pub qualifiers: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_policy_qualifier {
+    pub oid: ortholan_octets,
+    pub value: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_notice_reference {
+    pub organization: ortholan_string,
+    pub numbers: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_user_notice {
+    pub reference: ortholan_notice_reference,
+    pub text: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_policy_mapping {
+    pub issuer_policy: ortholan_octets,
+    pub subject_policy: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_policy_constraints {
+    pub require_explicit_policy: ortholan_integer,
+    pub inhibit_policy_mapping: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_name_subtrees {
+    pub permitted: ortholan_list,
+    pub excluded: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_name_subtree {
+    pub base: ortholan_octets,
+    pub minimum: ortholan_integer,
+    pub maximum: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_distribution_point_name {
+    pub full_name: ortholan_general_names_view,
+    pub relative_name: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_distribution_point {
+    pub name: ortholan_distribution_point_name,
+    pub reasons: ortholan_bits,
+    pub crl_issuer: ortholan_general_names_view,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_issuing_distribution_point {
+    pub name: ortholan_distribution_point_name,
+    pub only_user_certificates: i32,
+    pub only_authority_certificates: i32,
+    pub is_indirect: i32,
+    pub only_attribute_certificates: i32,
+    pub only_some_reasons: ortholan_bits,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_access_description {
+    pub method: ortholan_octets,
+    pub location: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_directory_attribute {
+    pub r#type: ortholan_octets,
+    pub values: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_signed_timestamp {
+    pub bytes: ortholan_octets,
+    pub version: u64,
+    pub log_id: ortholan_octets,
+    pub time: u64,
+    pub extensions: ortholan_octets,
+    pub hash: u64,
+    pub signature_algorithm: u64,
+    pub signature: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_qc_statement {
+    pub oid: ortholan_octets,
+    pub info: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_qc_currency {
+    pub alphabetic: ortholan_string,
+    pub numeric: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_qc_limit {
+    pub currency: ortholan_qc_currency,
+    pub amount: ortholan_integer,
+    pub exponent: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_qc_place {
+    pub url: ortholan_string,
+    pub language: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_qc_semantics {
+    pub oid: ortholan_octets,
+    pub authorities: ortholan_general_names_view,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_psd2_statement {
+    pub roles: ortholan_list,
+    pub authority: ortholan_string,
+    pub authority_identifier: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_psd2_role {
+    pub oid: ortholan_octets,
+    pub name: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_organization_identifier {
+    pub scheme: ortholan_string,
+    pub country: ortholan_string,
+    pub state: ortholan_string,
+    pub reference: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_certificate_template {
+    pub oid: ortholan_octets,
+    pub major_version: ortholan_integer,
+    pub minor_version: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_security_name {
+    pub r#type: ortholan_octets,
+    pub text: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_security_identifier {
+    pub name: ortholan_security_name,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_capability {
+    pub oid: ortholan_octets,
+    pub parameters: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_extension_type {
+    pub oid: ortholan_octets,
+    pub name: *const c_char,
+    pub title: *const c_char,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
 pub struct ortholan_reference {
     pub kind: i32,
     pub choices: u32,
@@ -428,6 +740,9 @@ extern "C" {
     pub fn ortholan_reason_sentence(
         reason: ortholan_reason,
     ) -> *const c_char;
+    pub fn ortholan_reason_name(
+        reason: ortholan_reason,
+    ) -> *const c_char;
     pub fn ortholan_oid_to_text(
         oid: ortholan_octets,
         out: *mut c_char,
@@ -488,6 +803,17 @@ extern "C" {
         out: *mut u8,
         room: usize,
         size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_check(
+        der: ortholan_octets,
+        faults: *mut ortholan_fault,
+        room: usize,
+        count: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_check_rule_at(
+        index: usize,
+        rule: *mut ortholan_check_rule,
     ) -> ortholan_reason;
     pub fn ortholan_permits(
         chain: *const ortholan_octets,
@@ -638,6 +964,331 @@ extern "C" {
         room: usize,
         size: *mut usize,
         wrong: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_string_text(
+        string: *const ortholan_string,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_oid_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        oid: *mut ortholan_octets,
+    ) -> ortholan_reason;
+    pub fn ortholan_integer_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        number: *mut ortholan_integer,
+    ) -> ortholan_reason;
+    pub fn ortholan_string_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        string: *mut ortholan_string,
+    ) -> ortholan_reason;
+    pub fn ortholan_integer_read(
+        value: ortholan_octets,
+        mode: i32,
+        number: *mut ortholan_integer,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_octet_string_read(
+        value: ortholan_octets,
+        mode: i32,
+        octets: *mut ortholan_octets,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_string_read(
+        value: ortholan_octets,
+        mode: i32,
+        string: *mut ortholan_string,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_moment_read(
+        value: ortholan_octets,
+        mode: i32,
+        moment: *mut ortholan_moment,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_null_read(
+        value: ortholan_octets,
+        mode: i32,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_oids_read(
+        value: ortholan_octets,
+        mode: i32,
+        oids: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_integers_read(
+        value: ortholan_octets,
+        mode: i32,
+        numbers: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_bits_read(
+        value: ortholan_octets,
+        mode: i32,
+        bits: *mut ortholan_bits,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_basic_constraints_read(
+        value: ortholan_octets,
+        mode: i32,
+        constraints: *mut ortholan_basic_constraints,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_authority_key_identifier_read(
+        value: ortholan_octets,
+        mode: i32,
+        identifier: *mut ortholan_authority_key_identifier,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_key_usage_period_read(
+        value: ortholan_octets,
+        mode: i32,
+        period: *mut ortholan_key_usage_period,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_policies_read(
+        value: ortholan_octets,
+        mode: i32,
+        policies: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_policy_next(
+        policies: *const ortholan_list,
+        offset: *mut usize,
+        policy: *mut ortholan_policy,
+    ) -> ortholan_reason;
+    pub fn ortholan_policy_qualifier_next(
+        qualifiers: *const ortholan_list,
+        offset: *mut usize,
+        qualifier: *mut ortholan_policy_qualifier,
+    ) -> ortholan_reason;
+    pub fn ortholan_user_notice_read(
+        value: ortholan_octets,
+        mode: i32,
+        notice: *mut ortholan_user_notice,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_policy_mappings_read(
+        value: ortholan_octets,
+        mode: i32,
+        mappings: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_policy_mapping_next(
+        mappings: *const ortholan_list,
+        offset: *mut usize,
+        mapping: *mut ortholan_policy_mapping,
+    ) -> ortholan_reason;
+    pub fn ortholan_policy_constraints_read(
+        value: ortholan_octets,
+        mode: i32,
+        constraints: *mut ortholan_policy_constraints,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_subtrees_read(
+        value: ortholan_octets,
+        mode: i32,
+        subtrees: *mut ortholan_name_subtrees,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_subtree_next(
+        subtrees: *const ortholan_list,
+        offset: *mut usize,
+        subtree: *mut ortholan_name_subtree,
+    ) -> ortholan_reason;
+    pub fn ortholan_distribution_points_read(
+        value: ortholan_octets,
+        mode: i32,
+        points: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_distribution_point_next(
+        points: *const ortholan_list,
+        offset: *mut usize,
+        point: *mut ortholan_distribution_point,
+    ) -> ortholan_reason;
+    pub fn ortholan_issuing_distribution_point_read(
+        value: ortholan_octets,
+        mode: i32,
+        point: *mut ortholan_issuing_distribution_point,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_information_access_read(
+        value: ortholan_octets,
+        mode: i32,
+        descriptions: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_access_description_next(
+        descriptions: *const ortholan_list,
+        offset: *mut usize,
+        description: *mut ortholan_access_description,
+    ) -> ortholan_reason;
+    pub fn ortholan_directory_attributes_read(
+        value: ortholan_octets,
+        mode: i32,
+        attributes: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_directory_attribute_next(
+        attributes: *const ortholan_list,
+        offset: *mut usize,
+        attribute: *mut ortholan_directory_attribute,
+    ) -> ortholan_reason;
+    pub fn ortholan_signed_timestamps_read(
+        value: ortholan_octets,
+        mode: i32,
+        timestamps: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_signed_timestamp_next(
+        timestamps: *const ortholan_list,
+        offset: *mut usize,
+        timestamp: *mut ortholan_signed_timestamp,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_statements_read(
+        value: ortholan_octets,
+        mode: i32,
+        statements: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_statement_next(
+        statements: *const ortholan_list,
+        offset: *mut usize,
+        statement: *mut ortholan_qc_statement,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_limit_read(
+        info: ortholan_octets,
+        mode: i32,
+        limit: *mut ortholan_qc_limit,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_places_read(
+        info: ortholan_octets,
+        mode: i32,
+        places: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_place_next(
+        places: *const ortholan_list,
+        offset: *mut usize,
+        place: *mut ortholan_qc_place,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_countries_read(
+        info: ortholan_octets,
+        mode: i32,
+        countries: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_qc_semantics_read(
+        info: ortholan_octets,
+        mode: i32,
+        semantics: *mut ortholan_qc_semantics,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_psd2_statement_read(
+        info: ortholan_octets,
+        mode: i32,
+        statement: *mut ortholan_psd2_statement,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_psd2_role_next(
+        roles: *const ortholan_list,
+        offset: *mut usize,
+        role: *mut ortholan_psd2_role,
+    ) -> ortholan_reason;
+    pub fn ortholan_organization_identifier_read(
+        value: ortholan_octets,
+        mode: i32,
+        identifier: *mut ortholan_organization_identifier,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_certificate_template_read(
+        value: ortholan_octets,
+        mode: i32,
+        made_by: *mut ortholan_certificate_template,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_security_identifier_read(
+        value: ortholan_octets,
+        mode: i32,
+        identifier: *mut ortholan_security_identifier,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_capabilities_read(
+        value: ortholan_octets,
+        mode: i32,
+        capabilities: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_capability_next(
+        capabilities: *const ortholan_list,
+        offset: *mut usize,
+        capability: *mut ortholan_capability,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_type_at(
+        index: usize,
+        r#type: *mut ortholan_extension_type,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_type_of(
+        oid: ortholan_octets,
+        r#type: *mut ortholan_extension_type,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_name(
+        oid: ortholan_octets,
+    ) -> *const c_char;
+    pub fn ortholan_extension_oid_from_name(
+        name: ortholan_text,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_json(
+        oid: ortholan_octets,
+        value: ortholan_octets,
+        mode: i32,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_text(
+        oid: ortholan_octets,
+        value: ortholan_octets,
+        mode: i32,
+        indent: usize,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extensions_json(
+        der: ortholan_octets,
+        mode: i32,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_from_json(
+        r#type: ortholan_text,
+        json: ortholan_text,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extensions_from_json(
+        json: ortholan_text,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
         refusal: *mut ortholan_refusal,
     ) -> ortholan_reason;
     pub fn ortholan_identify(

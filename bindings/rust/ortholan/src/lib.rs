@@ -7,6 +7,7 @@ mod languages {}
 
 mod call;
 mod certificate;
+mod check;
 mod constraints;
 mod extension_json;
 mod general_name;
@@ -19,6 +20,7 @@ mod text_options;
 mod verdict;
 
 pub use certificate::{Certificate, CertificateKind, Extension, Extensions};
+pub use check::{check, Fault};
 pub use constraints::{permits, permits_names, Finding, Permission, PermitOptions};
 pub use extension_json::{extension_from_json, extensions_from_json};
 pub use general_name::{

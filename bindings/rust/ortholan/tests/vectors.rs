@@ -242,3 +242,15 @@ fn extensions() {
     let refusal = extension_from_json("basicConstraints", "{\"cA\":1}").unwrap_err();
     assert_eq!(refusal.offset(), Some(6));
 }
+
+#[test]
+fn checks() {
+    for row in rows("checks.tsv") {
+        let der = row.octets("der");
+        let told = match check(&der) {
+            Ok(faults) => faults.iter().map(|fault| fault.rule).collect::<Vec<_>>().join(","),
+            Err(_) => "refused".to_owned(),
+        };
+        assert_eq!(told, row.text("faults"), "{}", row.place);
+    }
+}
