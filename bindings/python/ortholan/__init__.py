@@ -18,6 +18,14 @@ text form, and `ortholan.batch` the operations for whole lists.
 
 from . import batch, classic
 from ._values import Reading
+from .attribute_types import (
+    AttributeType,
+    Syntax,
+    attribute_type,
+    attribute_types,
+    short_name,
+    type_identifier,
+)
 from .certificates import (
     Certificate,
     CertificateKind,
@@ -52,20 +60,18 @@ from .names import (
     Place,
     Rule,
     TextOptions,
-    short_name,
-    type_identifier,
 )
 from .reasons import Answer, Reason, Refusal, Verdict
 
 __all__ = [
-    "Answer", "Attribute", "CANNOT_TELL", "Certificate", "CertificateKind", "Extension",
-    "Fault", "Finding", "GeneralName", "HostChoices", "Identity", "Kind", "Mailbox", "Match",
-    "Mismatch", "NO", "Name", "NamePlace", "OtherKind", "OtherName", "PemBlock", "Permission",
-    "Place", "RDN", "Reading", "Reason", "Refusal", "Rule", "TextOptions", "Uri", "Verdict",
-    "YES", "batch", "check", "check_host", "classic", "extension_identifier", "identify",
-    "identify_by_names", "load_certificates", "permits", "permits_names", "read_extensions",
-    "read_general_names", "read_pem", "short_name", "type_identifier", "write_extensions",
-    "write_general_names",
+    "Answer", "Attribute", "AttributeType", "CANNOT_TELL", "Certificate", "CertificateKind",
+    "Extension", "Fault", "Finding", "GeneralName", "HostChoices", "Identity", "Kind",
+    "Mailbox", "Match", "Mismatch", "NO", "Name", "NamePlace", "OtherKind", "OtherName",
+    "PemBlock", "Permission", "Place", "RDN", "Reading", "Reason", "Refusal", "Rule", "Syntax",
+    "TextOptions", "Uri", "Verdict", "YES", "attribute_type", "attribute_types", "batch",
+    "check", "check_host", "classic", "extension_identifier", "identify", "identify_by_names",
+    "load_certificates", "permits", "permits_names", "read_extensions", "read_general_names",
+    "read_pem", "short_name", "type_identifier", "write_extensions", "write_general_names",
 ]
 
 __version__: str = classic.version()

@@ -59,11 +59,13 @@ def _with_reason(function: Any) -> Callable[..., None]:
 
 def _called(function: Any, parameters: list[str]) -> Callable[..., Any]:
     """How a function is called follows from its declaration."""
+    if function.restype in (ctypes.c_char_p, ctypes.c_size_t):
+        return function  # type: ignore[no-any-return]
     has_refusal = parameters[-1] == "ortholan_refusal* refusal"
     for place, parameter in enumerate(parameters):
         if parameter in ("char* out", "uint8_t* out"):
             return _with_room(function, place, parameter == "char* out", has_refusal)
-    if function.restype is ctypes.c_char_p or parameters[-1] == "ortholan_match* match":
+    if parameters[-1] == "ortholan_match* match":
         return function  # type: ignore[no-any-return]
     return _with_refusal(function) if has_refusal else _with_reason(function)
 

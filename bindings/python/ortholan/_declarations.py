@@ -59,6 +59,9 @@ typedef struct ortholan_finding { ortholan_reason reason; ortholan_verdict verdi
     size_t certificate; size_t authority; int32_t place; ortholan_octets name;
     ortholan_octets subtree; size_t subtree_count; } ortholan_finding;
 typedef struct ortholan_permit_options { uint64_t budget; } ortholan_permit_options;
+typedef struct ortholan_attribute_type { ortholan_octets oid; ortholan_text name;
+    ortholan_text long_name; ortholan_text aliases; int32_t syntax; uint32_t bound;
+    } ortholan_attribute_type;
 typedef struct ortholan_fault { const char* rule; const char* section; const char* sentence;
     ortholan_octets extension; ortholan_octets part; ortholan_refusal refusal; } ortholan_fault;
 typedef struct ortholan_column { const uint8_t* data; size_t size; const int64_t* offsets;
@@ -169,6 +172,10 @@ ortholan_reason ortholan_extension_text(ortholan_octets oid, ortholan_octets val
     size_t indent, char* out, size_t room, size_t* size, ortholan_refusal* refusal);
 ortholan_reason ortholan_extension_from_json(ortholan_text type, ortholan_text json, uint8_t* out,
     size_t room, size_t* size, ortholan_refusal* refusal);
+size_t ortholan_attribute_type_count(void);
+ortholan_reason ortholan_attribute_type_at(size_t index, ortholan_attribute_type* type);
+ortholan_reason ortholan_attribute_type_of(ortholan_octets oid, ortholan_attribute_type* type);
+ortholan_reason ortholan_attribute_type_named(ortholan_text name, ortholan_attribute_type* type);
 ortholan_reason ortholan_check(ortholan_octets der, ortholan_fault* faults, size_t room,
     size_t* count, ortholan_refusal* refusal);
 ortholan_reason ortholan_column_rfc4514_write(const ortholan_column* names, int32_t mode,

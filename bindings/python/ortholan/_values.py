@@ -34,6 +34,11 @@ def oid_text(octets: bytes) -> str:
     return str(functions.oid_to_text(octets))
 
 
+def oid_content(text: str) -> bytes:
+    """An identifier's content octets, of dotted text."""
+    return bytes(functions.oid_from_text(text.encode("utf-8")))
+
+
 def element(identifier: int, content: bytes) -> bytes:
     """An element in DER, of a tag below 31."""
     size = len(content)

@@ -25,7 +25,7 @@ from typing import Any, Iterable, Union
 
 from ._calls import each, functions
 from ._library import copy, structures, view
-from ._values import OctetsLike, Reading, Value, octets_of, oid_text
+from ._values import OctetsLike, Reading, Value, octets_of, oid_content, oid_text
 from .general_names import Address, GeneralName, read_general_names, write_general_names
 from .identity import Identity, identify
 from .names import Name
@@ -90,7 +90,7 @@ class Extension:
     @property
     def name(self) -> str:
         """What its standard calls it, "basicConstraints"; the identifier of one not known."""
-        found = functions.extension_name(_content(self.oid))
+        found = functions.extension_name(oid_content(self.oid))
         return str(found.decode("ascii")) if found else self.oid
 
     @property
@@ -100,13 +100,13 @@ class Extension:
         {"cA": True, "pathLenConstraint": 0}; <ortholan/strict/extensions.h> has the forms. A value
         that is not of the extension's structure is refused; one not known is {"octets": digits}.
         """
-        found = functions.extension_json(_content(self.oid), self.value, Reading.DER)
+        found = functions.extension_json(oid_content(self.oid), self.value, Reading.DER)
         return json.loads(found)
 
     @property
     def text(self) -> str:
         """The value in plain words, a line for each fact, safe to show."""
-        return str(functions.extension_text(_content(self.oid), self.value, Reading.DER, 0))
+        return str(functions.extension_text(oid_content(self.oid), self.value, Reading.DER, 0))
 
     @property
     def names(self) -> list[GeneralName]:
@@ -117,10 +117,6 @@ class Extension:
 def extension_identifier(type: str) -> str:
     """The dotted identifier of an extension, "2.5.29.19" of "basicConstraints"."""
     return oid_text(functions.extension_oid_from_name(type.encode("utf-8")))
-
-
-def _content(oid: str) -> bytes:
-    return bytes(functions.oid_from_text(oid.encode("utf-8")))
 
 
 def _extensions(certificate: Any) -> list[Extension]:
@@ -139,7 +135,7 @@ def read_extensions(der: OctetsLike, reading: Reading = Reading.DER) -> list[Ext
 def write_extensions(extensions: Iterable[Extension]) -> bytes:
     """Such a list in DER, in the order given; at least one, and none of them twice."""
     views = [
-        structures.extension_view(oid=view(_content(each.oid)),
+        structures.extension_view(oid=view(oid_content(each.oid)),
                                   value=view(each.value), critical=each.critical)
         for each in extensions
     ]
@@ -225,7 +221,7 @@ class Certificate(Value):
         found = structures.extension_view()
         try:
             functions.certificate_view_extension(
-                byref(self._view()), _content(oid), byref(found))
+                byref(self._view()), oid_content(oid), byref(found))
         except Refusal as refusal:
             if refusal.reason == Reason.NOT_FOUND:
                 return None

@@ -18,14 +18,14 @@ from __future__ import annotations
 
 import dataclasses
 import enum
-import functools
 import itertools
 from ctypes import addressof, byref
 from typing import Any, Iterable, Iterator, Mapping, Sequence, Tuple, Union
 
 from ._calls import functions
 from ._library import NO_PLACE, copy, structures, text_view, view
-from ._values import Value, octets_of, oid_text
+from ._values import Value, octets_of, oid_content, oid_text
+from .attribute_types import short_name, type_identifier
 from .reasons import Answer, Reason, Refusal, Verdict
 
 
@@ -116,7 +116,7 @@ class TextOptions:
         """An ortholan_rfc4514_options as an argument; None for the defaults."""
         if self == _PLAIN:
             return None
-        names = [structures.type_name(text_view(name), view(functions.oid_from_text(oid.encode())))
+        names = [structures.type_name(text_view(name), view(oid_content(oid)))
                  for name, oid in self.type_names.items()]
         array = (structures.type_name * len(names))(*names)
         made = structures.rfc4514_options(
@@ -127,21 +127,6 @@ class TextOptions:
 
 
 _PLAIN = TextOptions()
-
-
-@functools.lru_cache(maxsize=1024)
-def type_identifier(type: str) -> str:
-    """The dotted identifier of a type: "CN", "commonName" and "2.5.4.3" are "2.5.4.3".
-
-    Raises a Refusal for a name that is not known.
-    """
-    return next(iter(Name.build([(type, b"\x05\x00")]))).type
-
-
-@functools.lru_cache(maxsize=1024)
-def short_name(type: str) -> str:
-    """The short name of a type, "CN" of "2.5.4.3"; the identifier itself where it has none."""
-    return str(Name.build([(type, b"\x05\x00")])).partition("=")[0]
 
 
 def _new_attribute(type: str, value: str | bytes, joins_rdn: bool = False) -> Any:

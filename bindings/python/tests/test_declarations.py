@@ -17,6 +17,7 @@ WORDS = {
     names.Rule: "ORTHOLAN_MATCH_",
     general_names.OtherKind: "ORTHOLAN_OTHER_",
     general_names.HostChoices: "ORTHOLAN_HOST_",
+    ortholan.Syntax: "ORTHOLAN_SYNTAX_",
     classic.Result: "ORTHOLAN_ERROR_",
     classic.Encode: "ORTHOLAN_ENCODE_",
     classic.Fault: "ORTHOLAN_FAULT_",

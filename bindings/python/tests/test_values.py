@@ -60,6 +60,20 @@ def test_names_are_built_and_edited():
         Reason.TEXT_UNKNOWN_TYPE
 
 
+def test_types_are_known_by_each_of_their_names():
+    types = ortholan.attribute_types()
+    assert len(types) > 40 and len({each.oid for each in types}) == len(types)
+    for each in types:
+        assert ortholan.short_name(each.oid) == each.name
+        for name in (each.name, each.long_name.upper(), *each.aliases, each.oid):
+            assert ortholan.attribute_type(name) == each
+            assert [*Name.build([(name, b"\x05\0")])][0].type == each.oid
+    assert ortholan.type_identifier("1.2.3") == ortholan.short_name("1.2.3") == "1.2.3"
+    for unknown in ("nobody", "1.2.3"):
+        refusal = pytest.raises(ortholan.Refusal, ortholan.attribute_type, unknown).value
+        assert refusal.reason == Reason.TEXT_UNKNOWN_TYPE and unknown in str(refusal)
+
+
 def test_texts_have_options():
     options = ortholan.TextOptions(as_encoded=True, long_names=True, type_names={"Badge": "1.2.3"})
     name = Name("organizationName=Org,Badge=7", options)
