@@ -52,6 +52,7 @@ typedef struct ortholan_new_distribution_point {
   const ortholan_text* crl_issuer;
   size_t crl_issuer_count;
 } ortholan_new_distribution_point;
+// cRLDistributionPoints or freshestCRL.
 ORTHOLAN_EXPORT ortholan_reason
 ortholan_distribution_points_write(const ortholan_new_distribution_point* points, size_t count,
                                    uint8_t* out, size_t room, size_t* size);
@@ -61,6 +62,7 @@ typedef struct ortholan_new_access_description {
   ortholan_octets method;  // content octets of an identifier
   ortholan_text location;
 } ortholan_new_access_description;
+// authorityInfoAccess or subjectInfoAccess.
 ORTHOLAN_EXPORT ortholan_reason
 ortholan_information_access_write(const ortholan_new_access_description* descriptions, size_t count,
                                   uint8_t* out, size_t room, size_t* size);
@@ -71,6 +73,7 @@ typedef struct ortholan_new_policy {
   ortholan_text cps;     // a URI
   ortholan_text notice;  // becomes UTF8String
 } ortholan_new_policy;
+// certificatePolicies.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policies_write(const ortholan_new_policy* policies,
                                                         size_t count, uint8_t* out, size_t room,
                                                         size_t* size);

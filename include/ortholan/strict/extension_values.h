@@ -59,8 +59,10 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_extension_string_text(const ortholan_st
 // Lists of plain elements: content octets of identifiers; numbers; strings.
 ORTHOLAN_EXPORT ortholan_reason ortholan_oid_next(const ortholan_list* list, size_t* offset,
                                                   ortholan_octets* oid);
+// The next number of a list.
 ORTHOLAN_EXPORT ortholan_reason ortholan_integer_next(const ortholan_list* list, size_t* offset,
                                                       ortholan_integer* number);
+// The next string of a list.
 ORTHOLAN_EXPORT ortholan_reason ortholan_string_next(const ortholan_list* list, size_t* offset,
                                                      ortholan_string* string);
 
@@ -71,19 +73,25 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_string_next(const ortholan_list* list, 
 ORTHOLAN_EXPORT ortholan_reason ortholan_integer_read(ortholan_octets value, int32_t mode,
                                                       ortholan_integer* number,
                                                       ortholan_refusal* refusal);
+// Reads octets.
 ORTHOLAN_EXPORT ortholan_reason ortholan_octet_string_read(ortholan_octets value, int32_t mode,
                                                            ortholan_octets* octets,
                                                            ortholan_refusal* refusal);
+// Reads a string.
 ORTHOLAN_EXPORT ortholan_reason ortholan_string_read(ortholan_octets value, int32_t mode,
                                                      ortholan_string* string,
                                                      ortholan_refusal* refusal);
+// Reads a time.
 ORTHOLAN_EXPORT ortholan_reason ortholan_moment_read(ortholan_octets value, int32_t mode,
                                                      ortholan_moment* moment,
                                                      ortholan_refusal* refusal);
+// Reads what says all by being there.
 ORTHOLAN_EXPORT ortholan_reason ortholan_null_read(ortholan_octets value, int32_t mode,
                                                    ortholan_refusal* refusal);
+// Reads a list of identifiers.
 ORTHOLAN_EXPORT ortholan_reason ortholan_oids_read(ortholan_octets value, int32_t mode,
                                                    ortholan_list* oids, ortholan_refusal* refusal);
+// Reads a list of numbers, as tlsFeature is one.
 ORTHOLAN_EXPORT ortholan_reason ortholan_integers_read(ortholan_octets value, int32_t mode,
                                                        ortholan_list* numbers,
                                                        ortholan_refusal* refusal);
@@ -109,6 +117,7 @@ typedef struct ortholan_basic_constraints {
   int32_t is_authority;          // 1 or 0
   ortholan_integer path_length;  // optional
 } ortholan_basic_constraints;
+// Reads basicConstraints.
 ORTHOLAN_EXPORT ortholan_reason
 ortholan_basic_constraints_read(ortholan_octets value, int32_t mode,
                                 ortholan_basic_constraints* constraints, ortholan_refusal* refusal);
@@ -119,6 +128,7 @@ typedef struct ortholan_authority_key_identifier {
   ortholan_general_names_view issuer;
   ortholan_integer serial_number;
 } ortholan_authority_key_identifier;
+// Reads authorityKeyIdentifier.
 ORTHOLAN_EXPORT ortholan_reason ortholan_authority_key_identifier_read(
     ortholan_octets value, int32_t mode, ortholan_authority_key_identifier* identifier,
     ortholan_refusal* refusal);
@@ -128,6 +138,7 @@ typedef struct ortholan_key_usage_period {
   ortholan_moment not_before;
   ortholan_moment not_after;
 } ortholan_key_usage_period;
+// Reads privateKeyUsagePeriod.
 ORTHOLAN_EXPORT ortholan_reason ortholan_key_usage_period_read(ortholan_octets value, int32_t mode,
                                                                ortholan_key_usage_period* period,
                                                                ortholan_refusal* refusal);
@@ -137,6 +148,7 @@ typedef struct ortholan_policy {
   ortholan_octets oid;       // content octets
   ortholan_list qualifiers;  // optional
 } ortholan_policy;
+// A qualifier of a policy.
 typedef struct ortholan_policy_qualifier {
   ortholan_octets oid;    // content octets
   ortholan_octets value;  // a whole element
@@ -146,15 +158,19 @@ typedef struct ortholan_notice_reference {
   ortholan_string organization;
   ortholan_list numbers;
 } ortholan_notice_reference;
+// A user notice; every part is optional.
 typedef struct ortholan_user_notice {
   ortholan_notice_reference reference;
   ortholan_string text;
 } ortholan_user_notice;
+// Reads certificatePolicies or applicationPolicies.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policies_read(ortholan_octets value, int32_t mode,
                                                        ortholan_list* policies,
                                                        ortholan_refusal* refusal);
+// The next policy.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policy_next(const ortholan_list* policies, size_t* offset,
                                                      ortholan_policy* policy);
+// The next qualifier of a policy.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policy_qualifier_next(
     const ortholan_list* qualifiers, size_t* offset, ortholan_policy_qualifier* qualifier);
 // Of a qualifier's value; that of cPSuri is a string for ortholan_string_read.
@@ -167,9 +183,11 @@ typedef struct ortholan_policy_mapping {
   ortholan_octets issuer_policy;   // content octets
   ortholan_octets subject_policy;  // content octets
 } ortholan_policy_mapping;
+// Reads policyMappings or applicationPolicyMappings.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policy_mappings_read(ortholan_octets value, int32_t mode,
                                                               ortholan_list* mappings,
                                                               ortholan_refusal* refusal);
+// The next pair of policies.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policy_mapping_next(const ortholan_list* mappings,
                                                              size_t* offset,
                                                              ortholan_policy_mapping* mapping);
@@ -179,6 +197,7 @@ typedef struct ortholan_policy_constraints {
   ortholan_integer require_explicit_policy;
   ortholan_integer inhibit_policy_mapping;
 } ortholan_policy_constraints;
+// Reads policyConstraints or applicationPolicyConstraints.
 ORTHOLAN_EXPORT ortholan_reason ortholan_policy_constraints_read(
     ortholan_octets value, int32_t mode, ortholan_policy_constraints* constraints,
     ortholan_refusal* refusal);
@@ -188,14 +207,17 @@ typedef struct ortholan_name_subtrees {
   ortholan_list permitted;  // optional
   ortholan_list excluded;   // optional
 } ortholan_name_subtrees;
+// One subtree of name constraints.
 typedef struct ortholan_name_subtree {
   ortholan_octets base;      // a whole GeneralName
   ortholan_integer minimum;  // 0 where it is not there
   ortholan_integer maximum;  // optional
 } ortholan_name_subtree;
+// Reads nameConstraints.
 ORTHOLAN_EXPORT ortholan_reason ortholan_name_subtrees_read(ortholan_octets value, int32_t mode,
                                                             ortholan_name_subtrees* subtrees,
                                                             ortholan_refusal* refusal);
+// The next subtree of either list.
 ORTHOLAN_EXPORT ortholan_reason ortholan_name_subtree_next(const ortholan_list* subtrees,
                                                            size_t* offset,
                                                            ortholan_name_subtree* subtree);
@@ -217,15 +239,18 @@ typedef struct ortholan_distribution_point_name {
   ortholan_general_names_view full_name;
   ortholan_octets relative_name;  // content of an RDN, relative to the issuer of the CRL
 } ortholan_distribution_point_name;
+// One of cRLDistributionPoints or freshestCRL; every part is optional.
 typedef struct ortholan_distribution_point {
   ortholan_distribution_point_name name;   // optional
   ortholan_bits reasons;                   // optional
   ortholan_general_names_view crl_issuer;  // optional
 } ortholan_distribution_point;
+// Reads cRLDistributionPoints or freshestCRL.
 ORTHOLAN_EXPORT ortholan_reason ortholan_distribution_points_read(ortholan_octets value,
                                                                   int32_t mode,
                                                                   ortholan_list* points,
                                                                   ortholan_refusal* refusal);
+// The next distribution point.
 ORTHOLAN_EXPORT ortholan_reason ortholan_distribution_point_next(
     const ortholan_list* points, size_t* offset, ortholan_distribution_point* point);
 
@@ -238,6 +263,7 @@ typedef struct ortholan_issuing_distribution_point {
   int32_t only_attribute_certificates;
   ortholan_bits only_some_reasons;  // optional
 } ortholan_issuing_distribution_point;
+// Reads issuingDistributionPoint.
 ORTHOLAN_EXPORT ortholan_reason ortholan_issuing_distribution_point_read(
     ortholan_octets value, int32_t mode, ortholan_issuing_distribution_point* point,
     ortholan_refusal* refusal);
@@ -247,10 +273,12 @@ typedef struct ortholan_access_description {
   ortholan_octets method;    // content octets of an identifier
   ortholan_octets location;  // a whole GeneralName
 } ortholan_access_description;
+// Reads authorityInfoAccess or subjectInfoAccess.
 ORTHOLAN_EXPORT ortholan_reason ortholan_information_access_read(ortholan_octets value,
                                                                  int32_t mode,
                                                                  ortholan_list* descriptions,
                                                                  ortholan_refusal* refusal);
+// The next way to information.
 ORTHOLAN_EXPORT ortholan_reason ortholan_access_description_next(
     const ortholan_list* descriptions, size_t* offset, ortholan_access_description* description);
 
@@ -259,10 +287,12 @@ typedef struct ortholan_directory_attribute {
   ortholan_octets type;  // content octets of an identifier
   ortholan_list values;  // elements of any type
 } ortholan_directory_attribute;
+// Reads subjectDirectoryAttributes.
 ORTHOLAN_EXPORT ortholan_reason ortholan_directory_attributes_read(ortholan_octets value,
                                                                    int32_t mode,
                                                                    ortholan_list* attributes,
                                                                    ortholan_refusal* refusal);
+// The next attribute, whose values are elements one behind the other.
 ORTHOLAN_EXPORT ortholan_reason ortholan_directory_attribute_next(
     const ortholan_list* attributes, size_t* offset, ortholan_directory_attribute* attribute);
 
@@ -277,9 +307,11 @@ typedef struct ortholan_signed_timestamp {
   uint64_t signature_algorithm;  // 1 RSA, 3 ECDSA
   ortholan_octets signature;
 } ortholan_signed_timestamp;
+// Reads the list of signed certificate timestamps.
 ORTHOLAN_EXPORT ortholan_reason ortholan_signed_timestamps_read(ortholan_octets value, int32_t mode,
                                                                 ortholan_list* timestamps,
                                                                 ortholan_refusal* refusal);
+// The next timestamp.
 ORTHOLAN_EXPORT ortholan_reason ortholan_signed_timestamp_next(
     const ortholan_list* timestamps, size_t* offset, ortholan_signed_timestamp* timestamp);
 
@@ -288,9 +320,11 @@ typedef struct ortholan_qc_statement {
   ortholan_octets oid;   // content octets
   ortholan_octets info;  // a whole element; optional
 } ortholan_qc_statement;
+// Reads qcStatements.
 ORTHOLAN_EXPORT ortholan_reason ortholan_qc_statements_read(ortholan_octets value, int32_t mode,
                                                             ortholan_list* statements,
                                                             ortholan_refusal* refusal);
+// The next statement.
 ORTHOLAN_EXPORT ortholan_reason ortholan_qc_statement_next(const ortholan_list* statements,
                                                            size_t* offset,
                                                            ortholan_qc_statement* statement);
@@ -300,11 +334,13 @@ typedef struct ortholan_qc_currency {
   ortholan_string alphabetic;  // ISO 4217; one of the two
   ortholan_integer numeric;
 } ortholan_qc_currency;
+// A limit of the value of transactions.
 typedef struct ortholan_qc_limit {
   ortholan_qc_currency currency;
   ortholan_integer amount;
   ortholan_integer exponent;
 } ortholan_qc_limit;
+// Reads the information of a statement on a limit of value.
 ORTHOLAN_EXPORT ortholan_reason ortholan_qc_limit_read(ortholan_octets info, int32_t mode,
                                                        ortholan_qc_limit* limit,
                                                        ortholan_refusal* refusal);
@@ -313,9 +349,11 @@ typedef struct ortholan_qc_place {
   ortholan_string url;
   ortholan_string language;
 } ortholan_qc_place;
+// Reads the information of a statement on disclosure statements.
 ORTHOLAN_EXPORT ortholan_reason ortholan_qc_places_read(ortholan_octets info, int32_t mode,
                                                         ortholan_list* places,
                                                         ortholan_refusal* refusal);
+// The next place.
 ORTHOLAN_EXPORT ortholan_reason ortholan_qc_place_next(const ortholan_list* places, size_t* offset,
                                                        ortholan_qc_place* place);
 // QcCClegislation: country codes, strings (4.2.4).
@@ -327,6 +365,7 @@ typedef struct ortholan_qc_semantics {
   ortholan_octets oid;  // content octets
   ortholan_general_names_view authorities;
 } ortholan_qc_semantics;
+// Reads the information of a statement on the semantics of names.
 ORTHOLAN_EXPORT ortholan_reason ortholan_qc_semantics_read(ortholan_octets info, int32_t mode,
                                                            ortholan_qc_semantics* semantics,
                                                            ortholan_refusal* refusal);
@@ -336,13 +375,16 @@ typedef struct ortholan_psd2_statement {
   ortholan_string authority;
   ortholan_string authority_identifier;
 } ortholan_psd2_statement;
+// One role of a payment service provider.
 typedef struct ortholan_psd2_role {
   ortholan_octets oid;  // content octets
   ortholan_string name;
 } ortholan_psd2_role;
+// Reads the information of the PSD2 statement.
 ORTHOLAN_EXPORT ortholan_reason ortholan_psd2_statement_read(ortholan_octets info, int32_t mode,
                                                              ortholan_psd2_statement* statement,
                                                              ortholan_refusal* refusal);
+// The next role of a payment service provider.
 ORTHOLAN_EXPORT ortholan_reason ortholan_psd2_role_next(const ortholan_list* roles, size_t* offset,
                                                         ortholan_psd2_role* role);
 
@@ -353,6 +395,7 @@ typedef struct ortholan_organization_identifier {
   ortholan_string state;  // optional
   ortholan_string reference;
 } ortholan_organization_identifier;
+// Reads the CA/Browser Forum's organizationIdentifier.
 ORTHOLAN_EXPORT ortholan_reason ortholan_organization_identifier_read(
     ortholan_octets value, int32_t mode, ortholan_organization_identifier* identifier,
     ortholan_refusal* refusal);
@@ -363,6 +406,7 @@ typedef struct ortholan_certificate_template {
   ortholan_integer major_version;  // optional
   ortholan_integer minor_version;  // optional
 } ortholan_certificate_template;
+// Reads certificateTemplate, version 2.
 ORTHOLAN_EXPORT ortholan_reason ortholan_certificate_template_read(
     ortholan_octets value, int32_t mode, ortholan_certificate_template* made_by,
     ortholan_refusal* refusal);
@@ -372,9 +416,11 @@ typedef struct ortholan_security_name {
   ortholan_octets type;  // content octets of an identifier
   ortholan_octets text;
 } ortholan_security_name;
+// The identifier of an account.
 typedef struct ortholan_security_identifier {
   ortholan_security_name name;
 } ortholan_security_identifier;
+// Reads Windows' security identifier.
 ORTHOLAN_EXPORT ortholan_reason ortholan_security_identifier_read(
     ortholan_octets value, int32_t mode, ortholan_security_identifier* identifier,
     ortholan_refusal* refusal);
@@ -384,9 +430,11 @@ typedef struct ortholan_capability {
   ortholan_octets oid;         // content octets
   ortholan_octets parameters;  // a whole element; optional
 } ortholan_capability;
+// Reads smimeCapabilities.
 ORTHOLAN_EXPORT ortholan_reason ortholan_capabilities_read(ortholan_octets value, int32_t mode,
                                                            ortholan_list* capabilities,
                                                            ortholan_refusal* refusal);
+// The next capability.
 ORTHOLAN_EXPORT ortholan_reason ortholan_capability_next(const ortholan_list* capabilities,
                                                          size_t* offset,
                                                          ortholan_capability* capability);
