@@ -29,6 +29,17 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AttributeType
+    {
+        public Octets oid;
+        public Text name;
+        public Text long_name;
+        public Text aliases;
+        public int syntax;
+        public uint bound;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct CertificateView
     {
         public int kind;
@@ -75,25 +86,6 @@ namespace Ortholan.Native
         public Octets extension;
         public Octets part;
         public Refusal refusal;
-    }
-
-    [StructLayout(LayoutKind.Sequential)]
-    internal unsafe struct Finding
-    {
-        public int reason;
-        public int verdict;
-        public UIntPtr certificate;
-        public UIntPtr authority;
-        public int place;
-        public Octets name;
-        public Octets subtree;
-        public UIntPtr subtree_count;
-    }
-
-    [StructLayout(LayoutKind.Sequential)]
-    internal unsafe struct PermitOptions
-    {
-        public ulong budget;
     }
 
     [StructLayout(LayoutKind.Sequential)]
@@ -150,6 +142,68 @@ namespace Ortholan.Native
         public UIntPtr size;
         public UIntPtr character;
         public byte* expected;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Column
+    {
+        public byte* data;
+        public UIntPtr size;
+        public long* offsets;
+        public UIntPtr count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ColumnRoom
+    {
+        public byte* data;
+        public UIntPtr size;
+        public long* offsets;
+        public int* reasons;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Finding
+    {
+        public int reason;
+        public int verdict;
+        public UIntPtr certificate;
+        public UIntPtr authority;
+        public int place;
+        public Octets name;
+        public Octets subtree;
+        public UIntPtr subtree_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct PermitOptions
+    {
+        public ulong budget;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NewDistributionPoint
+    {
+        public Text* full_name;
+        public UIntPtr full_name_count;
+        public uint reasons;
+        public Text* crl_issuer;
+        public UIntPtr crl_issuer_count;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NewAccessDescription
+    {
+        public Octets method;
+        public Text location;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct NewPolicy
+    {
+        public Octets oid;
+        public Text cps;
+        public Text notice;
     }
 
     [StructLayout(LayoutKind.Sequential)]
@@ -566,32 +620,20 @@ namespace Ortholan.Native
         public const int ORTHOLAN_READ_DER = 0;
         public const int ORTHOLAN_READ_LENIENT = 1;
         public const int ORTHOLAN_READ_STRUCTURE = 2;
+        public const int ORTHOLAN_SYNTAX_FREE_TEXT = 0;
+        public const int ORTHOLAN_SYNTAX_PRINTABLE = 1;
+        public const int ORTHOLAN_SYNTAX_IA5 = 2;
+        public const int ORTHOLAN_SYNTAX_NUMERIC = 3;
+        public const int ORTHOLAN_SYNTAX_UTF8 = 4;
+        public const int ORTHOLAN_SYNTAX_IA5_OR_UTF8 = 5;
+        public const int ORTHOLAN_SYNTAX_POSTAL_ADDRESS = 6;
+        public const int ORTHOLAN_SYNTAX_NO_TEXT = 7;
         public const int ORTHOLAN_REASON_PEM_END = 121;
         public const int ORTHOLAN_REASON_PEM_LABEL = 122;
         public const int ORTHOLAN_REASON_BASE64 = 123;
         public const int ORTHOLAN_CERTIFICATE = 1;
         public const int ORTHOLAN_CERTIFICATE_REQUEST = 2;
         public const int ORTHOLAN_REVOCATION_LIST = 3;
-        public const int ORTHOLAN_REASON_EXCLUDED = 300;
-        public const int ORTHOLAN_REASON_NOT_PERMITTED = 301;
-        public const int ORTHOLAN_REASON_UNDEFINED_FORM = 302;
-        public const int ORTHOLAN_REASON_SUBTREE_DISTANCE = 303;
-        public const int ORTHOLAN_REASON_SUBTREE_MASK = 304;
-        public const int ORTHOLAN_REASON_SUBTREE_EMPTY = 305;
-        public const int ORTHOLAN_REASON_URI_WITHOUT_HOST = 306;
-        public const int ORTHOLAN_REASON_MAILBOX_QUOTED = 307;
-        public const int ORTHOLAN_REASON_MAILBOX_CASE = 308;
-        public const int ORTHOLAN_REASON_MAILBOX_AT_ADDRESS = 309;
-        public const int ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII = 310;
-        public const int ORTHOLAN_REASON_DIRECTORY_UNTOLD = 311;
-        public const int ORTHOLAN_REASON_BUDGET = 312;
-        public const int ORTHOLAN_REASON_UNREADABLE_CERTIFICATE = 313;
-        public const int ORTHOLAN_NAME_NONE = 0;
-        public const int ORTHOLAN_NAME_SUBJECT = 1;
-        public const int ORTHOLAN_NAME_EMAIL = 2;
-        public const int ORTHOLAN_NAME_ALTERNATIVE = 3;
-        public const int ORTHOLAN_NAME_LIST = 4;
-        public const int ORTHOLAN_NAME_CONSTRAINTS = 5;
         public const int ORTHOLAN_REASON_TEXT_UTF8 = 80;
         public const int ORTHOLAN_REASON_TEXT_NO_TYPE = 81;
         public const int ORTHOLAN_REASON_TEXT_NO_EQUALS = 82;
@@ -613,6 +655,26 @@ namespace Ortholan.Native
         public const int ORTHOLAN_RDNS_AS_ENCODED = 1;
         public const int ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8 = 0;
         public const int ORTHOLAN_STRINGS_UTF8 = 1;
+        public const int ORTHOLAN_REASON_EXCLUDED = 300;
+        public const int ORTHOLAN_REASON_NOT_PERMITTED = 301;
+        public const int ORTHOLAN_REASON_UNDEFINED_FORM = 302;
+        public const int ORTHOLAN_REASON_SUBTREE_DISTANCE = 303;
+        public const int ORTHOLAN_REASON_SUBTREE_MASK = 304;
+        public const int ORTHOLAN_REASON_SUBTREE_EMPTY = 305;
+        public const int ORTHOLAN_REASON_URI_WITHOUT_HOST = 306;
+        public const int ORTHOLAN_REASON_MAILBOX_QUOTED = 307;
+        public const int ORTHOLAN_REASON_MAILBOX_CASE = 308;
+        public const int ORTHOLAN_REASON_MAILBOX_AT_ADDRESS = 309;
+        public const int ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII = 310;
+        public const int ORTHOLAN_REASON_DIRECTORY_UNTOLD = 311;
+        public const int ORTHOLAN_REASON_BUDGET = 312;
+        public const int ORTHOLAN_REASON_UNREADABLE_CERTIFICATE = 313;
+        public const int ORTHOLAN_NAME_NONE = 0;
+        public const int ORTHOLAN_NAME_SUBJECT = 1;
+        public const int ORTHOLAN_NAME_EMAIL = 2;
+        public const int ORTHOLAN_NAME_ALTERNATIVE = 3;
+        public const int ORTHOLAN_NAME_LIST = 4;
+        public const int ORTHOLAN_NAME_CONSTRAINTS = 5;
         public const int ORTHOLAN_REASON_HOST_EMPTY = 140;
         public const int ORTHOLAN_REASON_HOST_EMPTY_LABEL = 141;
         public const int ORTHOLAN_REASON_HOST_LONG_LABEL = 142;
@@ -750,6 +812,18 @@ namespace Ortholan.Native
         public static extern int ortholan_oid_from_text(Text text, byte* @out, UIntPtr room, UIntPtr* size);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern UIntPtr ortholan_attribute_type_count();
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_attribute_type_at(UIntPtr index, AttributeType* type);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_attribute_type_of(Octets oid, AttributeType* type);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_attribute_type_named(Text name, AttributeType* type);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_certificate_view_read(Octets der, int mode, CertificateView* certificate, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -780,15 +854,6 @@ namespace Ortholan.Native
         public static extern int ortholan_check_rule_at(UIntPtr index, CheckRule* rule);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
-        public static extern int ortholan_permits(Octets* chain, UIntPtr chain_size, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
-
-        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
-        public static extern int ortholan_permits_names(Octets constraints, Octets subject, Octets alternative_names, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
-
-        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
-        public static extern int ortholan_finding_sentence(Finding* finding, byte* @out, UIntPtr room, UIntPtr* size);
-
-        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_name_view_read(Octets der, int mode, NameView* name, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -808,6 +873,60 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_rfc4514_sentence(Text text, Refusal* refusal, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_column_rfc4514_write(Column* names, int mode, Rfc4514Options* options, ColumnRoom* room, UIntPtr* done);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_column_rfc4514_read(Column* texts, Rfc4514Options* options, ColumnRoom* room, UIntPtr* done);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_column_match_key(Column* names, int rule, ColumnRoom* room, UIntPtr* done);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_column_general_name_to_text(Column* names, ColumnRoom* room, UIntPtr* done);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_permits(Octets* chain, UIntPtr chain_size, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_permits_names(Octets constraints, Octets subject, Octets alternative_names, PermitOptions* options, int* verdict, Finding* findings, UIntPtr room, UIntPtr* count);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_finding_sentence(Finding* finding, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_basic_constraints_write(int is_authority, long path_length, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_bits_write(uint flags, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_oids_write(Octets* oids, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_octet_string_write(Octets octets, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_authority_key_identifier_write(Octets key_identifier, Text* issuer, UIntPtr issuer_count, Octets serial_number, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_integer_write(long number, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_tls_features_write(ushort* features, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_distribution_points_write(NewDistributionPoint* points, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_information_access_write(NewAccessDescription* descriptions, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_policies_write(NewPolicy* policies, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_name_subtrees_write(Text* permitted, UIntPtr permitted_count, Text* excluded, UIntPtr excluded_count, byte* @out, UIntPtr room, UIntPtr* size);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_general_names_view_read(Octets der, int mode, GeneralNamesView* names, Refusal* refusal);

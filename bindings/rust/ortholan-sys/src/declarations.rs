@@ -38,32 +38,20 @@ pub const ORTHOLAN_REASON_DUPLICATE_EXTENSION: i32 = 120;
 pub const ORTHOLAN_READ_DER: i32 = 0;
 pub const ORTHOLAN_READ_LENIENT: i32 = 1;
 pub const ORTHOLAN_READ_STRUCTURE: i32 = 2;
+pub const ORTHOLAN_SYNTAX_FREE_TEXT: i32 = 0;
+pub const ORTHOLAN_SYNTAX_PRINTABLE: i32 = 1;
+pub const ORTHOLAN_SYNTAX_IA5: i32 = 2;
+pub const ORTHOLAN_SYNTAX_NUMERIC: i32 = 3;
+pub const ORTHOLAN_SYNTAX_UTF8: i32 = 4;
+pub const ORTHOLAN_SYNTAX_IA5_OR_UTF8: i32 = 5;
+pub const ORTHOLAN_SYNTAX_POSTAL_ADDRESS: i32 = 6;
+pub const ORTHOLAN_SYNTAX_NO_TEXT: i32 = 7;
 pub const ORTHOLAN_REASON_PEM_END: i32 = 121;
 pub const ORTHOLAN_REASON_PEM_LABEL: i32 = 122;
 pub const ORTHOLAN_REASON_BASE64: i32 = 123;
 pub const ORTHOLAN_CERTIFICATE: i32 = 1;
 pub const ORTHOLAN_CERTIFICATE_REQUEST: i32 = 2;
 pub const ORTHOLAN_REVOCATION_LIST: i32 = 3;
-pub const ORTHOLAN_REASON_EXCLUDED: i32 = 300;
-pub const ORTHOLAN_REASON_NOT_PERMITTED: i32 = 301;
-pub const ORTHOLAN_REASON_UNDEFINED_FORM: i32 = 302;
-pub const ORTHOLAN_REASON_SUBTREE_DISTANCE: i32 = 303;
-pub const ORTHOLAN_REASON_SUBTREE_MASK: i32 = 304;
-pub const ORTHOLAN_REASON_SUBTREE_EMPTY: i32 = 305;
-pub const ORTHOLAN_REASON_URI_WITHOUT_HOST: i32 = 306;
-pub const ORTHOLAN_REASON_MAILBOX_QUOTED: i32 = 307;
-pub const ORTHOLAN_REASON_MAILBOX_CASE: i32 = 308;
-pub const ORTHOLAN_REASON_MAILBOX_AT_ADDRESS: i32 = 309;
-pub const ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII: i32 = 310;
-pub const ORTHOLAN_REASON_DIRECTORY_UNTOLD: i32 = 311;
-pub const ORTHOLAN_REASON_BUDGET: i32 = 312;
-pub const ORTHOLAN_REASON_UNREADABLE_CERTIFICATE: i32 = 313;
-pub const ORTHOLAN_NAME_NONE: i32 = 0;
-pub const ORTHOLAN_NAME_SUBJECT: i32 = 1;
-pub const ORTHOLAN_NAME_EMAIL: i32 = 2;
-pub const ORTHOLAN_NAME_ALTERNATIVE: i32 = 3;
-pub const ORTHOLAN_NAME_LIST: i32 = 4;
-pub const ORTHOLAN_NAME_CONSTRAINTS: i32 = 5;
 pub const ORTHOLAN_REASON_TEXT_UTF8: i32 = 80;
 pub const ORTHOLAN_REASON_TEXT_NO_TYPE: i32 = 81;
 pub const ORTHOLAN_REASON_TEXT_NO_EQUALS: i32 = 82;
@@ -85,6 +73,26 @@ pub const ORTHOLAN_RDNS_REVERSED: i32 = 0;
 pub const ORTHOLAN_RDNS_AS_ENCODED: i32 = 1;
 pub const ORTHOLAN_STRINGS_PRINTABLE_OR_UTF8: i32 = 0;
 pub const ORTHOLAN_STRINGS_UTF8: i32 = 1;
+pub const ORTHOLAN_REASON_EXCLUDED: i32 = 300;
+pub const ORTHOLAN_REASON_NOT_PERMITTED: i32 = 301;
+pub const ORTHOLAN_REASON_UNDEFINED_FORM: i32 = 302;
+pub const ORTHOLAN_REASON_SUBTREE_DISTANCE: i32 = 303;
+pub const ORTHOLAN_REASON_SUBTREE_MASK: i32 = 304;
+pub const ORTHOLAN_REASON_SUBTREE_EMPTY: i32 = 305;
+pub const ORTHOLAN_REASON_URI_WITHOUT_HOST: i32 = 306;
+pub const ORTHOLAN_REASON_MAILBOX_QUOTED: i32 = 307;
+pub const ORTHOLAN_REASON_MAILBOX_CASE: i32 = 308;
+pub const ORTHOLAN_REASON_MAILBOX_AT_ADDRESS: i32 = 309;
+pub const ORTHOLAN_REASON_MAILBOX_BEYOND_ASCII: i32 = 310;
+pub const ORTHOLAN_REASON_DIRECTORY_UNTOLD: i32 = 311;
+pub const ORTHOLAN_REASON_BUDGET: i32 = 312;
+pub const ORTHOLAN_REASON_UNREADABLE_CERTIFICATE: i32 = 313;
+pub const ORTHOLAN_NAME_NONE: i32 = 0;
+pub const ORTHOLAN_NAME_SUBJECT: i32 = 1;
+pub const ORTHOLAN_NAME_EMAIL: i32 = 2;
+pub const ORTHOLAN_NAME_ALTERNATIVE: i32 = 3;
+pub const ORTHOLAN_NAME_LIST: i32 = 4;
+pub const ORTHOLAN_NAME_CONSTRAINTS: i32 = 5;
 pub const ORTHOLAN_REASON_HOST_EMPTY: i32 = 140;
 pub const ORTHOLAN_REASON_HOST_EMPTY_LABEL: i32 = 141;
 pub const ORTHOLAN_REASON_HOST_LONG_LABEL: i32 = 142;
@@ -229,6 +237,17 @@ pub struct ortholan_refusal {
 
 #[repr(C)]
 #[derive(Clone, Copy, Debug)]
+pub struct ortholan_attribute_type {
+    pub oid: ortholan_octets,
+    pub name: ortholan_text,
+    pub long_name: ortholan_text,
+    pub aliases: ortholan_text,
+    pub syntax: i32,
+    pub bound: u32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
 pub struct ortholan_certificate_view {
     pub kind: i32,
     pub der: ortholan_octets,
@@ -274,25 +293,6 @@ pub struct ortholan_fault {
     pub extension: ortholan_octets,
     pub part: ortholan_octets,
     pub refusal: ortholan_refusal,
-}
-
-#[repr(C)]
-#[derive(Clone, Copy, Debug)]
-pub struct ortholan_finding {
-    pub reason: ortholan_reason,
-    pub verdict: ortholan_verdict,
-    pub certificate: usize,
-    pub authority: usize,
-    pub place: i32,
-    pub name: ortholan_octets,
-    pub subtree: ortholan_octets,
-    pub subtree_count: usize,
-}
-
-#[repr(C)]
-#[derive(Clone, Copy, Debug)]
-pub struct ortholan_permit_options {
-    pub budget: u64,
 }
 
 #[repr(C)]
@@ -349,6 +349,68 @@ pub struct ortholan_text_error {
     pub size: usize,
     pub character: usize,
     pub expected: *const c_char,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_column {
+    pub data: *const u8,
+    pub size: usize,
+    pub offsets: *const i64,
+    pub count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_column_room {
+    pub data: *mut u8,
+    pub size: usize,
+    pub offsets: *mut i64,
+    pub reasons: *mut ortholan_reason,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_finding {
+    pub reason: ortholan_reason,
+    pub verdict: ortholan_verdict,
+    pub certificate: usize,
+    pub authority: usize,
+    pub place: i32,
+    pub name: ortholan_octets,
+    pub subtree: ortholan_octets,
+    pub subtree_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_permit_options {
+    pub budget: u64,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_new_distribution_point {
+    pub full_name: *const ortholan_text,
+    pub full_name_count: usize,
+    pub reasons: u32,
+    pub crl_issuer: *const ortholan_text,
+    pub crl_issuer_count: usize,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_new_access_description {
+    pub method: ortholan_octets,
+    pub location: ortholan_text,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_new_policy {
+    pub oid: ortholan_octets,
+    pub cps: ortholan_text,
+    pub notice: ortholan_text,
 }
 
 #[repr(C)]
@@ -755,6 +817,20 @@ extern "C" {
         room: usize,
         size: *mut usize,
     ) -> ortholan_reason;
+    pub fn ortholan_attribute_type_count(
+    ) -> usize;
+    pub fn ortholan_attribute_type_at(
+        index: usize,
+        r#type: *mut ortholan_attribute_type,
+    ) -> ortholan_reason;
+    pub fn ortholan_attribute_type_of(
+        oid: ortholan_octets,
+        r#type: *mut ortholan_attribute_type,
+    ) -> ortholan_reason;
+    pub fn ortholan_attribute_type_named(
+        name: ortholan_text,
+        r#type: *mut ortholan_attribute_type,
+    ) -> ortholan_reason;
     pub fn ortholan_certificate_view_read(
         der: ortholan_octets,
         mode: i32,
@@ -815,31 +891,6 @@ extern "C" {
         index: usize,
         rule: *mut ortholan_check_rule,
     ) -> ortholan_reason;
-    pub fn ortholan_permits(
-        chain: *const ortholan_octets,
-        chain_size: usize,
-        options: *const ortholan_permit_options,
-        verdict: *mut ortholan_verdict,
-        findings: *mut ortholan_finding,
-        room: usize,
-        count: *mut usize,
-    ) -> ortholan_reason;
-    pub fn ortholan_permits_names(
-        constraints: ortholan_octets,
-        subject: ortholan_octets,
-        alternative_names: ortholan_octets,
-        options: *const ortholan_permit_options,
-        verdict: *mut ortholan_verdict,
-        findings: *mut ortholan_finding,
-        room: usize,
-        count: *mut usize,
-    ) -> ortholan_reason;
-    pub fn ortholan_finding_sentence(
-        finding: *const ortholan_finding,
-        out: *mut c_char,
-        room: usize,
-        size: *mut usize,
-    ) -> ortholan_reason;
     pub fn ortholan_name_view_read(
         der: ortholan_octets,
         mode: i32,
@@ -883,6 +934,133 @@ extern "C" {
         text: ortholan_text,
         refusal: *const ortholan_refusal,
         out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_column_rfc4514_write(
+        names: *const ortholan_column,
+        mode: i32,
+        options: *const ortholan_rfc4514_options,
+        room: *const ortholan_column_room,
+        done: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_column_rfc4514_read(
+        texts: *const ortholan_column,
+        options: *const ortholan_rfc4514_options,
+        room: *const ortholan_column_room,
+        done: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_column_match_key(
+        names: *const ortholan_column,
+        rule: i32,
+        room: *const ortholan_column_room,
+        done: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_column_general_name_to_text(
+        names: *const ortholan_column,
+        room: *const ortholan_column_room,
+        done: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_permits(
+        chain: *const ortholan_octets,
+        chain_size: usize,
+        options: *const ortholan_permit_options,
+        verdict: *mut ortholan_verdict,
+        findings: *mut ortholan_finding,
+        room: usize,
+        count: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_permits_names(
+        constraints: ortholan_octets,
+        subject: ortholan_octets,
+        alternative_names: ortholan_octets,
+        options: *const ortholan_permit_options,
+        verdict: *mut ortholan_verdict,
+        findings: *mut ortholan_finding,
+        room: usize,
+        count: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_finding_sentence(
+        finding: *const ortholan_finding,
+        out: *mut c_char,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_basic_constraints_write(
+        is_authority: i32,
+        path_length: i64,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_bits_write(
+        flags: u32,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_oids_write(
+        oids: *const ortholan_octets,
+        count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_octet_string_write(
+        octets: ortholan_octets,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_authority_key_identifier_write(
+        key_identifier: ortholan_octets,
+        issuer: *const ortholan_text,
+        issuer_count: usize,
+        serial_number: ortholan_octets,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_integer_write(
+        number: i64,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_tls_features_write(
+        features: *const u16,
+        count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_distribution_points_write(
+        points: *const ortholan_new_distribution_point,
+        count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_information_access_write(
+        descriptions: *const ortholan_new_access_description,
+        count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_policies_write(
+        policies: *const ortholan_new_policy,
+        count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_name_subtrees_write(
+        permitted: *const ortholan_text,
+        permitted_count: usize,
+        excluded: *const ortholan_text,
+        excluded_count: usize,
+        out: *mut u8,
         room: usize,
         size: *mut usize,
     ) -> ortholan_reason;
