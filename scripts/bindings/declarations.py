@@ -35,7 +35,7 @@ class Declarator:
     """`const uint8_t* data` or `uint8_t address[16]`."""
 
     def __init__(self, text):
-        found = re.fullmatch(r"(const )?(\w+)\s*(\*?)\s*(\w+)(?:\[(\d+)\])?", " ".join(text.split()))
+        found = re.fullmatch(r"(const )?(\w+)(?: |(?=\*))(\*?) ?(\w+)(?:\[(\d+)\])?", " ".join(text.split()))
         if not found:
             raise ValueError(f"not understood: {text}")
         self.const, self.base, self.pointer, self.name, self.count = found.groups()
@@ -67,7 +67,8 @@ def read():
     functions = {}
     pattern = r'visibility\("default"\)\)\)\s+((?:const )?\w+\*?)\s+(ortholan_\w+)\s*\(([^)]*)\);'
     for result, name, parameters in re.findall(pattern, text):
-        functions[name] = (Declarator(result + " result"), [Declarator(p) for p in parameters.split(",")])
+        listed = [] if parameters == "void" else parameters.split(",")
+        functions[name] = (Declarator(result + " result"), [Declarator(each) for each in listed])
     return structures, constants, functions
 
 

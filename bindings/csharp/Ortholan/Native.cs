@@ -812,7 +812,7 @@ namespace Ortholan.Native
         public static extern int ortholan_oid_from_text(Text text, byte* @out, UIntPtr room, UIntPtr* size);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
-        public static extern UIntPtr ortholan_attribute_type_count(Voi d);
+        public static extern UIntPtr ortholan_attribute_type_count();
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_attribute_type_at(UIntPtr index, AttributeType* type);

@@ -818,7 +818,6 @@ extern "C" {
         size: *mut usize,
     ) -> ortholan_reason;
     pub fn ortholan_attribute_type_count(
-        d: voi,
     ) -> usize;
     pub fn ortholan_attribute_type_at(
         index: usize,
