@@ -31,6 +31,8 @@ html_js_files = ["keyboard.js"]
 pygments_style = "default"
 pygments_dark_style = "one-dark"
 highlight_language = "text"
+# Sessions of psql have lines that are no SQL; they are shown without colours.
+suppress_warnings = ["misc.highlighting_failure"]
 
 # A block of a session is copied without its prompts and answers.
 copybutton_prompt_text = r"\$ |\(gdb\) "
