@@ -116,10 +116,10 @@ package:
 	@scripts/setup.sh package
 	cmake --preset package
 	cmake --build --preset package --target package
-	cmake --preset windows
-	cmake --build --preset windows --target ortholan ortholan_static x509name
-	cpack --config build/windows/CPackConfig.cmake -B build/windows/packages
-	scripts/package_check.sh build/package build/windows
+	cmake --preset package-windows
+	cmake --build --preset package-windows
+	cpack --config build/package-windows/CPackConfig.cmake -B build/package-windows/packages
+	scripts/package_check.sh build/package build/package-windows
 
 compilers:
 	@scripts/setup.sh test

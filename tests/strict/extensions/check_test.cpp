@@ -107,9 +107,10 @@ TEST(Check, RefusesMissingArguments) {
 
 // Octets cut off or spoiled leave faults with places inside, or a refusal.
 TEST(Check, SurvivesSpoiledDocuments) {
+  size_t number = 0;
   for (const VectorRow& row : ReadVectors("checks.tsv")) {
     const std::string whole = row.octets("der");
-    if (whole.size() > 160) continue;
+    if (whole.size() > 160 || number++ % (1 + ORTHOLAN_TEST_SCALE / 4) != 0) continue;
     SCOPED_TRACE(row.where());
     for (size_t i = 0; i < whole.size(); ++i) {
       const std::string cut(whole, 0, i);
