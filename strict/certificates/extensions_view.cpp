@@ -7,15 +7,15 @@ namespace Ortholan::strict {
 namespace {
 
 // What stands behind the identifier.
-bool ReadValue(Reader* fields, ExtensionView* extension) {
+inline bool ReadValue(Reader* fields, ExtensionView* extension) {
   return ReadDefaultFalse(fields, &extension->critical) &&
          fields->Read(kOctetString, &extension->value) && fields->End();
 }
 
-bool ReadExtension(Reader* list, ExtensionView* extension) {
-  Element element;
-  if (!list->Read(kSequence, &element)) return false;
-  Reader fields(element.content, list->leniency(), list->refusal());
+// What is inside the SEQUENCE.
+inline bool ReadExtension(const Element& element, Leniency leniency, Refusal* refusal,
+                          ExtensionView* extension) {
+  Reader fields(element.content, leniency, refusal);
   extension->bytes = element.bytes;
   if (!fields.Read(kOid, &extension->oid)) return false;
   if (!IsIdentifier(extension->oid)) {
@@ -32,20 +32,25 @@ bool ExtensionsView::Read(ByteView der, Leniency leniency, ExtensionsView* exten
   if (!ReadWhole(der, kSequence, leniency, &read.content_, refusal)) return false;
   Reader list(read.content_, leniency, refusal);
   if (list.AtEnd()) return list.RefuseHere(ORTHOLAN_REASON_EMPTY);
-  for (ExtensionView extension; !list.AtEnd(); ++read.size_) {
-    if (!ReadExtension(&list, &extension)) return false;
+  ExtensionView extension;
+  for (Element element; !list.AtEnd(); ++read.size_) {
+    if (!list.Read(kSequence, &element) || !ReadExtension(element, leniency, refusal, &extension)) {
+      return false;
+    }
   }
   *extensions = read;
   return true;
 }
 
 // What was checked is read again with the widest rule.
-void ExtensionsView::Iterator::Step() {
-  extension_ = {};
-  if (rest_.empty()) return;
-  Reader list(rest_, Leniency::kLenient, nullptr);
-  ReadExtension(&list, &extension_);
-  rest_ = list.rest();
+ExtensionView ExtensionsView::First(ByteView content) {
+  ExtensionView first;
+  Reader list(content, Leniency::kLenient, nullptr);
+  Element element;
+  if (!list.AtEnd() && list.Read(kSequence, &element)) {
+    ReadExtension(element, Leniency::kLenient, nullptr, &first);
+  }
+  return first;
 }
 
 // The identifiers alone tell which extension has to be taken apart.

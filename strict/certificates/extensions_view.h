@@ -49,7 +49,10 @@ class ExtensionsView {
     bool operator!=(const Iterator& other) const { return !(*this == other); }
 
    private:
-    void Step();
+    void Step() {
+      extension_ = First(rest_);
+      rest_ = rest_.From(extension_.bytes.size);
+    }
 
     ByteView rest_;
     ExtensionView extension_;  // without octets at the end
@@ -66,6 +69,9 @@ class ExtensionsView {
   size_t size() const { return size_; }
   // The extensions one behind the other.
   ByteView content() const { return content_; }
+
+  // The first of checked extensions one behind the other; without octets where there is none.
+  static ExtensionView First(ByteView content);
 
   // Looks for the one extension of a type. False, with the second one's place in the refusal, where
   // there are several; `*found` is without octets where there is none.

@@ -51,30 +51,27 @@ bool Reader::ReadLength(size_t* header, size_t* length) {
   return true;
 }
 
-bool Reader::ReadLong(Element* element) {
+bool Reader::ReadExtent(Extent* extent) {
   if (rest_.empty()) return RefuseHere(ORTHOLAN_REASON_TRUNCATED);
   size_t header = 1;
   size_t length = 0;
-  // One identifier octet and a length of two or three, in the shortest form and all there.
-  if (rest_.size > 4 && (rest_[0] & kLongTag) != kLongTag) {
-    if (rest_[1] == 0x81 && rest_[2] >= 0x80) {
-      header = 3;
-      length = rest_[2];
-    } else if (rest_[1] == 0x82 && rest_[2] != 0) {
-      header = 4;
-      length = size_t{rest_[2]} << 8 | rest_[3];
-    }
-    if (header != 1 && length <= rest_.size - header) {
-      Take(header, length, element);
-      return true;
-    }
-    header = 1;
-  }
   if ((rest_[0] & kLongTag) == kLongTag && !ReadTag(&header)) return false;
   if (!ReadLength(&header, &length)) return false;
   if (length > rest_.size - header) return RefuseAt(ORTHOLAN_REASON_TRUNCATED, rest_.end());
-  Take(header, length, element);
+  *extent = {header, length};
   return true;
+}
+
+Reader::Extent Reader::ReadExtent(ByteView in, Leniency leniency, Refusal* refusal) {
+  // One identifier octet and a length of two or three, in the shortest form and all there.
+  if (in.size > 4 && (in[0] & kLongTag) != kLongTag) {
+    if (in[1] == 0x81 && in[2] >= 0x80 && in[2] <= in.size - 3) return {3, in[2]};
+    const size_t length = size_t{in[2]} << 8 | in[3];
+    if (in[1] == 0x82 && in[2] != 0 && length <= in.size - 4) return {4, length};
+  }
+  Extent extent = {0, 0};
+  Reader(in, leniency, refusal).ReadExtent(&extent);
+  return extent;
 }
 
 bool Reader::EnterIndefinite(ByteView* identifier) {

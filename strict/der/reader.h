@@ -30,12 +30,19 @@ class Reader {
   // The next element, whatever it is.
   bool Read(Element* element) {
     // One identifier octet and a length of one octet, all there: nearly every element.
+    Extent extent = {2, 0};
     if (rest_.size >= 2 && (rest_[0] & kLongTag) != kLongTag && rest_[1] < 0x80 &&
         rest_[1] <= rest_.size - 2) {
-      Take(2, rest_[1], element);
-      return true;
+      extent.length = rest_[1];
+    } else {
+      extent = ReadExtent(rest_, leniency_, refusal_);
+      if (extent.header == 0) return false;
     }
-    return ReadLong(element);
+    element->identifier = rest_[0];
+    element->content = {rest_.data + extent.header, extent.length};
+    element->bytes = {rest_.data, extent.header + extent.length};
+    rest_ = rest_.From(extent.header + extent.length);
+    return true;
   }
   // The next element, which must have the identifier; its content.
   bool Read(uint8_t identifier, ByteView* content) {
@@ -72,13 +79,15 @@ class Reader {
   Refusal* refusal() const { return refusal_; }
 
  private:
-  void Take(size_t header, size_t length, Element* element) {
-    element->identifier = rest_[0];
-    element->content = {rest_.data + header, length};
-    element->bytes = {rest_.data, header + length};
-    rest_ = rest_.From(header + length);
-  }
-  bool ReadLong(Element* element);
+  // Octets of an element.
+  struct Extent {
+    size_t header;  // 0 where it was refused
+    size_t length;
+  };
+
+  // Of the element at the front of `in`. All by value, so that a reader lives in registers.
+  static Extent ReadExtent(ByteView in, Leniency leniency, Refusal* refusal);
+  bool ReadExtent(Extent* extent);
   bool ReadTag(size_t* header);
   bool ReadLength(size_t* header, size_t* length);
 

@@ -1,7 +1,5 @@
 #include "strict/general_names/general_name_view.h"
 
-#include <ortholan/strict/general_names.h>
-
 #include <algorithm>
 
 #include "strict/der/identifier.h"
@@ -13,19 +11,6 @@ namespace {
 
 constexpr uint8_t kFirstControl = 0x20;  // below it, and DEL, are the controls of ASCII
 constexpr uint8_t kDelete = 0x7F;
-
-// The identifier octet of each kind.
-constexpr uint8_t kIdentifiers[] = {
-    ContextConstructed(0),
-    Context(1),
-    Context(2),
-    ContextConstructed(3),
-    ContextConstructed(4),
-    ContextConstructed(5),
-    Context(6),
-    Context(7),
-    Context(8),
-};
 
 bool CheckOtherName(ByteView content, Leniency leniency, Refusal* refusal) {
   Reader fields(content, leniency, refusal);
@@ -59,20 +44,6 @@ bool CheckAddress(ByteView content, bool hasMask, Refusal* refusal) {
 }
 
 }  // namespace
-
-bool GeneralNameView::FromElement(const Element& element, GeneralNameView* name) {
-  const uint8_t number = element.identifier & kLongTag;
-  if (number >= sizeof kIdentifiers || element.identifier != kIdentifiers[number]) return false;
-  *name = {static_cast<GeneralNameKind>(number), element.content, element.bytes};
-  return true;
-}
-
-bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
-  Element element;
-  const Reader before = *list;
-  if (!list->Read(&element)) return false;
-  return FromElement(element, name) || Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
-}
 
 bool GeneralNameView::Check(Leniency leniency, bool hasMask, Refusal* refusal) const {
   switch (kind) {

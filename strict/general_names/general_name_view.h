@@ -8,15 +8,15 @@
 #ifndef ORTHOLAN_STRICT_GENERAL_NAMES_GENERAL_NAME_VIEW_H_
 #define ORTHOLAN_STRICT_GENERAL_NAMES_GENERAL_NAME_VIEW_H_
 
+#include <ortholan/strict/general_names.h>
+
 #include <iterator>
 
 #include "bytes/byte_view.h"
 #include "strict/der/element.h"
+#include "strict/der/reader.h"
 
 namespace Ortholan::strict {
-
-class Reader;
-struct Refusal;
 
 // The number of the choice's context tag.
 enum class GeneralNameKind : uint8_t {
@@ -29,6 +29,19 @@ enum class GeneralNameKind : uint8_t {
   kUri = 6,
   kAddress = 7,  // iPAddress
   kRegisteredId = 8,
+};
+
+// The identifier octet of each kind.
+constexpr uint8_t kGeneralNameIdentifiers[] = {
+    ContextConstructed(0),
+    Context(1),
+    Context(2),
+    ContextConstructed(3),
+    ContextConstructed(4),
+    ContextConstructed(5),
+    Context(6),
+    Context(7),
+    Context(8),
 };
 
 struct GeneralNameView {
@@ -51,6 +64,23 @@ struct GeneralNameView {
   // type's affair.
   bool Check(Leniency leniency, bool hasMask, Refusal* refusal) const;
 };
+
+inline bool GeneralNameView::FromElement(const Element& element, GeneralNameView* name) {
+  const uint8_t number = element.identifier & kLongTag;
+  if (number >= sizeof kGeneralNameIdentifiers ||
+      element.identifier != kGeneralNameIdentifiers[number]) {
+    return false;
+  }
+  *name = {static_cast<GeneralNameKind>(number), element.content, element.bytes};
+  return true;
+}
+
+inline bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
+  Element element;
+  const Reader before = *list;
+  if (!list->Read(&element)) return false;
+  return FromElement(element, name) || Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
+}
 
 // The parts of an other name, in `content` of a name that was read.
 struct OtherNameView {

@@ -34,24 +34,35 @@ bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal);
 // The same for a presented name, which may be "*." and a host name of two labels or more.
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
 
-// Compares without the case of ASCII letters; also schemes and keywords.
-inline bool SameWithoutCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  if (a.size() >= sizeof(uint64_t)) {
-    // Most that differ do so in their first or last eight characters, bit 0x20 aside.
-    uint64_t front_a, front_b, back_a, back_b;
-    std::memcpy(&front_a, a.data(), sizeof front_a);
-    std::memcpy(&front_b, b.data(), sizeof front_b);
-    std::memcpy(&back_a, a.data() + a.size() - sizeof back_a, sizeof back_a);
-    std::memcpy(&back_b, b.data() + b.size() - sizeof back_b, sizeof back_b);
-    if ((((front_a ^ front_b) | (back_a ^ back_b)) & ~UINT64_C(0x2020202020202020)) != 0) {
-      return false;
-    }
-  }
+// Eight characters in one word.
+inline uint64_t LoadCharacters(const char* at) {
+  uint64_t word;
+  std::memcpy(&word, at, sizeof word);
+  return word;
+}
+
+inline bool SameLetterByLetter(std::string_view a, std::string_view b) {
   for (size_t i = 0; i < a.size(); ++i) {
     if (a[i] != b[i] && ToAsciiLower(a[i]) != ToAsciiLower(b[i])) return false;
   }
   return true;
+}
+
+// Compares without the case of ASCII letters; also schemes and keywords.
+inline bool SameWithoutCase(std::string_view a, std::string_view b) {
+  constexpr size_t kWord = sizeof(uint64_t);
+  if (a.size() != b.size()) return false;
+  if (a.size() < kWord) return SameLetterByLetter(a, b);
+  // Most that differ do so in their first or last eight characters, bit 0x20 aside.
+  size_t at = a.size() - kWord;
+  uint64_t difference = (LoadCharacters(a.data()) ^ LoadCharacters(b.data())) |
+                        (LoadCharacters(a.data() + at) ^ LoadCharacters(b.data() + at));
+  if ((difference & ~UINT64_C(0x2020202020202020)) != 0) return false;
+  while (at > kWord) {
+    at -= kWord;
+    difference |= LoadCharacters(a.data() + at) ^ LoadCharacters(b.data() + at);
+  }
+  return difference == 0 || SameLetterByLetter(a, b);
 }
 
 // The host without one dot at its end.
