@@ -48,6 +48,7 @@ HoldingOfList SubtreeSet::Find(const ConstrainedName& name, Budget* budget) cons
     if (!budget->Take()) return {Holding::kUnknown, nullptr, ORTHOLAN_REASON_BUDGET};
     ortholan_reason reason = ORTHOLAN_REASON_NONE;
     const Holding holding = Hold(subtree, name, &reason);
+    if (holding == Holding::kOutside) continue;
     if (Weight(holding) > Weight(found.holding)) found = {holding, &subtree, reason};
     if (holding == Holding::kInside) break;
   }

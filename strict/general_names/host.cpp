@@ -121,8 +121,9 @@ bool HasShortLabels(std::string_view host) {
   return true;
 }
 
-// Whether the host is one, without a word about what is wrong, as nearly every host is.
-bool IsInOrder(std::string_view host, uint32_t choices) {
+}  // namespace
+
+bool IsPlainlyHost(std::string_view host, uint32_t choices) {
   const uint8_t* const classes = kClasses[(choices & kUnderscores) != 0 ? 1 : 0].bits;
   uint8_t state = kLabelStart;
   for (const char c : host) state = kNextState[state | classes[static_cast<uint8_t>(c)]];
@@ -130,10 +131,8 @@ bool IsInOrder(std::string_view host, uint32_t choices) {
          HasShortLabels(host);
 }
 
-}  // namespace
-
 bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal) {
-  return IsInOrder(host, choices) || HostChecker(host, choices, refusal).Check();
+  return IsPlainlyHost(host, choices) || HostChecker(host, choices, refusal).Check();
 }
 
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal) {
@@ -143,6 +142,12 @@ bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refus
   if (!BehindFirstLabel(WithoutTrailingDot(base)).empty()) return true;
   return Refuse(refusal, ORTHOLAN_REASON_HOST_WILDCARD,
                 reinterpret_cast<const uint8_t*>(pattern.data()), pattern.size());
+}
+
+ortholan_reason FaultOfHostPattern(std::string_view pattern, uint32_t choices) {
+  Refusal refusal;
+  CheckHostPattern(pattern, choices, &refusal);
+  return refusal.reason;
 }
 
 }  // namespace Ortholan::strict

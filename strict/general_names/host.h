@@ -33,6 +33,14 @@ enum HostChoice : uint32_t {
 bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal);
 // The same for a presented name, which may be "*." and a host name of two labels or more.
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
+// Why it is none; NONE for one that is.
+ortholan_reason FaultOfHostPattern(std::string_view pattern, uint32_t choices);
+// True for nearly every host name with letters, digits, inner hyphens and, where chosen,
+// underscores; false tells nothing.
+bool IsPlainlyHost(std::string_view host, uint32_t choices);
+
+// Of eight characters in one word what is not the case of a letter.
+constexpr uint64_t kButCase = ~UINT64_C(0x2020202020202020);
 
 // Eight characters in one word.
 inline uint64_t LoadCharacters(const char* at) {
@@ -57,7 +65,7 @@ inline bool SameWithoutCase(std::string_view a, std::string_view b) {
   size_t at = a.size() - kWord;
   uint64_t difference = (LoadCharacters(a.data()) ^ LoadCharacters(b.data())) |
                         (LoadCharacters(a.data() + at) ^ LoadCharacters(b.data() + at));
-  if ((difference & ~UINT64_C(0x2020202020202020)) != 0) return false;
+  if ((difference & kButCase) != 0) return false;
   while (at > kWord) {
     at -= kWord;
     difference |= LoadCharacters(a.data() + at) ^ LoadCharacters(b.data() + at);

@@ -9,18 +9,17 @@
 namespace Ortholan::strict {
 namespace {
 
-ortholan_reason CompareHostNames(std::string_view presented, const Reference& reference) {
+inline ortholan_reason CompareHostNames(std::string_view presented, const Reference& reference) {
   const std::string_view host = reference.parts.host;
   std::string_view base;
   if (!TakeWildcard(presented, &base)) {
     if (!SameWithoutCase(presented, host)) return ORTHOLAN_REASON_OTHER_HOST;
+    if (reference.is_presentable) return ORTHOLAN_REASON_NONE;
   } else if (!SameWithoutCase(base, BehindFirstLabel(host))) {
     return !base.empty() && IsWithinHost(host, base) ? ORTHOLAN_REASON_WILDCARD_LABELS
                                                      : ORTHOLAN_REASON_OTHER_HOST;
   }
-  Refusal refusal;
-  CheckHostPattern(presented, reference.host_choices, &refusal);
-  return refusal.reason;
+  return FaultOfHostPattern(presented, reference.host_choices);
 }
 
 ortholan_reason CompareAddresses(ByteView presented, const Reference& reference) {
@@ -82,11 +81,9 @@ ortholan_reason CompareOtherName(ByteView content, const Reference& reference) {
                     : CompareMailboxes(other.text, true, reference);
 }
 
-// Which kind of name answers a reference, other names apart.
+// Which kind of name answers a reference that is no host, other names apart.
 GeneralNameKind KindFor(ReferenceKind kind) {
   switch (kind) {
-    case ReferenceKind::kHost:
-      return GeneralNameKind::kDns;
     case ReferenceKind::kAddress:
       return GeneralNameKind::kAddress;
     case ReferenceKind::kMailbox:
@@ -98,13 +95,10 @@ GeneralNameKind KindFor(ReferenceKind kind) {
   }
 }
 
-// NONE for a match. A name that differs is not looked at closer.
-ortholan_reason Compare(const GeneralNameView& name, const Reference& reference) {
+ortholan_reason CompareNoHost(const GeneralNameView& name, const Reference& reference) {
   if (name.kind == GeneralNameKind::kOther) return CompareOtherName(name.content, reference);
   if (name.kind != KindFor(reference.kind)) return ORTHOLAN_REASON_OTHER_KIND;
   switch (name.kind) {
-    case GeneralNameKind::kDns:
-      return CompareHostNames(AsText(name.content), reference);
     case GeneralNameKind::kAddress:
       return CompareAddresses(name.content, reference);
     case GeneralNameKind::kMail:
@@ -112,6 +106,13 @@ ortholan_reason Compare(const GeneralNameView& name, const Reference& reference)
     default:
       return CompareUris(AsText(name.content), reference);
   }
+}
+
+// NONE for a match. A name that differs is not looked at closer.
+inline ortholan_reason Compare(const GeneralNameView& name, const Reference& reference) {
+  if (reference.kind != ReferenceKind::kHost) return CompareNoHost(name, reference);
+  if (name.kind != GeneralNameKind::kDns) return ORTHOLAN_REASON_OTHER_KIND;
+  return CompareHostNames(AsText(name.content), reference);
 }
 
 Identity CannotTell(const Refusal& found, Refusal* refusal) {
@@ -151,9 +152,9 @@ Identity IdentifyByNames(ByteView names, const Reference& reference, Refusal* re
   bool is_read = ReadWhole(names, kSequence, Leniency::kDer, &identity.names, &found);
   Reader list(identity.names, Leniency::kDer, &found);
   if (is_read && list.AtEnd()) is_read = list.RefuseHere(ORTHOLAN_REASON_EMPTY);
-  for (Element element; is_read && !list.AtEnd(); ++identity.name_count) {
+  Element element;
+  for (GeneralNameView name; is_read && !list.AtEnd(); ++identity.name_count) {
     is_read = list.Read(&element);
-    GeneralNameView name;
     if (!is_read || !identity.match.bytes.empty()) continue;
     if (!GeneralNameView::FromElement(element, &name)) continue;
     if (Compare(name, reference) != ORTHOLAN_REASON_NONE) continue;
@@ -175,7 +176,7 @@ ortholan_reason Explain(const Element& element, const Reference& reference) {
   Refusal refusal;
   // The characters of a host tell more than that it is no ASCII.
   if (name.kind == GeneralNameKind::kDns) {
-    CheckHostPattern(AsText(name.content), reference.host_choices, &refusal);
+    refusal.reason = FaultOfHostPattern(AsText(name.content), reference.host_choices);
   } else {
     name.Check(Leniency::kDer, false, &refusal);
   }

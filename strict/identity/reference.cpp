@@ -74,7 +74,9 @@ bool Reference::Read(ReferenceKind kind, std::string_view text, uint32_t choices
   const auto is_read = [&] {
     switch (kind) {
       case ReferenceKind::kHost:
-        return ReadHost(text, read.host_choices, &read.parts, refusal);
+        read.parts.host = text;
+        read.is_presentable = IsPlainlyHost(text, read.host_choices);
+        return read.is_presentable || ReadHost(text, read.host_choices, &read.parts, refusal);
       case ReferenceKind::kAddress:
         return ReadIpAddress(text, &read.parts.address) ||
                RefuseText(refusal, ORTHOLAN_REASON_ADDRESS_TEXT, text);

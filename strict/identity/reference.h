@@ -38,8 +38,9 @@ bool ReadServiceParts(std::string_view text, NameParts* parts, Refusal* refusal)
 
 struct Reference {
   ReferenceKind kind = ReferenceKind::kHost;
-  uint32_t host_choices = 0;  // what presented hosts may have
-  NameParts parts;            // hosts without a dot at the end
+  uint32_t host_choices = 0;    // what presented hosts may have
+  bool is_presentable = false;  // a host that needs no check where a name presents it
+  NameParts parts;              // hosts without a dot at the end
 
   // `choices` is of the ORTHOLAN_IDENTIFY_ words. What is no reference of its kind is refused at
   // its place in `text`.
