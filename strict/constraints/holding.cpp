@@ -18,15 +18,6 @@ bool IsBelow(std::string_view host, std::string_view parent) {
   return host.size() > parent.size() && IsWithinHost(host, parent);
 }
 
-// Whether the last characters of two hosts are such that one may end in the other.
-bool MayEndAlike(std::string_view a, std::string_view b) {
-  constexpr size_t kWord = sizeof(uint64_t);
-  if (a.size() < kWord || b.size() < kWord) return true;
-  const uint64_t difference =
-      LoadCharacters(a.data() + a.size() - kWord) ^ LoadCharacters(b.data() + b.size() - kWord);
-  return (difference & kButCase) == 0;
-}
-
 // "*" stands for one label: all of those hosts are inside, or the one that is the tree's root.
 Holding HoldWildcard(Subtree::Kind kind, std::string_view subtree, std::string_view base) {
   if (IsWithinHost(base, subtree)) return Holding::kInside;
@@ -97,7 +88,6 @@ Holding Hold(const Subtree& subtree, const ConstrainedName& name, ortholan_reaso
       return HoldDirectory(subtree, name, reason);
     case NameForm::kDns:
     case NameForm::kUri:
-      if (!MayEndAlike(subtree.host, name.host)) return Holding::kOutside;
       return HoldHost(subtree.kind, subtree.host, name);
     case NameForm::kMail:
       return HoldMail(subtree, name, reason);

@@ -2,14 +2,31 @@
 
 #include "strict/constraints/name_constraints_view.h"
 #include "strict/constraints/subtree_index.h"
+#include "strict/general_names/host.h"
 
 namespace Ortholan::strict {
 namespace {
 
+constexpr int kWeights[] = {0, 2, 3, 1};  // kOutside, kOverlap, kInside, kUnknown
+
 // Which of two answers says more.
-constexpr int Weight(Holding holding) {
-  constexpr int kWeights[] = {0, 2, 3, 1};  // kOutside, kOverlap, kInside, kUnknown
-  return kWeights[static_cast<size_t>(holding)];
+constexpr int Weight(Holding holding) { return kWeights[static_cast<size_t>(holding)]; }
+
+// Asks `hold` about each subtree of the name's form.
+template <class Subtrees, class Hold>
+HoldingOfList Walk(const Subtrees& subtrees, const ConstrainedName& name, Budget* budget,
+                   Hold hold) {
+  HoldingOfList found;
+  for (const Subtree& subtree : subtrees) {
+    if (subtree.form != name.form) continue;
+    if (!budget->Take()) return {Holding::kUnknown, nullptr, ORTHOLAN_REASON_BUDGET};
+    ortholan_reason reason = ORTHOLAN_REASON_NONE;
+    const Holding holding = hold(subtree, &reason);
+    if (holding == Holding::kOutside) continue;
+    if (Weight(holding) > Weight(found.holding)) found = {holding, &subtree, reason};
+    if (holding == Holding::kInside) break;
+  }
+  return found;
 }
 
 }  // namespace
@@ -39,20 +56,24 @@ size_t SubtreeSet::Count(NameForm form, const Subtree** first) const {
   return count;
 }
 
-HoldingOfList SubtreeSet::Find(const ConstrainedName& name, Budget* budget) const {
+HoldingOfList SubtreeSet::FindByIndex(const ConstrainedName& name, Budget* budget) const {
   HoldingOfList found;
-  if (index_ != nullptr && index_->Find(name, budget, &found.holding, &found.subtree)) return found;
-  found = {};
-  for (const Subtree& subtree : subtrees_) {
-    if (subtree.form != name.form) continue;
-    if (!budget->Take()) return {Holding::kUnknown, nullptr, ORTHOLAN_REASON_BUDGET};
-    ortholan_reason reason = ORTHOLAN_REASON_NONE;
-    const Holding holding = Hold(subtree, name, &reason);
-    if (holding == Holding::kOutside) continue;
-    if (Weight(holding) > Weight(found.holding)) found = {holding, &subtree, reason};
-    if (holding == Holding::kInside) break;
-  }
-  return found;
+  if (index_->Find(name, budget, &found.holding, &found.subtree)) return found;
+  return FindByWalk(name, budget);
+}
+
+HoldingOfList SubtreeSet::FindByWalk(const ConstrainedName& name, Budget* budget) const {
+  if (name.form == NameForm::kDns || name.form == NameForm::kUri) return FindHost(name, budget);
+  return Walk(subtrees_, name, budget, [&name](const Subtree& subtree, ortholan_reason* reason) {
+    return Hold(subtree, name, reason);
+  });
+}
+
+HoldingOfList SubtreeSet::FindHost(const ConstrainedName& name, Budget* budget) const {
+  return Walk(subtrees_, name, budget, [&name](const Subtree& subtree, ortholan_reason*) {
+    return MayEndAlike(subtree.host, name.host) ? HoldHost(subtree.kind, subtree.host, name)
+                                                : Holding::kOutside;
+  });
 }
 
 }  // namespace Ortholan::strict

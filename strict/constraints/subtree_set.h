@@ -35,9 +35,15 @@ class SubtreeSet {
 
   // Looks a name without fault up: kInside by the first subtree that holds it, else kOverlap, else
   // kUnknown, else kOutside.
-  HoldingOfList Find(const ConstrainedName& name, Budget* budget) const;
+  HoldingOfList Find(const ConstrainedName& name, Budget* budget) const {
+    return index_ != nullptr ? FindByIndex(name, budget) : FindByWalk(name, budget);
+  }
 
  private:
+  HoldingOfList FindByIndex(const ConstrainedName& name, Budget* budget) const;
+  HoldingOfList FindHost(const ConstrainedName& name, Budget* budget) const;
+  HoldingOfList FindByWalk(const ConstrainedName& name, Budget* budget) const;
+
   // Longer lists get tables.
   static constexpr size_t kShort = 32;
 

@@ -112,23 +112,13 @@ constexpr CharacterTable MakeClasses(bool hasUnderscores) {
 
 constexpr CharacterTable kClasses[] = {MakeClasses(false), MakeClasses(true)};
 
-bool HasShortLabels(std::string_view host) {
-  if (host.size() <= kMaxLabelOctets) return true;
-  for (size_t start = 0, end = 0; end < host.size(); start = end + 1) {
-    end = std::min(host.find('.', start), host.size());
-    if (end - start > kMaxLabelOctets) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 bool IsPlainlyHost(std::string_view host, uint32_t choices) {
   const uint8_t* const classes = kClasses[(choices & kUnderscores) != 0 ? 1 : 0].bits;
   uint8_t state = kLabelStart;
   for (const char c : host) state = kNextState[state | classes[static_cast<uint8_t>(c)]];
-  return state == kInside && !IsAsciiDigit(host.back()) && host.size() <= kMaxHostOctets &&
-         HasShortLabels(host);
+  return state == kInside && !IsAsciiDigit(host.back()) && host.size() <= kMaxLabelOctets;
 }
 
 bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal) {

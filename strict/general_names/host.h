@@ -73,6 +73,15 @@ inline bool SameWithoutCase(std::string_view a, std::string_view b) {
   return difference == 0 || SameLetterByLetter(a, b);
 }
 
+// Whether the last characters of two hosts are such that one may end in the other.
+inline bool MayEndAlike(std::string_view a, std::string_view b) {
+  constexpr size_t kWord = sizeof(uint64_t);
+  if (a.size() < kWord || b.size() < kWord) return true;
+  const uint64_t difference =
+      LoadCharacters(a.data() + a.size() - kWord) ^ LoadCharacters(b.data() + b.size() - kWord);
+  return (difference & kButCase) == 0;
+}
+
 // The host without one dot at its end.
 constexpr std::string_view WithoutTrailingDot(std::string_view host) {
   if (!host.empty() && host.back() == '.') host.remove_suffix(1);
