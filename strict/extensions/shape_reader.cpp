@@ -18,15 +18,11 @@ const Shape kAnyShape = {ShapeKind::kAny};
 
 namespace {
 
-// Whether a value of the shape may begin with the octet.
-bool MayBegin(const Shape& shape, uint8_t octet);
+// Whether one of the alternatives may begin with the octet.
+bool AnyMayBegin(const Rows<Field>& alternatives, uint8_t octet);
 
-bool MayBegin(const Field& field, uint8_t octet) {
-  return field.tagging == Tagging::kNone ? MayBegin(*field.shape, octet)
-                                         : octet == IdentifierOf(field);
-}
-
-bool MayBegin(const Shape& shape, uint8_t octet) {
+// Whether a value of the shape may.
+inline bool MayBegin(const Shape& shape, uint8_t octet) {
   switch (shape.kind) {
     case ShapeKind::kAny:
     case ShapeKind::kOpen:
@@ -36,13 +32,22 @@ bool MayBegin(const Shape& shape, uint8_t octet) {
     case ShapeKind::kString:
       return octet < 0x20 && (shape.number >> octet & 1) != 0;
     case ShapeKind::kChoice:
-      for (const Field& field : shape.fields) {
-        if (MayBegin(field, octet)) return true;
-      }
-      return false;
+      return AnyMayBegin(shape.fields, octet);
     default:
       return octet == IdentifierOf(shape);
   }
+}
+
+inline bool MayBegin(const Field& field, uint8_t octet) {
+  return field.tagging == Tagging::kNone ? MayBegin(*field.shape, octet)
+                                         : octet == IdentifierOf(field);
+}
+
+bool AnyMayBegin(const Rows<Field>& alternatives, uint8_t octet) {
+  for (const Field& field : alternatives) {
+    if (MayBegin(field, octet)) return true;
+  }
+  return false;
 }
 
 class Walk {

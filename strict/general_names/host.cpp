@@ -121,8 +121,8 @@ bool IsPlainlyHost(std::string_view host, uint32_t choices) {
   return state == kInside && !IsAsciiDigit(host.back()) && host.size() <= kMaxLabelOctets;
 }
 
-bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal) {
-  return IsPlainlyHost(host, choices) || HostChecker(host, choices, refusal).Check();
+bool CheckHostClosely(std::string_view host, uint32_t choices, Refusal* refusal) {
+  return HostChecker(host, choices, refusal).Check();
 }
 
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal) {

@@ -28,16 +28,21 @@ enum HostChoice : uint32_t {
   kEdgeHyphens = 4,  // labels that begin or end with a hyphen
 };
 
+// True for nearly every host name of letters, digits, inner hyphens and, where chosen, underscores;
+// false tells nothing.
+bool IsPlainlyHost(std::string_view host, uint32_t choices);
+// CheckHost for any host, with a word about what is wrong.
+bool CheckHostClosely(std::string_view host, uint32_t choices, Refusal* refusal);
+
 // Whether `host` is a host name: labels of 1 to 63 octets, 253 in all without a dot at the end, the
 // last label no number. Notes the first fault at its place.
-bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal);
+inline bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal) {
+  return IsPlainlyHost(host, choices) || CheckHostClosely(host, choices, refusal);
+}
 // The same for a presented name, which may be "*." and a host name of two labels or more.
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
 // Why it is none; NONE for one that is.
 ortholan_reason FaultOfHostPattern(std::string_view pattern, uint32_t choices);
-// True for nearly every host name with letters, digits, inner hyphens and, where chosen,
-// underscores; false tells nothing.
-bool IsPlainlyHost(std::string_view host, uint32_t choices);
 
 // Of eight characters in one word what is not the case of a letter.
 constexpr uint64_t kButCase = ~UINT64_C(0x2020202020202020);
