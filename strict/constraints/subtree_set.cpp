@@ -36,11 +36,10 @@ SubtreeSet::~SubtreeSet() = default;
 
 bool SubtreeSet::Read(ByteView list, Refusal* refusal) {
   SubtreeReader reader(list);
-  Subtree subtree;
   for (GeneralNameView base; reader.Next(&base);) {
-    if (!Subtree::Read(base, &subtree, refusal)) return false;
-    forms_.Add(subtree.form);
-    subtrees_.push_back(subtree);
+    Subtree* const subtree = subtrees_.Extend(1);
+    if (!Subtree::Read(base, subtree, refusal)) return false;
+    forms_.Add(subtree->form);
   }
   if (subtrees_.size() > kShort) {
     index_ = std::make_unique<SubtreeIndex>(subtrees_.begin(), subtrees_.end());
