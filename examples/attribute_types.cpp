@@ -6,6 +6,7 @@
 
 #include "examples/commands.h"
 #include "examples/failure.h"
+#include "examples/input.h"
 #include "examples/text.h"
 
 namespace Example {
