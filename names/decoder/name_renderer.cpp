@@ -8,11 +8,11 @@
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "foundation/report.h"
-#include "names/decoder/quoting.h"
 #include "names/decoder/rdn_reader.h"
 #include "names/decoder/short_key.h"
 #include "names/decoder/type_name.h"
 #include "names/decoder/value_text.h"
+#include "names/decoder/when_quoted.h"
 #include "platform/string_value.h"
 
 namespace Ortholan {

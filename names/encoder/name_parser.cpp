@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <functional>
 
+#include "names/doubled_quotes.h"
 #include "names/encoder/trim.h"
-#include "names/quote.h"
 
 namespace Ortholan {
 namespace {

@@ -11,9 +11,9 @@
 #include "foundation/report.h"
 #include "names/encoder/name_parser.h"
 #include "names/encoder/rdn_writer.h"
+#include "names/encoder/string_type.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/value_encoder.h"
-#include "names/encoder/value_type.h"
 
 namespace Ortholan {
 namespace {

@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
 
 namespace Ortholan {
 

@@ -6,10 +6,10 @@
 #include "bytes/arena.h"
 #include "foundation/code_page.h"
 #include "foundation/report.h"
-#include "names/encoder/attribute_source.h"
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
 #include "names/encoder/name_assembler.h"
 #include "names/encoder/name_parser.h"
+#include "names/encoder/structured_value.h"
 #include "names/encoder/text_encoder.h"
 #include "names/encoder/trim.h"
 

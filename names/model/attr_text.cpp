@@ -8,8 +8,8 @@
 #include "bytes/small_buffer.h"
 #include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
+#include "names/doubled_quotes.h"
 #include "names/model/name_failure.h"
-#include "names/quote.h"
 
 namespace Ortholan {
 namespace {

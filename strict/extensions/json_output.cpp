@@ -3,7 +3,7 @@
 #include "bytes/utf16.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/leaf_text.h"
-#include "strict/names/shown.h"
+#include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {
 namespace {

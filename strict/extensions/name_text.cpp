@@ -6,9 +6,9 @@
 #include "strict/der/string_value.h"
 #include "strict/extensions/leaf_text.h"
 #include "strict/general_names/escaped_text.h"
-#include "strict/general_names/general_name_parser.h"
-#include "strict/general_names/general_name_text.h"
-#include "strict/general_names/name_kinds.h"
+#include "strict/general_names/general_name_to_text.h"
+#include "strict/general_names/name_prefixes.h"
+#include "strict/general_names/text_to_general_name.h"
 #include "strict/names/name_to_text.h"
 #include "strict/names/text_to_name.h"
 

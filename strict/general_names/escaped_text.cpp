@@ -4,7 +4,7 @@
 
 #include "strict/der/string_value.h"
 #include "strict/general_names/hex_text.h"
-#include "strict/names/shown.h"
+#include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {
 namespace {

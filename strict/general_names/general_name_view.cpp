@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/names/name_view.h"
 

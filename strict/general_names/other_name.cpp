@@ -2,7 +2,8 @@
 
 #include <ortholan/strict/identity.h>
 
-#include "strict/der/identifier.h"
+#include "bytes/oid_constant.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/general_names/guid.h"
 #include "strict/general_names/host.h"
@@ -120,29 +121,26 @@ bool ReadUtf8Mailbox(Reader* value, OtherName* name) {
 
 struct Row {
   OtherNameKind kind;
-  size_t type_size;
-  uint8_t type[10];
+  OidConstant type;
   bool (*read)(Reader* value, OtherName* name);
 };
 
 constexpr Row kRows[] = {
-    // 1.3.6.1.4.1.311.20.2.3
-    {OtherNameKind::kUpn, 10, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 20, 2, 3}, ReadString<kUtf8String>},
-    // id-on, 1.3.6.1.5.5.7.8
-    {OtherNameKind::kService, 8, {0x2B, 6, 1, 5, 5, 7, 8, 7}, ReadService},
-    {OtherNameKind::kUtf8Mailbox, 8, {0x2B, 6, 1, 5, 5, 7, 8, 9}, ReadUtf8Mailbox},
-    {OtherNameKind::kXmpp, 8, {0x2B, 6, 1, 5, 5, 7, 8, 5}, ReadString<kUtf8String>},
-    {OtherNameKind::kPermanentId, 8, {0x2B, 6, 1, 5, 5, 7, 8, 3}, ReadPermanentId},
-    {OtherNameKind::kHardwareModule, 8, {0x2B, 6, 1, 5, 5, 7, 8, 4}, ReadHardwareModule},
-    // id-pkinit-san, 1.3.6.1.5.2.2
-    {OtherNameKind::kKerberos, 6, {0x2B, 6, 1, 5, 2, 2}, ReadKerberos},
-    // 1.3.6.1.4.1.311.25.1
-    {OtherNameKind::kGuid, 9, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 25, 1}, ReadGuid},
+    {OtherNameKind::kUpn, "1.3.6.1.4.1.311.20.2.3", ReadString<kUtf8String>},
+    // id-on
+    {OtherNameKind::kService, "1.3.6.1.5.5.7.8.7", ReadService},
+    {OtherNameKind::kUtf8Mailbox, "1.3.6.1.5.5.7.8.9", ReadUtf8Mailbox},
+    {OtherNameKind::kXmpp, "1.3.6.1.5.5.7.8.5", ReadString<kUtf8String>},
+    {OtherNameKind::kPermanentId, "1.3.6.1.5.5.7.8.3", ReadPermanentId},
+    {OtherNameKind::kHardwareModule, "1.3.6.1.5.5.7.8.4", ReadHardwareModule},
+    // id-pkinit-san
+    {OtherNameKind::kKerberos, "1.3.6.1.5.2.2", ReadKerberos},
+    {OtherNameKind::kGuid, "1.3.6.1.4.1.311.25.1", ReadGuid},
 };
 
 const Row* FindRow(ByteView type) {
   for (const Row& row : kRows) {
-    if (SameBytes(type, {row.type, row.type_size})) return &row;
+    if (SameBytes(type, row.type.view())) return &row;
   }
   return nullptr;
 }
@@ -156,7 +154,7 @@ OtherNameKind KindOfOtherName(ByteView type) {
 
 ByteView TypeOfOtherName(OtherNameKind kind) {
   for (const Row& row : kRows) {
-    if (row.kind == kind) return {row.type, row.type_size};
+    if (row.kind == kind) return row.type.view();
   }
   return {};
 }

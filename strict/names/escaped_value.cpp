@@ -2,7 +2,7 @@
 #include "bytes/octet_run.h"
 #include "strict/der/string_value.h"
 #include "strict/names/name_to_text.h"
-#include "strict/names/shown.h"
+#include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -1,6 +1,6 @@
 #include "strict/names/name_to_text.h"
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/string_value.h"
 #include "strict/names/postal_address.h"
 
