@@ -1,9 +1,12 @@
-// The double quote of name texts: a value between two of them has its own doubled.
+// How a quoted value has its own double quotes doubled, and how they are halved again.
+//
+//   say "a"  ->  "say ""a"""
 #ifndef ORTHOLAN_NAMES_DOUBLED_QUOTES_H_
 #define ORTHOLAN_NAMES_DOUBLED_QUOTES_H_
 
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 
 namespace Ortholan {
 
@@ -28,6 +31,24 @@ void QuoteInPlace(Char* value, size_t size, size_t quotedSize) {
     if (c == Char{kQuote}) *--to = c;
   }
   *value = Char{kQuote};
+}
+
+// Whether another quote stands behind the one at `at`.
+template <class Char>
+bool IsDoubledQuote(std::basic_string_view<Char> text, size_t at) {
+  return at + 1 < text.size() && text[at + 1] == Char{kQuote};
+}
+
+// Writes `text` with doubled quotes once and without single ones; returns the end.
+template <class Char>
+Char* WriteUnquoted(std::basic_string_view<Char> text, Char* out) {
+  while (!text.empty()) {
+    const size_t quote = std::min(text.find(Char{kQuote}), text.size());
+    const size_t more = IsDoubledQuote(text, quote) ? 1 : 0;
+    out = std::copy_n(text.data(), quote + more, out);
+    text.remove_prefix(std::min(quote + more + 1, text.size()));
+  }
+  return out;
 }
 
 // Quotes what a string holds from `start` to its end.

@@ -1,4 +1,4 @@
-// Values in double quotes: which call for them, and how they are put.
+// When a value is put in double quotes.
 //
 //   std::wstring text = L"CN=";
 //   text += L"a, b";

@@ -8,7 +8,7 @@
 #include "foundation/code_page.h"
 #include "names/encoder/alphabets.h"
 #include "names/encoder/name_parser.h"
-#include "names/encoder/string_type.h"
+#include "names/encoder/refused_values.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/type_resolver.h"
 #include "platform/calls.h"

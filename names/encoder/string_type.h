@@ -1,29 +1,13 @@
-// Which values are refused, and which string type carries one that is not.
+// Which string type carries a value that is not refused.
 #ifndef ORTHOLAN_NAMES_ENCODER_STRING_TYPE_H_
 #define ORTHOLAN_NAMES_ENCODER_STRING_TYPE_H_
 
 #include <ortholan/name_options.h>
 #include <ortholan/platform.h>
 
-#include "names/attribute_table.h"
-#include "names/encoder/alphabets.h"
+#include "names/encoder/refused_values.h"
 
 namespace Ortholan {
-
-// The alphabet that the attribute's values have to be in; 0 for free text.
-constexpr unsigned PrescribedAlphabet(ValueRule rule) { return static_cast<unsigned>(rule); }
-static_assert(PrescribedAlphabet(ValueRule::kPrintable) == kInPrintable);
-static_assert(PrescribedAlphabet(ValueRule::kIA5) == kInIA5);
-
-enum class ValueFault { kNone, kEmpty, kOutsideAlphabet };
-
-// Why a value of `size` characters, which have these classes in common, is refused.
-inline ValueFault CheckValue(ValueRule rule, size_t size, unsigned classes) {
-  if (size == 0) return ValueFault::kEmpty;
-  const unsigned alphabet = PrescribedAlphabet(rule);
-  return alphabet == 0 || (classes & alphabet) != 0 ? ValueFault::kNone
-                                                    : ValueFault::kOutsideAlphabet;
-}
 
 // The platform's number of the string type that such a value is written in:
 // CERT_RDN_PRINTABLE_STRING, _IA5_STRING, _BMP_STRING or _UTF8_STRING. False for one that is

@@ -1,3 +1,5 @@
+#include "strict/constraints/constrained_name.h"
+
 #include "strict/constraints/subtree.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"

@@ -1,6 +1,7 @@
 #include "strict/constraints/permits.h"
 
 #include "strict/certificates/certificate_view.h"
+#include "strict/constraints/constrained_name.h"
 #include "strict/constraints/name_constraints_view.h"
 #include "strict/constraints/subtree_set.h"
 #include "strict/der/known_oids.h"

@@ -1,4 +1,6 @@
-// How a name is held against a subtree of its form.
+#include "strict/constraints/within_subtree.h"
+
+#include "strict/constraints/constrained_name.h"
 #include "strict/constraints/subtree.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/ip_address.h"
@@ -19,10 +21,10 @@ bool IsBelow(std::string_view host, std::string_view parent) {
 }
 
 // "*" stands for one label: all of those hosts are inside, or the one that is the tree's root.
-Holding HoldWildcard(Subtree::Kind kind, std::string_view subtree, std::string_view base) {
-  if (IsWithinHost(base, subtree)) return Holding::kInside;
+Holding HoldWildcard(const Subtree& subtree, std::string_view base) {
+  if (IsWithinHost(base, subtree.host)) return Holding::kInside;
   const bool is_one_of_them =
-      kind == Subtree::Kind::kTree && SameWithoutCase(BehindFirstLabel(subtree), base);
+      subtree.kind == Subtree::Kind::kTree && SameWithoutCase(BehindFirstLabel(subtree.host), base);
   return is_one_of_them ? Holding::kOverlap : Holding::kOutside;
 }
 
@@ -48,7 +50,7 @@ Holding HoldMail(const Subtree& subtree, const ConstrainedName& name, ortholan_r
   }
   if (name.host.empty()) return Unknown(ORTHOLAN_REASON_MAILBOX_AT_ADDRESS, reason);
   if (subtree.kind == Subtree::Kind::kMailbox) return HoldMailbox(subtree, name, reason);
-  return HoldHost(subtree.kind, subtree.host, name);
+  return HoldHost(subtree, name);
 }
 
 Holding HoldDirectory(const Subtree& subtree, const ConstrainedName& name,
@@ -65,20 +67,20 @@ Holding HoldService(const Subtree& subtree, const ConstrainedName& name) {
   if (!subtree.service.empty() && !SameWithoutCase(subtree.service, name.service)) {
     return Holding::kOutside;
   }
-  return HoldHost(subtree.kind, subtree.host, name);
+  return HoldHost(subtree, name);
 }
 
 }  // namespace
 
-Holding HoldHost(Subtree::Kind kind, std::string_view subtree, const ConstrainedName& name) {
-  if (name.has_wildcard) return HoldWildcard(kind, subtree, name.host);
-  switch (kind) {
+Holding HoldHost(const Subtree& subtree, const ConstrainedName& name) {
+  if (name.has_wildcard) return HoldWildcard(subtree, name.host);
+  switch (subtree.kind) {
     case Subtree::Kind::kTree:
-      return InsideIf(IsWithinHost(name.host, subtree));
+      return InsideIf(IsWithinHost(name.host, subtree.host));
     case Subtree::Kind::kBelow:
-      return InsideIf(IsBelow(name.host, subtree));
+      return InsideIf(IsBelow(name.host, subtree.host));
     default:
-      return InsideIf(SameWithoutCase(name.host, subtree));
+      return InsideIf(SameWithoutCase(name.host, subtree.host));
   }
 }
 
@@ -88,7 +90,7 @@ Holding Hold(const Subtree& subtree, const ConstrainedName& name, ortholan_reaso
       return HoldDirectory(subtree, name, reason);
     case NameForm::kDns:
     case NameForm::kUri:
-      return HoldHost(subtree.kind, subtree.host, name);
+      return HoldHost(subtree, name);
     case NameForm::kMail:
       return HoldMail(subtree, name, reason);
     case NameForm::kAddress:

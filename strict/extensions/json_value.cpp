@@ -3,6 +3,7 @@
 #include <ortholan/strict/extensions.h>
 
 #include "bytes/ascii.h"
+#include "bytes/nesting_limit.h"
 #include "bytes/utf16.h"
 #include "strict/der/string_value.h"
 #include "strict/general_names/hex_text.h"
@@ -10,7 +11,6 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr int kMostDepth = 32;
 constexpr size_t kMostDigits = 16;  // of 2^53
 
 struct Literal {
@@ -39,7 +39,7 @@ class Parser {
   Parser(std::string_view text, Refusal* refusal) : rest_(text), refusal_(refusal) {}
 
   bool ReadWhole(JsonValue* value) {
-    if (!ReadValue(value, kMostDepth)) return false;
+    if (!ReadValue(value, kMaxNesting)) return false;
     SkipBlanks();
     return rest_.empty() || Fail();
   }
@@ -61,7 +61,7 @@ class Parser {
     return true;
   }
 
-  bool ReadValue(JsonValue* value, int depth) {
+  bool ReadValue(JsonValue* value, size_t depth) {
     SkipBlanks();
     value->rest = rest_;
     if (depth == 0 && (Sees('{') || Sees('['))) return Fail(ORTHOLAN_REASON_JSON_DEPTH);
@@ -81,7 +81,7 @@ class Parser {
   }
 
   // What stands between brackets, the first of which was taken.
-  bool ReadMembers(JsonValue* value, char end, int depth) {
+  bool ReadMembers(JsonValue* value, char end, size_t depth) {
     value->form = end == '}' ? JsonForm::kObject : JsonForm::kArray;
     SkipBlanks();
     if (Take(end)) return true;
