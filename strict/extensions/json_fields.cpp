@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "strict/general_names/hex_text.h"
+#include "bytes/hex.h"
 
 namespace Ortholan::strict {
 

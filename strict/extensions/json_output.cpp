@@ -8,8 +8,6 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr uint32_t kReplacement = 0xFFFD;  // for an octet that is no text
-
 void PutUnit(uint32_t unit, Output* out) {
   const uint8_t octets[] = {static_cast<uint8_t>(unit >> 8), static_cast<uint8_t>(unit)};
   out->Put("\\u");

@@ -3,10 +3,10 @@
 #include <ortholan/strict/extensions.h>
 
 #include "bytes/ascii.h"
+#include "bytes/hex.h"
 #include "bytes/nesting_limit.h"
 #include "bytes/utf16.h"
 #include "strict/der/string_value.h"
-#include "strict/general_names/hex_text.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -29,9 +29,7 @@ constexpr Escape kEscapes[] = {{'"', '"'},  {'\\', '\\'}, {'/', '/'},  {'b', '\b
 
 void AppendUtf8(uint32_t scalar, std::string* text) {
   uint8_t octets[4];
-  Output out(octets, sizeof octets);
-  PutUtf8(scalar, &out);
-  text->append(reinterpret_cast<const char*>(octets), out.size());
+  text->append(AsText({octets, static_cast<size_t>(WriteUtf8Scalar(octets, scalar) - octets)}));
 }
 
 class Parser {

@@ -1,8 +1,8 @@
 #include "strict/extensions/oid_names.h"
 
+#include "bytes/hex.h"
 #include "bytes/oid_constant.h"
 #include "strict/der/oid.h"
-#include "strict/general_names/hex_text.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <string>
 
+#include "bytes/hex.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
 #include "strict/general_names/escaped_text.h"
 #include "strict/general_names/guid.h"
-#include "strict/general_names/hex_text.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/ip_address.h"
 #include "strict/general_names/mailbox.h"

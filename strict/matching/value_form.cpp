@@ -74,8 +74,7 @@ bool MatchAscii(const Element& a, const Element& b, const AsciiFoldings& folding
 void PutUtf8(const Element& value, PreparedText* out) {
   ScalarReader scalars(value.identifier, value.content);
   for (uint32_t scalar; scalars.Next(&scalar);) {
-    Output character(out->Extend(Utf8Octets(scalar)), Utf8Octets(scalar));
-    strict::PutUtf8(scalar, &character);
+    WriteUtf8Scalar(out->Extend(Utf8Octets(scalar)), scalar);
   }
 }
 

@@ -36,9 +36,8 @@ void PutDigits(uint8_t octet, Output* out) {
 
 void PutHidden(uint32_t scalar, Output* out) {
   uint8_t octets[4];
-  Output utf8(octets, sizeof octets);
-  PutUtf8(scalar, &utf8);
-  for (size_t i = 0; i < utf8.size(); ++i) PutDigits(octets[i], out);
+  const uint8_t* const end = WriteUtf8Scalar(octets, scalar);
+  for (const uint8_t* at = octets; at != end; ++at) PutDigits(*at, out);
 }
 
 void PutScalar(uint32_t scalar, Output* out) {
