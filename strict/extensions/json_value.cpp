@@ -45,7 +45,7 @@ class Parser {
  private:
   bool Fail(ortholan_reason reason = ORTHOLAN_REASON_JSON) { return FailAt(rest_, reason); }
   bool FailAt(std::string_view place, ortholan_reason reason = ORTHOLAN_REASON_JSON) {
-    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(place.data()), place.size());
+    return RefuseText(refusal_, reason, place);
   }
 
   void SkipBlanks() {

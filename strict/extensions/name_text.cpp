@@ -88,8 +88,7 @@ bool RdnOfText(std::string_view text, std::string* content, Refusal* refusal) {
   Element rdn;
   const bool is_one = NextRdn(&rdns, &rdn) && rdns.empty();
   if (!is_one) {
-    return Refuse(refusal, ORTHOLAN_REASON_JSON_TEXT, reinterpret_cast<const uint8_t*>(text.data()),
-                  text.size());
+    return RefuseText(refusal, ORTHOLAN_REASON_JSON_TEXT, text);
   }
   content->assign(AsText(rdn.content));
   return true;

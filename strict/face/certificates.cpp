@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "strict/certificates/base64.h"
 #include "strict/certificates/certificate_view.h"
 #include "strict/certificates/extensions_writer.h"
 #include "strict/certificates/pem.h"

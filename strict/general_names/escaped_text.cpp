@@ -60,10 +60,7 @@ bool UnescapedText::Read(std::string_view escaped, Refusal* refusal) {
   for (std::string_view rest = escaped; !rest.empty();) {
     char octet;
     const size_t size = UnitAt(rest, &octet);
-    if (size == 0) {
-      return Refuse(refusal, ORTHOLAN_REASON_NAME_ESCAPE,
-                    reinterpret_cast<const uint8_t*>(rest.data()), rest.size());
-    }
+    if (size == 0) return RefuseText(refusal, ORTHOLAN_REASON_NAME_ESCAPE, rest);
     storage_ += octet;
     rest.remove_prefix(size);
   }

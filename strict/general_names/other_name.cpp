@@ -1,7 +1,5 @@
 #include "strict/general_names/other_name.h"
 
-#include <ortholan/strict/identity.h>
-
 #include "bytes/oid_constant.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
@@ -9,11 +7,10 @@
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
 #include "strict/general_names/name_characters.h"
+#include "strict/general_names/service_name.h"
 
 namespace Ortholan::strict {
 namespace {
-
-constexpr size_t kMaxServiceOctets = 16;  // 15 behind the underscore (RFC 6335 5.1)
 
 bool RefuseIn(Reader* reader, ByteView whole, size_t at, ortholan_reason reason) {
   return Refuse(reader->refusal(), reason, whole.data + at, whole.size - at);
@@ -161,47 +158,14 @@ ByteView TypeOfOtherName(OtherNameKind kind) {
 
 bool OtherName::Read(ByteView content, Leniency leniency, OtherName* name, Refusal* refusal) {
   OtherName read;
-  Reader fields(content, leniency, refusal);
-  ByteView tagged;
-  if (!ReadOid(&fields, &read.type) || !fields.Read(ContextConstructed(0), &tagged) ||
-      !fields.End()) {
-    return false;
-  }
-  Reader whole(tagged, leniency, refusal);
-  if (!whole.Read(&read.value) || !whole.End() || !CheckNested(read.value, leniency, refusal)) {
-    return false;
-  }
-  const Row* const row = FindRow(read.type);
-  if (row != nullptr) {
+  if (!OtherNameView::Read(content, leniency, &read, refusal)) return false;
+  if (const Row* const row = FindRow(read.type)) {
     read.kind = row->kind;
-    Reader value(tagged, leniency, refusal);
+    Reader value(read.value.bytes, leniency, refusal);
     if (!row->read(&value, &read)) return false;
   }
   *name = read;
   return true;
-}
-
-bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal) {
-  Mailbox mailbox;
-  if (!Mailbox::Read(text, Mailbox::kUtf8, &mailbox, refusal)) return false;
-  return !mailbox.is_ascii || Refuse(refusal, ORTHOLAN_REASON_ASCII_LOCAL_PART,
-                                     reinterpret_cast<const uint8_t*>(text.data()), text.size());
-}
-
-bool SplitService(std::string_view text, std::string_view* service, std::string_view* host,
-                  Refusal* refusal) {
-  const size_t dot = text.find('.');
-  const std::string_view label = text.substr(0, dot);
-  const bool is_service = dot != std::string_view::npos && label.size() > 1 &&
-                          label.size() <= kMaxServiceOctets && label[0] == '_' &&
-                          CheckHost(label.substr(1), kPlainHost, nullptr);
-  if (!is_service) {
-    return Refuse(refusal, ORTHOLAN_REASON_SERVICE, reinterpret_cast<const uint8_t*>(text.data()),
-                  text.size());
-  }
-  *service = label;
-  *host = text.substr(dot + 1);
-  return CheckHost(*host, kPlainHost, refusal);
 }
 
 }  // namespace Ortholan::strict

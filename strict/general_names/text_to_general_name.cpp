@@ -16,6 +16,7 @@
 #include "strict/general_names/mailbox.h"
 #include "strict/general_names/name_characters.h"
 #include "strict/general_names/name_prefixes.h"
+#include "strict/general_names/service_name.h"
 #include "strict/general_names/uri.h"
 #include "strict/names/text_to_name.h"
 
@@ -358,11 +359,9 @@ class NameParser {
   }
 
   size_t OffsetOf(const char* place) const { return static_cast<size_t>(place - text_.data()); }
-  // `rest` is a part of the text.
+  // From where `rest`, a part of the text, begins.
   bool RefuseAt(ortholan_reason reason, std::string_view rest) {
-    const size_t offset = OffsetOf(rest.data());
-    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(rest.data()),
-                  text_.size() - offset);
+    return RefuseText(refusal_, reason, text_.substr(OffsetOf(rest.data())));
   }
 
   std::string_view text_;

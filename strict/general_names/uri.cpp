@@ -173,8 +173,7 @@ class UriReader {
     return static_cast<size_t>(part.data() - text_.data());
   }
   bool RefuseAt(ortholan_reason reason, size_t at) {
-    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(text_.data()) + at,
-                  text_.size() - at);
+    return RefuseText(refusal_, reason, text_.substr(at));
   }
 
   std::string_view text_;

@@ -47,8 +47,6 @@ const AttributeType& TypeAt(size_t index);
 
 // Whether text may stand for a type: a letter, then letters, digits and hyphens (RFC 4512 1.4).
 bool IsDescriptor(std::string_view text);
-// Without letter case, ASCII alone.
-bool SameName(std::string_view a, std::string_view b);
 
 }  // namespace Ortholan::strict
 

@@ -1,7 +1,7 @@
-// Values of strings, escaped as RFC 4514 section 2.4 asks for and further.
+#include "strict/names/escaped_value.h"
+
 #include "bytes/octet_run.h"
 #include "strict/der/string_value.h"
-#include "strict/names/name_to_text.h"
 #include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {

@@ -2,7 +2,9 @@
 
 #include "strict/der/oid.h"
 #include "strict/der/string_value.h"
+#include "strict/names/escaped_value.h"
 #include "strict/names/postal_address.h"
+#include "strict/names/string_choice.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -8,7 +8,7 @@
 #include "strict/der/reader.h"
 #include "strict/der/refusal.h"
 #include "strict/der/string_value.h"
-#include "strict/names/name_to_text.h"
+#include "strict/names/escaped_value.h"
 
 namespace Ortholan::strict {
 namespace {

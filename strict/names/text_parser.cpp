@@ -4,6 +4,7 @@
 
 #include "bytes/ascii.h"
 #include "bytes/hex.h"
+#include "bytes/ignore_case.h"
 #include "bytes/octet_run.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
@@ -49,7 +50,7 @@ constexpr RoleTable MakeTypeRoles() {
 constexpr RoleTable kTypeRoles = MakeTypeRoles();
 
 bool HasOidPrefix(std::string_view type) {
-  return type.size() > 4 && type[3] == '.' && SameName(type.substr(0, 3), "oid");
+  return type.size() > 4 && type[3] == '.' && SameWithoutCase(type.substr(0, 3), "oid");
 }
 
 // Characters of the text that the pair at its front takes.
@@ -202,8 +203,7 @@ bool TextParser::EndValue() {
 }
 
 bool TextParser::RefuseAt(ortholan_reason reason, size_t position) {
-  const ByteView rest = AsBytes(text_.data(), text_.size()).From(position);
-  return Refuse(refusal_, reason, rest.data, rest.size);
+  return RefuseText(refusal_, reason, text_.substr(position));
 }
 
 void Unescape(std::string_view value, uint8_t* out) {
