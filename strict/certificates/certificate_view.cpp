@@ -125,7 +125,7 @@ bool CertificateView::ReadRequest(Reader* fields) {
     if (!list.Read(kSequence, &attribute)) return false;
     Reader parts(attribute, fields->leniency(), fields->refusal());
     if (!parts.Read(kOid, &type) || !parts.Read(kSet, &values) || !parts.End()) return false;
-    if (!SameBytes(type, kExtensionRequestOid.view())) continue;
+    if (!SameBytes(type, oids::kExtensionRequest.view())) continue;
     if (extensions_.size() != 0) {
       return list.RefuseAt(ORTHOLAN_REASON_DUPLICATE_EXTENSION, attribute.data);
     }

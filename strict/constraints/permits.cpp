@@ -87,7 +87,7 @@ void Authority::JudgeSubject(const NamesOfCertificate& names) {
   }
   if (!has_mail) return;
   for (const AttributeView& attribute : subject) {
-    if (!SameBytes(attribute.type, kEmailAddressOid.view())) continue;
+    if (!SameBytes(attribute.type, oids::kEmailAddress.view())) continue;
     JudgeName(ConstrainedName::OfEmail(attribute));
   }
 }
@@ -175,7 +175,7 @@ bool ReadLink(ortholan_octets der, Link* link, Refusal* refusal) {
   link->names.subject = link->certificate.subject();
   ExtensionView found;
   const bool is_one =
-      link->certificate.extensions().Find(kAlternativeNamesOid.view(), &found, refusal);
+      link->certificate.extensions().Find(oids::kAlternativeNames.view(), &found, refusal);
   link->names.has_alternatives = !is_one;
   if (!is_one) return false;
   return found.bytes.empty() || ReadAlternatives(found.value, &link->names, refusal);
@@ -210,7 +210,7 @@ class Chain {
   void JudgeBelow(size_t authority) {
     ExtensionView found;
     Refusal refusal;
-    if (!links_[authority].certificate.extensions().Find(kNameConstraintsOid.view(), &found,
+    if (!links_[authority].certificate.extensions().Find(oids::kNameConstraints.view(), &found,
                                                          &refusal)) {
       return Note(authority, authority, ORTHOLAN_NAME_CONSTRAINTS, refusal.reason);
     }

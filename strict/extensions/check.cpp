@@ -80,10 +80,10 @@ CheckedDocument::CheckedDocument(ByteView der) {
   if (!is_readable) return;
   kind = KindBit(view.kind());
   version = VersionOf(der, view.kind());
-  const ExtensionView usage = Find(kKeyUsageOid.view());
+  const ExtensionView usage = Find(oids::kKeyUsage.view());
   has_key_usage = !usage.bytes.empty();
   key_usage = UsageBitsOf(ContentOf(usage.value, kBitString));
-  Reader constraints(ContentOf(Find(kBasicConstraintsOid.view()).value, kSequence),
+  Reader constraints(ContentOf(Find(oids::kBasicConstraints.view()).value, kSequence),
                      Leniency::kLenient, nullptr);
   ByteView flag;
   is_authority = constraints.Read(kBoolean, &flag) && flag.size == 1 && flag[0] != 0;

@@ -59,7 +59,7 @@ void PointsOfFreshest(const CheckCase& at) {
 }
 
 void FreshestInDelta(const CheckCase& at) {
-  if (at.document.Has(kDeltaIndicatorOid.view())) at.Fault(at.extension.bytes);
+  if (at.document.Has(oids::kDeltaIndicator.view())) at.Fault(at.extension.bytes);
 }
 
 namespace {
@@ -89,7 +89,7 @@ void AttributeCertificates(const CheckCase& at) {
 
 void AccessMethodsOfList(const CheckCase& at) {
   ForEachElement(ListOf(at), [&](const Element& description) {
-    if (!IdentifiedOf(description).Is(kCaIssuersOid)) at.Fault(description.bytes);
+    if (!IdentifiedOf(description).Is(oids::kCaIssuers)) at.Fault(description.bytes);
   });
 }
 

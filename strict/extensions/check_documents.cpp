@@ -16,7 +16,7 @@ ByteView EmailOf(ByteView subject) {
   NameView name;
   if (!NameView::Read(subject, Leniency::kLenient, &name, nullptr)) return {};
   for (const AttributeView& attribute : name) {
-    if (SameBytes(attribute.type, kEmailAddressOid.view())) return attribute.bytes;
+    if (SameBytes(attribute.type, oids::kEmailAddress.view())) return attribute.bytes;
   }
   return {};
 }
@@ -80,12 +80,12 @@ void EmptySubjectOfListIssuer(const CheckCase& at) {
 
 void EmptySubjectWithoutNames(const CheckCase& at) {
   const ByteView subject = at.document.view.subject();
-  if (IsEmpty(subject) && !at.document.Has(kAlternativeNamesOid.view())) at.Fault(subject);
+  if (IsEmpty(subject) && !at.document.Has(oids::kAlternativeNames.view())) at.Fault(subject);
 }
 
 void EmailOutsideNames(const CheckCase& at) {
   const ByteView email = EmailOf(at.document.view.subject());
-  if (email.empty() || HasMailbox(at.document.Find(kAlternativeNamesOid.view()).value)) return;
+  if (email.empty() || HasMailbox(at.document.Find(oids::kAlternativeNames.view()).value)) return;
   at.Fault(email);
 }
 

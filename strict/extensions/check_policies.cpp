@@ -40,10 +40,10 @@ void PolicyTwice(const CheckCase& at) {
 void AnyPolicyQualifiers(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& element) {
     const Identified policy = IdentifiedOf(element);
-    if (!policy.Is(kAnyPolicyOid)) return;
+    if (!policy.Is(oids::kAnyPolicy)) return;
     ForEachQualifier(policy, [&at](const Element& qualifier) {
       const Identified parts = IdentifiedOf(qualifier);
-      if (!parts.Is(kCpsOid) && !parts.Is(kUserNoticeOid)) at.Fault(qualifier.bytes);
+      if (!parts.Is(oids::kCps) && !parts.Is(oids::kUserNotice)) at.Fault(qualifier.bytes);
     });
   });
 }
@@ -53,7 +53,7 @@ void NoticeSize(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& policy) {
     ForEachQualifier(IdentifiedOf(policy), [&at](const Element& qualifier) {
       const Identified parts = IdentifiedOf(qualifier);
-      if (!parts.Is(kUserNoticeOid)) return;
+      if (!parts.Is(oids::kUserNotice)) return;
       ForEachText(parts, [&at](const Element& text) {
         const size_t count = CountCharacters(text);
         if (count == 0 || count > kMaxCharacters) at.Fault(text.bytes);
@@ -66,7 +66,7 @@ void AnyPolicyMapped(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& mapping) {
     bool is_any = false;
     ForEachElement(mapping.content, [&](const Element& policy) {
-      is_any |= SameBytes(policy.content, kAnyPolicyOid.view());
+      is_any |= SameBytes(policy.content, oids::kAnyPolicy.view());
     });
     if (is_any) at.Fault(mapping.bytes);
   });

@@ -270,7 +270,7 @@ ortholan_reason ortholan_alternative_names_from_text(const ortholan_text* texts,
     return Report(ORTHOLAN_REASON_MEMORY, refusal);
   }
   if (form != ORTHOLAN_ALTERNATIVE_NAMES_VALUE) {
-    PutExtensionAround(kAlternativeNamesOid.view(), form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL,
+    PutExtensionAround(oids::kAlternativeNames.view(), form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL,
                        der.size(), &der);
   }
   return Finish(&der, size, refusal);

@@ -129,7 +129,7 @@ Identity Identify(ByteView certificate, const Reference& reference, Refusal* ref
   CertificateView view;
   ExtensionView extension;
   if (!CertificateView::Read(certificate, Leniency::kDer, &view, &found) ||
-      !view.extensions().Find(kAlternativeNamesOid.view(), &extension, &found)) {
+      !view.extensions().Find(oids::kAlternativeNames.view(), &extension, &found)) {
     return CannotTell(found, refusal);
   }
   if (view.kind() != CertificateKind::kCertificate) {

@@ -81,7 +81,8 @@ void PutUtf8(const Element& value, PreparedText* out) {
 }  // namespace
 
 bool IsCaseOnly(ByteView type) {
-  return SameBytes(type, kDomainComponentOid.view()) || SameBytes(type, kEmailAddressOid.view());
+  return SameBytes(type, oids::kDomainComponent.view()) ||
+         SameBytes(type, oids::kEmailAddress.view());
 }
 
 ValueForm PutForm(ByteView type, const Element& value, MatchRule rule, PreparedText* out) {
