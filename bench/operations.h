@@ -15,9 +15,6 @@
 
 namespace Bench {
 
-inline constexpr Ortholan::DWORD kKeys = 3;
-inline constexpr Ortholan::DWORD kIdentifiers = 2;
-
 inline Ortholan::IdentObj Blob(const std::string& bytes) {
   return Ortholan::IdentObj(bytes.data(), static_cast<Ortholan::DWORD>(bytes.size()));
 }
@@ -57,13 +54,13 @@ inline Ortholan::X509Name SetByText(const std::string& text) {
 inline std::wstring DecodeText(const Ortholan::IdentObj& der) {
   Ortholan::X500NameDecoder decoder;
   std::wstring text;
-  if (!decoder.Decode(der, text, kKeys)) std::abort();
+  if (!decoder.Decode(der, text, Ortholan::kStyleKeys)) std::abort();
   return text;
 }
 
 inline std::string GetText(const Ortholan::X509Name& name) {
   std::string text;
-  name.GetX500String(text, kKeys);
+  name.GetX500String(text, Ortholan::kStyleKeys);
   return text;
 }
 
@@ -72,7 +69,7 @@ using PairList = std::list<std::pair<std::wstring, std::list<std::wstring>>>;
 inline PairList DecodePairs(const Ortholan::IdentObj& der) {
   Ortholan::X500NameDecoder decoder;
   PairList pairs;
-  if (!decoder.Decode(der, pairs, kIdentifiers)) std::abort();
+  if (!decoder.Decode(der, pairs, Ortholan::kStyleOids)) std::abort();
   return pairs;
 }
 

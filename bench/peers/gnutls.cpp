@@ -9,6 +9,7 @@
 #include "bench/chains.h"
 #include "bench/hosts.h"
 #include "bench/measure.h"
+#include "bench/name_cases.h"
 #include "bench/names.h"
 
 namespace Bench {
@@ -126,18 +127,9 @@ bool IsFor(const std::string& der, const std::string& host) {
 }
 
 void AddCases() {
-  AddBothWays(kTextToDer, kDerToText, SixAttributes());
-  AddBothWays(kLargeToDer, kLargeToText, LargeValue(kLargeSize));
-  AddBothWays(kManyToDer, kManyToText, ManyAttributes(kManyCount));
-
-  const Attributes six = SixAttributes();
-  const std::string der = ToDer(six);
-  const std::string utf8 = ToDer(six, kUtf8String);
-  const std::string other = ToDer(ManyAttributes(6));
-  Add({kDerToStrings, kSubject, [=] { return DerToStrings(der) == ToPairs(six); }},
-      [=] { return DerToStrings(der); });
-  Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
-      [=] { return Equal(der, utf8); });
+  AddTextCases(AddBothWays);
+  AddPairCase(kSubject, DerToStrings);
+  AddCompareCase(kSubject, Equal);
   AddConstraints();
   AddHosts(kSubject, IsFor);
 }

@@ -17,6 +17,7 @@
 #include "bench/extensions.h"
 #include "bench/hosts.h"
 #include "bench/measure.h"
+#include "bench/name_cases.h"
 #include "bench/names.h"
 #include "bench/samples.h"
 
@@ -141,21 +142,10 @@ void AddBothWays(const char* to_der, const char* to_text, const Attributes& attr
 }
 
 void AddNames() {
-  AddBothWays(kTextToDer, kDerToText, SixAttributes());
-  AddBothWays(kLargeToDer, kLargeToText, LargeValue(kLargeSize));
-  AddBothWays(kManyToDer, kManyToText, ManyAttributes(kManyCount));
-
-  const Attributes six = SixAttributes();
-  const std::string der = ToDer(six);
-  const std::string utf8 = ToDer(six, kUtf8String);
-  const std::string other = ToDer(ManyAttributes(6));
-  Add({kDerToStrings, kSubject, [=] { return DerToStrings(der) == ToPairs(six); }},
-      [=] { return DerToStrings(der); });
-  Add({kCompare, kSubject, [=] { return Equal(der, utf8) && !Equal(der, other); }},
-      [=] { return Equal(der, utf8); });
-  const auto disguised = ToDer(Disguised(six));
-  const auto same = [=] { return Equal(der, disguised); };
-  Add({kCompareDisguised, kSubject, same}, same);
+  AddTextCases(AddBothWays);
+  AddPairCase(kSubject, DerToStrings);
+  AddCompareCase(kSubject, Equal);
+  AddDisguisedCase(kSubject, Equal);
 }
 
 void AddGeneralNames() {

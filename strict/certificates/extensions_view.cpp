@@ -43,7 +43,7 @@ bool ExtensionsView::Read(ByteView der, Leniency leniency, ExtensionsView* exten
 }
 
 // What was checked is read again with the widest rule.
-ExtensionView ExtensionsView::First(ByteView content) {
+ExtensionView ExtensionView::First(ByteView content) {
   ExtensionView first;
   Reader list(content, Leniency::kLenient, nullptr);
   Element element;

@@ -20,21 +20,14 @@ struct ExtensionView {
   ByteView value;  // content of the OCTET STRING: the encoding of the extension's own structure
   ByteView bytes;  // the whole SEQUENCE
   bool critical = false;
-};
 
-// Checked extensions, one by one.
-struct ExtensionWalk {
-  ExtensionWalk() = default;
-  explicit ExtensionWalk(ByteView content) : rest(content) {}
-  void Step();
-
-  ExtensionView part;
-  ByteView rest;  // behind the part
+  // The first of checked extensions one behind the other; without octets where there is none.
+  static ExtensionView First(ByteView content);
 };
 
 class ExtensionsView {
  public:
-  using Iterator = ViewIterator<ExtensionWalk>;
+  using Iterator = ViewIterator<PartWalk<ExtensionView>>;
 
   // No extensions.
   ExtensionsView() = default;
@@ -48,9 +41,6 @@ class ExtensionsView {
   // The extensions one behind the other.
   ByteView content() const { return content_; }
 
-  // The first of checked extensions one behind the other; without octets where there is none.
-  static ExtensionView First(ByteView content);
-
   // Looks for the one extension of a type. False, with the second one's place in the refusal, where
   // there are several; `*found` is without octets where there is none.
   bool Find(ByteView oid, ExtensionView* found, Refusal* refusal) const {
@@ -63,11 +53,6 @@ class ExtensionsView {
   ByteView content_;
   size_t size_ = 0;
 };
-
-inline void ExtensionWalk::Step() {
-  part = ExtensionsView::First(rest);
-  rest = rest.From(part.bytes.size);
-}
 
 }  // namespace Ortholan::strict
 

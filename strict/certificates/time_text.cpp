@@ -8,10 +8,6 @@
 namespace Ortholan::strict {
 namespace {
 
-struct Moment {
-  unsigned year, month, day, hour, minute, second;
-};
-
 unsigned TwoDigits(ByteView digits, size_t at) {
   return (digits[at] - 0x30u) * 10 + (digits[at + 1] - 0x30u);
 }
@@ -50,19 +46,20 @@ bool PutTimeText(ByteView element, Output* out) {
 bool PutTimeText(uint8_t identifier, ByteView content, Output* out) {
   Moment moment;
   if (!ReadMoment(content, identifier == kGeneralizedTime, &moment)) return false;
-  PutDecimal(moment.year, out, 4);
-  out->Put('-');
-  PutDecimal(moment.month, out, 2);
-  out->Put('-');
-  PutDecimal(moment.day, out, 2);
-  out->Put('T');
-  PutDecimal(moment.hour, out, 2);
-  out->Put(':');
-  PutDecimal(moment.minute, out, 2);
-  out->Put(':');
-  PutDecimal(moment.second, out, 2);
+  PutMoment(moment, out);
   out->Put('Z');
   return true;
+}
+
+void PutMoment(const Moment& moment, Output* out) {
+  constexpr char kBefore[] = {'-', '-', 'T', ':', ':'};
+  PutDecimal(moment.year, out, 4);
+  size_t part = 0;
+  for (const unsigned number :
+       {moment.month, moment.day, moment.hour, moment.minute, moment.second}) {
+    out->Put(kBefore[part++]);
+    PutDecimal(number, out, 2);
+  }
 }
 
 }  // namespace Ortholan::strict

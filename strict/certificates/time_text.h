@@ -13,6 +13,12 @@ bool PutTimeText(ByteView element, Output* out);
 // The same for the content of the type that has the identifier.
 bool PutTimeText(uint8_t identifier, ByteView content, Output* out);
 
+struct Moment {
+  unsigned year, month, day, hour, minute, second;
+};
+// Puts "2026-11-21T22:05:00".
+void PutMoment(const Moment& moment, Output* out);
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_CERTIFICATES_TIME_TEXT_H_

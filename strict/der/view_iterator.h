@@ -44,6 +44,21 @@ class ViewIterator {
   Walk walk_;
 };
 
+// The walk over parts that stand one behind the other and know how to read the first of them:
+// `static Part First(ByteView octets)`, without octets where there is none.
+template <class Part>
+struct PartWalk {
+  PartWalk() = default;
+  explicit PartWalk(ByteView octets) : rest(octets) {}
+  void Step() {
+    part = Part::First(rest);
+    rest = rest.From(part.bytes.size);
+  }
+
+  Part part;
+  ByteView rest;  // behind the part
+};
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_DER_VIEW_ITERATOR_H_

@@ -2,17 +2,13 @@
 
 #include "bytes/ascii.h"
 #include "bytes/calendar.h"
+#include "strict/certificates/time_text.h"
 #include "strict/extensions/leaf_text.h"
 
 namespace Ortholan::strict {
 namespace {
 
 constexpr std::string_view kForm = "0000-00-00T00:00:00.000Z";
-
-void PutPart(char before, uint64_t number, Output* out, size_t digits = 2) {
-  out->Put(before);
-  PutDecimal(number, out, digits);
-}
 
 bool HasForm(std::string_view text) {
   if (text.size() != kForm.size()) return false;
@@ -34,13 +30,12 @@ int64_t NumberIn(std::string_view digits) {
 void PutMilliseconds(uint64_t time, Output* out) {
   const uint64_t seconds = time / 1000;
   const Date date = DateOf(static_cast<int64_t>(seconds / 86400));
-  PutDecimal(static_cast<uint64_t>(date.year), out, 4);
-  PutPart('-', static_cast<uint64_t>(date.month), out);
-  PutPart('-', static_cast<uint64_t>(date.day), out);
-  PutPart('T', seconds / 3600 % 24, out);
-  PutPart(':', seconds / 60 % 60, out);
-  PutPart(':', seconds % 60, out);
-  PutPart('.', time % 1000, out, 3);
+  PutMoment({static_cast<unsigned>(date.year), static_cast<unsigned>(date.month),
+             static_cast<unsigned>(date.day), static_cast<unsigned>(seconds / 3600 % 24),
+             static_cast<unsigned>(seconds / 60 % 60), static_cast<unsigned>(seconds % 60)},
+            out);
+  out->Put('.');
+  PutDecimal(time % 1000, out, 3);
   out->Put('Z');
 }
 

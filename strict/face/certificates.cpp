@@ -68,7 +68,7 @@ ortholan_reason ortholan_certificate_view_next_extension(
   }
   const ByteView rest = View(certificate->extensions).From(*offset);
   if (rest.empty()) return ORTHOLAN_REASON_NOT_FOUND;
-  const ExtensionView view = ExtensionsView::First(rest);
+  const ExtensionView view = ExtensionView::First(rest);
   if (view.bytes.empty()) return ORTHOLAN_REASON_ARGUMENT;
   *offset += view.bytes.size;
   *extension = PublicExtension(view);

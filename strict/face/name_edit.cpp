@@ -95,7 +95,22 @@ ortholan_reason Edit(const ortholan_name_view* name, NameEdit edit, size_t place
   return Finish(out, size, refusal);
 }
 
-// What every function here does with its arguments.
+// Reads the options, and calls `write` with them and the room.
+template <class Write>
+ortholan_reason WriteInto(const ortholan_rfc4514_options* options, uint8_t* out, size_t room,
+                          ortholan_refusal* refusal, Write write) {
+  TextOptions read;
+  const ortholan_reason wrong = ReadOptions(options, &read);
+  if (wrong != ORTHOLAN_REASON_NONE) return Report(wrong, refusal);
+  BackwardOutput der(out, room);
+  try {
+    return write(read, &der);
+  } catch (const std::bad_alloc&) {
+    return Report(ORTHOLAN_REASON_MEMORY, refusal);
+  }
+}
+
+// What every function that edits does with its arguments.
 ortholan_reason RunEdit(const ortholan_name_view* name, NameEdit edit, size_t place,
                         const ortholan_new_attribute* attribute,
                         const ortholan_rfc4514_options* options, uint8_t* out, size_t room,
@@ -105,15 +120,9 @@ ortholan_reason RunEdit(const ortholan_name_view* name, NameEdit edit, size_t pl
   if (name == nullptr || (needs && attribute == nullptr) || !IsRoom(out, room)) {
     return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
   }
-  TextOptions read;
-  const ortholan_reason wrong = ReadOptions(options, &read);
-  if (wrong != ORTHOLAN_REASON_NONE) return Report(wrong, refusal);
-  BackwardOutput der(out, room);
-  try {
-    return Edit(name, edit, place, attribute, read, &der, size, refusal);
-  } catch (const std::bad_alloc&) {
-    return Report(ORTHOLAN_REASON_MEMORY, refusal);
-  }
+  return WriteInto(options, out, room, refusal, [&](const TextOptions& read, BackwardOutput* der) {
+    return Edit(name, edit, place, attribute, read, der, size, refusal);
+  });
 }
 
 }  // namespace
@@ -125,15 +134,9 @@ ortholan_reason ortholan_name_build(const ortholan_new_attribute* attributes, si
   if ((attributes == nullptr && count != 0) || !IsRoom(out, room)) {
     return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
   }
-  TextOptions read;
-  const ortholan_reason wrong = ReadOptions(options, &read);
-  if (wrong != ORTHOLAN_REASON_NONE) return Report(wrong, refusal);
-  BackwardOutput der(out, room);
-  try {
-    return Build(attributes, count, read, &der, size, refusal);
-  } catch (const std::bad_alloc&) {
-    return Report(ORTHOLAN_REASON_MEMORY, refusal);
-  }
+  return WriteInto(options, out, room, refusal, [&](const TextOptions& read, BackwardOutput* der) {
+    return Build(attributes, count, read, der, size, refusal);
+  });
 }
 
 ortholan_reason ortholan_name_view_replace(const ortholan_name_view* name, size_t index,

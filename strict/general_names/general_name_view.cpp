@@ -98,13 +98,12 @@ bool GeneralNamesView::ReadContent(ByteView content, Leniency leniency, GeneralN
 }
 
 // What was checked is read again without a look at the rules.
-void GeneralNameWalk::Step() {
+GeneralNameView GeneralNameView::First(ByteView names) {
   Element element;
-  Reader list(rest, Leniency::kLenient, nullptr);
+  Reader list(names, Leniency::kLenient, nullptr);
   if (!list.AtEnd()) list.Read(&element);
-  part = {static_cast<GeneralNameKind>(element.identifier & kLongTag), element.content,
+  return {static_cast<GeneralNameKind>(element.identifier & kLongTag), element.content,
           element.bytes};
-  rest = list.rest();
 }
 
 }  // namespace Ortholan::strict

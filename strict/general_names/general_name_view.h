@@ -57,6 +57,9 @@ struct GeneralNameView {
   // inside is not looked at.
   static bool Read(Reader* list, GeneralNameView* name);
 
+  // The first of checked names one behind the other; without octets where there is none.
+  static GeneralNameView First(ByteView names);
+
   // Checks what Read leaves: names of characters are IA5String without NUL and other controls, an
   // address has 4 or 16 octets, or with a mask 8 or 32; a registered identifier is one; a directory
   // name is in order; an other name holds an identifier and one value, whose structure is its
@@ -81,19 +84,9 @@ inline bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
   return FromElement(element, name) || Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
 }
 
-// Checked general names, one by one.
-struct GeneralNameWalk {
-  GeneralNameWalk() = default;
-  explicit GeneralNameWalk(ByteView content) : rest(content) {}
-  void Step();
-
-  GeneralNameView part;
-  ByteView rest;  // behind the part
-};
-
 class GeneralNamesView {
  public:
-  using Iterator = ViewIterator<GeneralNameWalk>;
+  using Iterator = ViewIterator<PartWalk<GeneralNameView>>;
 
   // No names.
   GeneralNamesView() = default;

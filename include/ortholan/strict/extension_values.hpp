@@ -18,6 +18,17 @@ namespace ortholan {
 
 namespace detail {
 
+// A value that is read by a C function of its own.
+template <class Value, auto kRead>
+struct Readable;
+template <class Value, class Plain,
+          ortholan_reason (*kRead)(ortholan_octets, int32_t, Plain*, ortholan_refusal*)>
+struct Readable<Value, kRead> {
+  static Result<Value> Read(Octets value, Reading reading = Reading::kDer) {
+    return ReadValue<Value, Plain>(value, reading, kRead);
+  }
+};
+
 inline std::optional<int64_t> ToNumber(const ortholan_integer& number) {
   if (number.content.data == nullptr) return std::nullopt;
   return number.value;
@@ -110,19 +121,16 @@ inline Result<uint32_t> ReadFlags(Octets value, Reading reading = Reading::kDer)
   return bits->flags;
 }
 
-struct BasicConstraints {
+struct BasicConstraints : detail::Readable<BasicConstraints, ortholan_basic_constraints_read> {
   bool is_authority = false;
   std::optional<int64_t> path_length;
 
   explicit BasicConstraints(const ortholan_basic_constraints& plain)
       : is_authority(plain.is_authority != 0), path_length(detail::ToNumber(plain.path_length)) {}
-  static Result<BasicConstraints> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<BasicConstraints, ortholan_basic_constraints>(
-        value, reading, ortholan_basic_constraints_read);
-  }
 };
 
-struct AuthorityKeyIdentifier {
+struct AuthorityKeyIdentifier
+    : detail::Readable<AuthorityKeyIdentifier, ortholan_authority_key_identifier_read> {
   Octets key_identifier;  // these are empty where they are not there
   GeneralNames issuer;
   Octets serial_number;  // content of the INTEGER
@@ -131,26 +139,18 @@ struct AuthorityKeyIdentifier {
       : key_identifier(plain.key_identifier),
         issuer(plain.issuer),
         serial_number(plain.serial_number.content) {}
-  static Result<AuthorityKeyIdentifier> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<AuthorityKeyIdentifier, ortholan_authority_key_identifier>(
-        value, reading, ortholan_authority_key_identifier_read);
-  }
 };
 
-struct KeyUsagePeriod {
+struct KeyUsagePeriod : detail::Readable<KeyUsagePeriod, ortholan_key_usage_period_read> {
   std::optional<int64_t> not_before;  // seconds since 1970
   std::optional<int64_t> not_after;
 
   explicit KeyUsagePeriod(const ortholan_key_usage_period& plain)
       : not_before(detail::ToSeconds(plain.not_before)),
         not_after(detail::ToSeconds(plain.not_after)) {}
-  static Result<KeyUsagePeriod> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<KeyUsagePeriod, ortholan_key_usage_period>(
-        value, reading, ortholan_key_usage_period_read);
-  }
 };
 
-struct UserNotice {
+struct UserNotice : detail::Readable<UserNotice, ortholan_user_notice_read> {
   std::string organization;
   std::vector<int64_t> numbers;
   std::string text;
@@ -162,10 +162,6 @@ struct UserNotice {
     for (size_t at = 0; ortholan_integer_next(&plain.reference.numbers, &at, &number) == 0;) {
       numbers.push_back(number.value);
     }
-  }
-  static Result<UserNotice> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<UserNotice, ortholan_user_notice>(value, reading,
-                                                               ortholan_user_notice_read);
   }
 };
 
@@ -205,17 +201,13 @@ inline Result<PolicyMappings> ReadPolicyMappings(Octets value, Reading reading =
                                                           ortholan_policy_mappings_read);
 }
 
-struct PolicyConstraints {
+struct PolicyConstraints : detail::Readable<PolicyConstraints, ortholan_policy_constraints_read> {
   std::optional<int64_t> require_explicit_policy;
   std::optional<int64_t> inhibit_policy_mapping;
 
   explicit PolicyConstraints(const ortholan_policy_constraints& plain)
       : require_explicit_policy(detail::ToNumber(plain.require_explicit_policy)),
         inhibit_policy_mapping(detail::ToNumber(plain.inhibit_policy_mapping)) {}
-  static Result<PolicyConstraints> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<PolicyConstraints, ortholan_policy_constraints>(
-        value, reading, ortholan_policy_constraints_read);
-  }
 };
 
 struct NameSubtree {
@@ -229,16 +221,12 @@ struct NameSubtree {
 using NameSubtreeList = ValueList<NameSubtree, ortholan_name_subtree, ortholan_name_subtree_next>;
 
 // nameConstraints, to look at; ortholan::Permits decides by them.
-struct NameSubtrees {
+struct NameSubtrees : detail::Readable<NameSubtrees, ortholan_name_subtrees_read> {
   NameSubtreeList permitted;
   NameSubtreeList excluded;
 
   explicit NameSubtrees(const ortholan_name_subtrees& plain)
       : permitted(plain.permitted), excluded(plain.excluded) {}
-  static Result<NameSubtrees> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<NameSubtrees, ortholan_name_subtrees>(value, reading,
-                                                                   ortholan_name_subtrees_read);
-  }
 };
 
 struct DistributionPoint {
@@ -262,7 +250,8 @@ inline Result<DistributionPoints> ReadDistributionPoints(Octets value,
                                                               ortholan_distribution_points_read);
 }
 
-struct IssuingDistributionPoint {
+struct IssuingDistributionPoint
+    : detail::Readable<IssuingDistributionPoint, ortholan_issuing_distribution_point_read> {
   GeneralNames full_name;
   Octets relative_name;  // content of an RDN
   bool only_user_certificates = false;
@@ -279,10 +268,6 @@ struct IssuingDistributionPoint {
         only_attribute_certificates(plain.only_attribute_certificates != 0),
         is_indirect(plain.is_indirect != 0),
         only_some_reasons(detail::ToFlags(plain.only_some_reasons)) {}
-  static Result<IssuingDistributionPoint> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<IssuingDistributionPoint, ortholan_issuing_distribution_point>(
-        value, reading, ortholan_issuing_distribution_point_read);
-  }
 };
 
 struct AccessDescription {
@@ -341,7 +326,8 @@ inline Result<QcStatements> ReadQcStatements(Octets value, Reading reading = Rea
                                                         ortholan_qc_statements_read);
 }
 
-struct OrganizationIdentifier {
+struct OrganizationIdentifier
+    : detail::Readable<OrganizationIdentifier, ortholan_organization_identifier_read> {
   std::string scheme;
   std::string country;
   std::string state;  // empty where it is not there
@@ -352,13 +338,10 @@ struct OrganizationIdentifier {
         country(detail::StringText(plain.country)),
         state(detail::StringText(plain.state)),
         reference(detail::StringText(plain.reference)) {}
-  static Result<OrganizationIdentifier> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<OrganizationIdentifier, ortholan_organization_identifier>(
-        value, reading, ortholan_organization_identifier_read);
-  }
 };
 
-struct CertificateTemplate {
+struct CertificateTemplate
+    : detail::Readable<CertificateTemplate, ortholan_certificate_template_read> {
   Octets oid;  // content octets
   std::optional<int64_t> major_version;
   std::optional<int64_t> minor_version;
@@ -367,10 +350,6 @@ struct CertificateTemplate {
       : oid(plain.oid),
         major_version(detail::ToNumber(plain.major_version)),
         minor_version(detail::ToNumber(plain.minor_version)) {}
-  static Result<CertificateTemplate> Read(Octets value, Reading reading = Reading::kDer) {
-    return detail::ReadValue<CertificateTemplate, ortholan_certificate_template>(
-        value, reading, ortholan_certificate_template_read);
-  }
 };
 
 }  // namespace ortholan
