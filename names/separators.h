@@ -1,5 +1,7 @@
 // What stands between the RDNs of a name text, by option: read by the encoder, written by the
 // decoder. The first row whose option is set counts.
+//
+//   WrittenSeparator(kSeparateSemicolon, kStyleKeys)   // ";"
 #ifndef ORTHOLAN_NAMES_SEPARATORS_H_
 #define ORTHOLAN_NAMES_SEPARATORS_H_
 

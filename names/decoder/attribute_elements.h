@@ -1,4 +1,7 @@
 // An RDN taken apart: the identifier and the value of its one attribute.
+//
+//   PlainAttribute plain;
+//   if (SplitPlainRdn(rdn, &plain)) use(plain.type, plain.value.bytes);
 #ifndef ORTHOLAN_NAMES_DECODER_ATTRIBUTE_ELEMENTS_H_
 #define ORTHOLAN_NAMES_DECODER_ATTRIBUTE_ELEMENTS_H_
 

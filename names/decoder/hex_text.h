@@ -1,4 +1,6 @@
 // Octets as hexadecimal text.
+//
+//   AppendHex(bytes, &text);   // "05 00"
 #ifndef ORTHOLAN_NAMES_DECODER_HEX_TEXT_H_
 #define ORTHOLAN_NAMES_DECODER_HEX_TEXT_H_
 

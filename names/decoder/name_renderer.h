@@ -1,4 +1,7 @@
 // A whole name as one line of text.
+//
+//   NameRenderer renderer(kStyleKeys, 0);
+//   if (renderer.Render(name)) renderer.MoveTo(&text);   // "CN=Alpha,O=Org"
 #ifndef ORTHOLAN_NAMES_DECODER_NAME_RENDERER_H_
 #define ORTHOLAN_NAMES_DECODER_NAME_RENDERER_H_
 

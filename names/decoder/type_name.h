@@ -1,4 +1,7 @@
 // Attribute types as text: the dotted identifier, and the short key.
+//
+//   TypeText type;
+//   if (DecodeAttrOid(content, &type)) AppendType(type, kStyleKeys, &text);   // 55 04 03: "CN"
 #ifndef ORTHOLAN_NAMES_DECODER_TYPE_NAME_H_
 #define ORTHOLAN_NAMES_DECODER_TYPE_NAME_H_
 

@@ -1,4 +1,7 @@
 // Attribute values as wide text.
+//
+//   std::wstring text;
+//   if (!DecodeAttrData(value, &text)) ...   // 0C 02 D0 98: "И"
 #ifndef ORTHOLAN_NAMES_DECODER_VALUE_TEXT_H_
 #define ORTHOLAN_NAMES_DECODER_VALUE_TEXT_H_
 

@@ -1,4 +1,6 @@
 // The lines of an address.
+//
+//   GetStrings(std::string_view("Road 1\r\n\nTown"), use);   // "Road 1", "Town"
 #ifndef ORTHOLAN_NAMES_ENCODER_ADDRESS_LINES_H_
 #define ORTHOLAN_NAMES_ENCODER_ADDRESS_LINES_H_
 

@@ -1,4 +1,7 @@
 // Name text to elements: tokens, and the sequence that they have to come in.
+//
+//   NameParser<char> parser("CN=Alpha, O=\"Org, Ltd\"", options, nullptr);
+//   if (parser.Parse_NameElems()) parser.elements().ForEach(use);   // two: Alpha; Org, Ltd
 #ifndef ORTHOLAN_NAMES_ENCODER_NAME_PARSER_H_
 #define ORTHOLAN_NAMES_ENCODER_NAME_PARSER_H_
 

@@ -1,5 +1,7 @@
 // The order of sorted RDNs: by falling rank of their types (attribute_table.h), those of one rank
 // in the order given.
+//
+//   CN=Alpha, O=Org, C=RU  ->  C=RU, O=Org, CN=Alpha
 #ifndef ORTHOLAN_NAMES_ENCODER_RANK_ORDER_H_
 #define ORTHOLAN_NAMES_ENCODER_RANK_ORDER_H_
 

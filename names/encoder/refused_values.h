@@ -1,5 +1,7 @@
 // Which values are refused, whatever a name is made from: an empty one, and one with characters
 // that the attribute's type does not take.
+//
+//   CheckValue(ValueRule::kPrintable, 0, kInBoth)   // kEmpty
 #ifndef ORTHOLAN_NAMES_ENCODER_REFUSED_VALUES_H_
 #define ORTHOLAN_NAMES_ENCODER_REFUSED_VALUES_H_
 

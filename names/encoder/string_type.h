@@ -1,4 +1,7 @@
 // Which string type carries a value that is not refused.
+//
+//   "RU"     PrintableString
+//   "Альфа"  BMPString; with kEncodeUtf8 UTF8String
 #ifndef ORTHOLAN_NAMES_ENCODER_STRING_TYPE_H_
 #define ORTHOLAN_NAMES_ENCODER_STRING_TYPE_H_
 

@@ -1,4 +1,7 @@
 // Values of structures as the characters that the writer chooses a string type for anew.
+//
+//   Characters value;
+//   if (!ConvToX500NameElem(AttributeView(attr), &arena, &value)) ...   // 41 00 42 00: "AB"
 #ifndef ORTHOLAN_NAMES_ENCODER_STRUCTURED_VALUE_H_
 #define ORTHOLAN_NAMES_ENCODER_STRUCTURED_VALUE_H_
 

@@ -1,4 +1,7 @@
 // A whole name text to its encoding.
+//
+//   const AttributeRow* fresh = nullptr;
+//   if (!EncodeNameText(std::string_view("CN=Alpha"), 0, false, &fresh, &der)) ...
 #ifndef ORTHOLAN_NAMES_ENCODER_TEXT_ENCODER_H_
 #define ORTHOLAN_NAMES_ENCODER_TEXT_ENCODER_H_
 

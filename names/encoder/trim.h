@@ -1,4 +1,6 @@
 // The white space that the encoder cuts: CR, LF, tab and blank.
+//
+//   Trimmed(std::string_view("  a b\r\n"))   // "a b"; " " of "   "
 #ifndef ORTHOLAN_NAMES_ENCODER_TRIM_H_
 #define ORTHOLAN_NAMES_ENCODER_TRIM_H_
 

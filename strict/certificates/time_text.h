@@ -1,4 +1,6 @@
 // Times of certificates as text (RFC 5280 4.1.2.5).
+//
+//   PutTimeText(element, &out);   // 17 0D 32 36...: 2026-11-21T22:05:00Z
 #ifndef ORTHOLAN_STRICT_CERTIFICATES_TIME_TEXT_H_
 #define ORTHOLAN_STRICT_CERTIFICATES_TIME_TEXT_H_
 

@@ -1,4 +1,7 @@
 // One name of a certificate, taken apart once to be held against subtrees (RFC 5280 4.2.1.10).
+//
+//   const ConstrainedName name = ConstrainedName::Of(general, FormOf(general));
+//   if (name.fault != ORTHOLAN_REASON_NONE) ...   // nothing can be told of it
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_CONSTRAINED_NAME_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_CONSTRAINED_NAME_H_
 

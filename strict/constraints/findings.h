@@ -1,4 +1,8 @@
 // Findings, and the verdict that follows from them.
+//
+//   Findings findings(out, room);
+//   findings.Add(finding);
+//   if (findings.verdict() == Verdict::kNo) ...
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_FINDINGS_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_FINDINGS_H_
 

@@ -1,4 +1,7 @@
 // BOOLEAN DEFAULT FALSE, as flags of extensions are written (X.690 11.1, 11.5).
+//
+//   bool critical;
+//   if (!ReadDefaultFalse(&fields, &critical)) return false;   // 01 01 FF, or nothing
 #ifndef ORTHOLAN_STRICT_DER_BOOLEAN_H_
 #define ORTHOLAN_STRICT_DER_BOOLEAN_H_
 

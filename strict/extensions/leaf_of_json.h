@@ -1,4 +1,7 @@
 // Values without parts from their JSON: the content octets that a shape makes of one.
+//
+//   std::string content;
+//   LeafOfJson(kFlagShape, json, &content, &refusal);   // true: FF
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_LEAF_OF_JSON_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_LEAF_OF_JSON_H_
 

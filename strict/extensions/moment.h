@@ -1,4 +1,6 @@
 // Moments counted from 1970 without leap seconds, and their text.
+//
+//   SecondsOf("1970-01-02T00:00:00Z")   // 86400
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_MOMENT_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_MOMENT_H_
 

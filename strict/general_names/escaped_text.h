@@ -1,4 +1,7 @@
 // Characters of a general name in its text: "\\" is a backslash, "\0A" an octet.
+//
+//   UnescapedText text;
+//   if (text.Read("a\\\\b\\0A", &refusal)) use(text.octets());   // 61 5C 62 0A
 #ifndef ORTHOLAN_STRICT_GENERAL_NAMES_ESCAPED_TEXT_H_
 #define ORTHOLAN_STRICT_GENERAL_NAMES_ESCAPED_TEXT_H_
 

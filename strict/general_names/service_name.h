@@ -1,4 +1,7 @@
 // Names of services (RFC 4985 2): "_imaps.example.org", a service and the host that offers it.
+//
+//   std::string_view service, host;
+//   SplitService("_imaps.example.org", &service, &host, &refusal);   // "_imaps", "example.org"
 #ifndef ORTHOLAN_STRICT_GENERAL_NAMES_SERVICE_NAME_H_
 #define ORTHOLAN_STRICT_GENERAL_NAMES_SERVICE_NAME_H_
 

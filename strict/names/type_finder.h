@@ -1,4 +1,7 @@
 // Types found by what text calls them: a name of the caller's or the table's, or dotted digits.
+//
+//   NamedType type;
+//   if (TypeFinder(options).Find("CN", false, &type) == ORTHOLAN_REASON_NONE) use(type.oid);
 #ifndef ORTHOLAN_STRICT_NAMES_TYPE_FINDER_H_
 #define ORTHOLAN_STRICT_NAMES_TYPE_FINDER_H_
 

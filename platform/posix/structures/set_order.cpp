@@ -4,15 +4,11 @@
 #include <memory>
 #include <new>
 
+#include "bytes/set_order.h"
 #include "platform/posix/der.h"
 
 namespace Ortholan::posix {
 namespace {
-
-// No two elements differ in trailing zeros alone: their lengths would.
-bool IsBefore(ByteView a, ByteView b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end());
-}
 
 std::size_t Split(ByteView content, ByteView* elements) {
   std::size_t count = 0;
@@ -31,7 +27,8 @@ bool SortSet(BYTE* content, std::size_t size) {
   const std::unique_ptr<BYTE[]> sorted(new (std::nothrow) BYTE[size]);
   if (elements == nullptr || sorted == nullptr) return false;
   Split({content, size}, elements.get());
-  std::sort(elements.get(), elements.get() + count, IsBefore);
+  std::sort(elements.get(), elements.get() + count,
+            [](ByteView a, ByteView b) { return !IsAscending(b, a); });
   BYTE* end = sorted.get();
   for (std::size_t i = 0; i < count; ++i) end = WriteBytes(end, elements[i]);
   // Octets that are no element, which a caller's own encoding may end in, stay at the end.

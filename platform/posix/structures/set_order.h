@@ -1,4 +1,4 @@
-// The order of a SET OF in DER.
+// A SET OF in the order of DER, with memory that may run out.
 
 #ifndef ORTHOLAN_PLATFORM_POSIX_STRUCTURES_SET_ORDER_H_
 #define ORTHOLAN_PLATFORM_POSIX_STRUCTURES_SET_ORDER_H_
@@ -9,8 +9,8 @@
 
 namespace Ortholan::posix {
 
-// Sorts the elements of `content` in place by their octets, a shorter one as if followed by zeros
-// (X.690 11.6). False where memory runs out; the elements are then as they were.
+// Sorts the elements of `content` in place (bytes/set_order.h). False where memory runs out; the
+// elements are then as they were.
 bool SortSet(BYTE* content, std::size_t size);
 
 }  // namespace Ortholan::posix
