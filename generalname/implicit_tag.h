@@ -1,6 +1,6 @@
 // Implicit tagging (X.690 8.14): other identifier octets in front of the same length and content.
 //
-//   0C 01 41  ->  82 01 41
+//   0C 01 41  ->  A2 01 41   (2)
 #ifndef ORTHOLAN_GENERALNAME_IMPLICIT_TAG_H_
 #define ORTHOLAN_GENERALNAME_IMPLICIT_TAG_H_
 
