@@ -152,7 +152,7 @@ TEST(Quoting, GoesByCharacter) {
   std::set<unsigned> space = {0x20, 0xA0, 0x1680, 0x2028, 0x2029, 0x202F, 0x205F, 0x3000};
   for (unsigned unit = 0x09; unit <= 0x0D; ++unit) space.insert(unit);
   for (unsigned unit = 0x2000; unit <= 0x200A; ++unit) space.insert(unit);
-  for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+  for (unsigned unit = 0; unit <= 0xFFFF; unit += ORTHOLAN_TEST_SCALE) {
     const bool symbol = unit != 0 && unit < 0x80 &&
                         std::strchr("#;,+\"\\=<>\n\r'", static_cast<int>(unit)) != nullptr;
     const bool any = symbol || space.count(unit) != 0;
