@@ -30,18 +30,6 @@ constexpr bool IsAsciiDigit(Char c) {
   return c >= Char('0') && c <= Char('9');
 }
 
-// -1, 0 or 1 by lower-cased bytes, unsigned, as `_stricmp` has it.
-inline int CompareIgnoreCase(std::string_view a, std::string_view b) {
-  const size_t common = a.size() < b.size() ? a.size() : b.size();
-  for (size_t i = 0; i < common; ++i) {
-    const auto x = static_cast<unsigned char>(ToAsciiLower(a[i]));
-    const auto y = static_cast<unsigned char>(ToAsciiLower(b[i]));
-    if (x != y) return x < y ? -1 : 1;
-  }
-  if (a.size() == b.size()) return 0;
-  return a.size() < b.size() ? -1 : 1;
-}
-
 // Whether every character is below 0x80, which all code pages of ours have in common.
 bool IsAscii(std::string_view text);
 

@@ -9,6 +9,7 @@
 #include "bytes/pair_run.h"
 #include "bytes/triple_run.h"
 #include "bytes/utf16.h"
+#include "bytes/utf8_scalar.h"
 
 namespace Ortholan {
 
@@ -128,32 +129,10 @@ struct ByteWriter {
     return true;
   }
   bool Put(uint32_t scalar) {
-    if (scalar < 0x80) {
-      if (room < 1) return false;
-      out[0] = static_cast<uint8_t>(scalar);
-      Advance(1);
-    } else if (scalar < 0x800) {
-      if (room < 2) return false;
-      out[0] = static_cast<uint8_t>(0xC0 | scalar >> 6);
-      out[1] = Follower(scalar);
-      Advance(2);
-    } else if (scalar < 0x10000) {
-      if (room < 3) return false;
-      out[0] = static_cast<uint8_t>(0xE0 | scalar >> 12);
-      out[1] = Follower(scalar >> 6);
-      out[2] = Follower(scalar);
-      Advance(3);
-    } else {
-      if (room < 4) return false;
-      out[0] = static_cast<uint8_t>(0xF0 | scalar >> 18);
-      out[1] = Follower(scalar >> 12);
-      out[2] = Follower(scalar >> 6);
-      out[3] = Follower(scalar);
-      Advance(4);
-    }
+    if (room < 4 && room < Utf8Octets(scalar)) return false;
+    Advance(static_cast<size_t>(WriteUtf8Scalar(out, scalar) - out));
     return true;
   }
-  static uint8_t Follower(uint32_t bits) { return static_cast<uint8_t>(0x80 | (bits & 0x3F)); }
   void Advance(size_t bytes) {
     out += bytes;
     room -= bytes;

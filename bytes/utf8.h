@@ -15,6 +15,7 @@
 #include "bytes/text_sinks.h"
 #include "bytes/triple_run.h"
 #include "bytes/utf16.h"
+#include "bytes/utf8_scalar.h"
 
 namespace Ortholan {
 
@@ -45,19 +46,15 @@ inline constexpr uint32_t kBroken = 0xFFFFFFFF;
 // A character of three or four bytes, or one maximal broken part: a beginning that some character
 // has, as far as it goes, or else one byte.
 inline uint32_t ReadLongUtf8(const uint8_t* text, size_t left, size_t* count) {
-  const uint32_t lead = text[0];
+  Utf8Lead lead = ReadUtf8Lead(text[0]);
   *count = 1;
-  if (lead < 0xC2 || lead > 0xF4) return kBroken;
-  const size_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  uint32_t scalar = lead & (0x7Fu >> size);
-  // The first follower's range keeps out overlong forms, surrogates and what lies beyond U+10FFFF.
-  uint8_t low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  uint8_t high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  for (; *count < size; ++*count) {
-    if (*count == left || text[*count] < low || text[*count] > high) return kBroken;
+  if (lead.size == 0) return kBroken;
+  uint32_t scalar = Utf8LeadBits(text[0], lead.size);
+  for (; *count < lead.size; ++*count) {
+    if (*count == left || text[*count] < lead.low || text[*count] > lead.high) return kBroken;
     scalar = scalar << 6 | (text[*count] & 0x3Fu);
-    low = 0x80;
-    high = 0xBF;
+    lead.low = 0x80;
+    lead.high = 0xBF;
   }
   return scalar;
 }

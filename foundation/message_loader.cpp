@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "bytes/ascii.h"
+#include "bytes/ignore_case.h"
 #include "platform/calls.h"
 
 namespace Ortholan {

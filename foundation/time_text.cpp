@@ -4,17 +4,16 @@
 #include <cstring>
 
 #include "bytes/ascii.h"
+#include "bytes/utc_time_year.h"
 
 namespace Ortholan {
 namespace {
 
-constexpr unsigned kUtcFirstYear = 1950;
-constexpr unsigned kUtcLastYear = 2049;
 constexpr unsigned kGeneralizedLastYear = 9999;
 constexpr size_t kFieldDigits = 2;
 
 bool Fits(unsigned year, TimeForm form) {
-  if (form == TimeForm::kUtc) return year >= kUtcFirstYear && year <= kUtcLastYear;
+  if (form == TimeForm::kUtc) return IsUtcTimeYear(year);
   return year <= kGeneralizedLastYear;
 }
 
@@ -59,7 +58,7 @@ Status ParseTime(ByteView text, TimeForm form, FILETIME* time) {
   if (!HasShape(text, form)) return Status::kCorrupt;
   const BYTE* digits = text.data;
   unsigned year = ReadNumber(&digits, form == TimeForm::kUtc ? kFieldDigits : 2 * kFieldDigits);
-  if (form == TimeForm::kUtc) year += year < kUtcFirstYear % 100 ? 2000 : 1900;
+  if (form == TimeForm::kUtc) year = YearOfTwoDigits(year);
   SYSTEMTIME parts = {};
   parts.wYear = static_cast<WORD>(year);
   for (WORD* field : {&parts.wMonth, &parts.wDay, &parts.wHour, &parts.wMinute, &parts.wSecond}) {

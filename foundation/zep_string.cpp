@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "bytes/ascii.h"
+#include "bytes/ignore_case.h"
 #include "foundation/message_loader.h"
 #include "foundation/report.h"
 #include "foundation/required_text.h"

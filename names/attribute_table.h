@@ -8,8 +8,9 @@
 #include <cstddef>
 #include <string_view>
 
-#include "bytes/base128.h"
 #include "bytes/byte_view.h"
+#include "bytes/der_tag.h"
+#include "bytes/oid_constant.h"
 
 namespace Ortholan {
 
@@ -20,12 +21,15 @@ enum class ValueRule : unsigned char {
   kIA5 = 2,        // IA5String always
 };
 
-// The identifier in DER, made from its dotted text by the compiler.
+// An identifier in DER.
 struct OidDer {
-  BYTE bytes[16] = {};
-  size_t size = 0;
+  BYTE bytes[16] = {kTagOid};
+  size_t size = 2;
 
-  explicit constexpr OidDer(std::string_view dotted);
+  explicit constexpr OidDer(const OidConstant& oid) {
+    bytes[1] = oid.size;
+    for (const uint8_t octet : oid.view()) bytes[size++] = octet;
+  }
 };
 
 // Aligned so that a row's place in the table is a shift away.
@@ -49,26 +53,6 @@ struct alignas(128) AttributeRow {
 };
 
 constexpr int kUnrankedAttribute = 99;
-
-constexpr OidDer::OidDer(std::string_view dotted) {
-  size_t position = 0;
-  unsigned arcs[16] = {};
-  size_t count = 1;
-  for (; position < dotted.size(); ++position) {
-    if (dotted[position] == '.') {
-      ++count;
-    } else {
-      arcs[count - 1] = arcs[count - 1] * 10 + static_cast<unsigned>(dotted[position] - '0');
-    }
-  }
-  size = 2;
-  bytes[size++] = static_cast<BYTE>(arcs[0] * 40 + arcs[1]);
-  for (size_t i = 2; i < count; ++i) {
-    size = static_cast<size_t>(WriteBase128(bytes + size, arcs[i]) - bytes);
-  }
-  bytes[0] = 6;
-  bytes[1] = static_cast<BYTE>(size - 2);
-}
 
 #define ORTHOLAN_OID(dotted) dotted, L##dotted, OidDer(dotted)
 inline constexpr AttributeRow kAttributes[] = {

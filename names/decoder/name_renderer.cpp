@@ -8,34 +8,16 @@
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
 #include "foundation/report.h"
-#include "names/decoder/quoting.h"
 #include "names/decoder/rdn_reader.h"
 #include "names/decoder/short_key.h"
 #include "names/decoder/type_name.h"
 #include "names/decoder/value_text.h"
+#include "names/decoder/when_quoted.h"
+#include "names/separators.h"
 #include "platform/string_value.h"
 
 namespace Ortholan {
 namespace {
-
-// The first row whose option is set counts.
-struct SeparatorRow {
-  DWORD option;
-  std::string_view separator;
-};
-constexpr SeparatorRow kSeparators[] = {
-    {kSeparateCrLf, "\r\n"},
-    {kSeparateSemicolon, ";"},
-};
-constexpr std::string_view kDefaultSeparator = ",";
-
-std::string_view SeparatorFor(DWORD options, DWORD style) {
-  if (style == kStyleValues) return kDefaultSeparator;
-  for (const SeparatorRow& row : kSeparators) {
-    if ((options & row.option) != 0) return row.separator;
-  }
-  return kDefaultSeparator;
-}
 
 // Copies characters and collects their quote classes; false for one that is not ASCII.
 bool CopyAscii(const char* from, size_t size, char* to, unsigned* classes) {
@@ -69,7 +51,7 @@ void AppendTo(std::string_view text, SmallBuffer<char, N>* out) {
 }  // namespace
 
 NameRenderer::NameRenderer(DWORD style, DWORD options)
-    : style_(style), separator_(SeparatorFor(options, style)) {}
+    : style_(style), separator_(WrittenSeparator(options, style)) {}
 
 // In one pass: a fault of the sequence itself, also one behind an RDN that cannot be rendered,
 // counts before everything else and leaves no text.

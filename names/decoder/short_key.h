@@ -2,33 +2,29 @@
 #ifndef ORTHOLAN_NAMES_DECODER_SHORT_KEY_H_
 #define ORTHOLAN_NAMES_DECODER_SHORT_KEY_H_
 
-#include <cstddef>
-#include <cstdint>
-
 #include "names/decoder/type_name.h"
+#include "names/remembered_text.h"
 
 namespace Ortholan {
 
 // A key of a few ASCII characters, in one word.
 class ShortKey {
  public:
-  static constexpr size_t kLongest = 5;
+  static constexpr size_t kLongest = RememberedText::kLongest;
 
   ShortKey() = default;
-  explicit ShortKey(uint64_t word) : word_(word) {}
+  // The number is that of the characters.
+  explicit ShortKey(RememberedText text) : text_(text) {}
 
   // 0: there is none.
-  size_t size() const { return word_ >> kSizeShift & 0xFF; }
+  size_t size() const { return text_.number(); }
   // Writes kLongest characters, of which size() count.
   void Write(char* out) const {
-    for (size_t i = 0; i < kLongest; ++i) out[i] = static_cast<char>(word_ >> (kTextShift + 8 * i));
+    for (size_t i = 0; i < kLongest; ++i) out[i] = static_cast<char>(text_.text() >> (8 * i));
   }
 
-  static constexpr unsigned kSizeShift = 16;  // below it the version of the platform's answers
-  static constexpr unsigned kTextShift = 24;
-
  private:
-  uint64_t word_ = 0;
+  RememberedText text_;
 };
 
 // GetX500KeyFromOid(type) where it is such a key and the table has the type, none otherwise. What

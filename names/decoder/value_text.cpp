@@ -2,6 +2,7 @@
 
 #include "bytes/ascii.h"
 #include "bytes/byte_view.h"
+#include "bytes/nesting_limit.h"
 #include "bytes/utf16.h"
 #include "foundation/code_page.h"
 #include "foundation/report.h"
@@ -10,8 +11,6 @@
 
 namespace Ortholan {
 namespace {
-
-constexpr unsigned kMaxNesting = 32;
 
 bool AppendString(const Element& value, std::wstring* text) {
   StringValue decoded;
@@ -22,7 +21,7 @@ bool AppendString(const Element& value, std::wstring* text) {
   return true;
 }
 
-bool AppendValue(const Element& value, unsigned depth, std::wstring* text);
+bool AppendValue(const Element& value, size_t depth, std::wstring* text);
 
 // Calls `use` with each child. All children are found before the first one is decoded.
 template <typename Use>
@@ -39,7 +38,7 @@ bool ForEachChild(const Element& sequence, Use use) {
   return true;
 }
 
-bool AppendLines(const Element& sequence, unsigned depth, std::wstring* text) {
+bool AppendLines(const Element& sequence, size_t depth, std::wstring* text) {
   if (depth > kMaxNesting) return FailWith(Status::kCorrupt);
   const size_t start = text->size();
   return ForEachChild(sequence, [&](const Element& child) {
@@ -52,7 +51,7 @@ bool AppendLines(const Element& sequence, unsigned depth, std::wstring* text) {
   });
 }
 
-bool AppendValue(const Element& value, unsigned depth, std::wstring* text) {
+bool AppendValue(const Element& value, size_t depth, std::wstring* text) {
   if (IsDecodedString(value)) return AppendString(value, text);
   if (value.header.tag == kTagSequence) return AppendLines(value, depth + 1, text);
   AppendHex(value.bytes, text);
@@ -74,7 +73,7 @@ bool DecodeAttrData(const Element& value, std::wstring* text) {
 
 bool DecodeAttrData(const Element& value, std::list<std::wstring>* texts) {
   std::list<std::wstring> found;
-  const auto append = [&found](const Element& element, unsigned depth) {
+  const auto append = [&found](const Element& element, size_t depth) {
     std::wstring text;
     if (!AppendValue(element, depth, &text)) return false;
     if (!text.empty()) found.push_back(std::move(text));

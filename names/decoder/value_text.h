@@ -37,7 +37,7 @@ class AsciiValue {
 //   16              the texts of the children, nested ones too, that have any, a line each
 //   any other       the whole encoding in hexadecimal
 // False with the last error set for bytes that are no such value, and for a SEQUENCE nested more
-// than 32 deep; `text` then ends with what was decoded before.
+// than kMaxNesting deep; `text` then ends with what was decoded before.
 bool DecodeAttrData(const Element& value, std::wstring* text);
 
 // Replaces `texts` by the non-empty texts of the children of a SEQUENCE, or by the one text of

@@ -5,7 +5,7 @@
 #include "foundation/oid_text.h"
 #include "foundation/report.h"
 #include "names/encoder/rdn_writer.h"
-#include "names/encoder/value_type.h"
+#include "names/encoder/string_type.h"
 
 namespace Ortholan {
 

@@ -3,18 +3,10 @@
 #include <algorithm>
 #include <functional>
 
+#include "names/doubled_quotes.h"
 #include "names/encoder/trim.h"
-#include "names/quote.h"
 
 namespace Ortholan {
-namespace {
-
-template <typename Char>
-bool HasDoubledQuote(std::basic_string_view<Char> text, size_t quote) {
-  return quote + 1 < text.size() && text[quote + 1] == Char(kQuote);
-}
-
-}  // namespace
 
 template <typename Char>
 NameParser<Char>::NameParser(View trimmedText, DWORD options, const AttributeRow* unfinished)
@@ -137,7 +129,7 @@ void NameParser<Char>::ReadQuotedValue() {
   const View rest = Rest();
   size_t doubled = 0;
   size_t quote = rest.find(Char(kQuote));
-  while (quote != View::npos && HasDoubledQuote(rest, quote)) {
+  while (quote != View::npos && IsDoubledQuote(rest, quote)) {
     ++doubled;
     quote = rest.find(Char(kQuote), quote + 2);
   }
@@ -152,15 +144,7 @@ template <typename Char>
 auto NameParser<Char>::Unescape(View quoted, size_t doubled) -> View {
   const size_t size = quoted.size() - doubled;
   Char* const copy = unescaped_.Take<Char>(size);
-  Char* out = copy;
-  for (size_t start = 0; start < quoted.size();) {
-    const View rest = quoted.substr(start);
-    // Up to a quote, the first of two.
-    const View part = rest.substr(0, rest.find(Char(kQuote)) + 1);
-    const View kept = part.empty() ? rest : part;
-    out = std::copy(kept.begin(), kept.end(), out);
-    start += kept.size() + 1;
-  }
+  WriteUnquoted(quoted, copy);
   copies_.push_back({View(copy, size), quoted});
   return {copy, size};
 }

@@ -13,7 +13,7 @@
 #include "bytes/arena.h"
 #include "foundation/chunked_list.h"
 #include "names/attribute_table.h"
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
 #include "names/encoder/type_resolver.h"
 #include "names/encoder/value_chars.h"
 

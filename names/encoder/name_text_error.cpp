@@ -6,11 +6,11 @@
 
 #include "bytes/ascii.h"
 #include "foundation/code_page.h"
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
 #include "names/encoder/name_parser.h"
+#include "names/encoder/refused_values.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/type_resolver.h"
-#include "names/encoder/value_type.h"
 #include "platform/calls.h"
 
 namespace Ortholan {

@@ -1,53 +1,33 @@
-// Short type texts and what they resolved to, remembered for the process without a lock.
+// Short type texts and the places of the rows that they resolved to, remembered for the process.
 #ifndef ORTHOLAN_NAMES_ENCODER_REMEMBERED_TYPES_H_
 #define ORTHOLAN_NAMES_ENCODER_REMEMBERED_TYPES_H_
 
 #include <atomic>
-#include <cstdint>
-#include <string_view>
-#include <type_traits>
 
-#include "names/attribute_table.h"
+#include "names/remembered_text.h"
 
 namespace Ortholan {
 
-// A slot is one word, which holds the key and the row.
+// A slot is one word: the text, and the place of its row as the number.
 class RememberedTypes {
  public:
-  // A key of the text and the version of the platform's answers; 0 for a text that is not
-  // remembered.
-  template <typename Char>
-  static uint64_t KeyOf(std::basic_string_view<Char> text, uint16_t version) {
-    if (text.empty() || text.size() > kLongest) return 0;
-    uint64_t packed = 0;
-    for (const Char c : text) {
-      // A NUL in front would leave no trace, and a character above 0x7F does not fit.
-      if (static_cast<std::make_unsigned_t<Char>>(c) - 1u >= 0x7Fu) return 0;
-      packed = packed << 8 | static_cast<uint64_t>(c);
-    }
-    return packed << kTextShift | version;
+  static constexpr uint8_t kNone = 0xFF;
+
+  // kNone where the text was not kept.
+  uint8_t Find(RememberedText text) const {
+    const RememberedText kept(slots_[SlotOf(text)].load(std::memory_order_relaxed));
+    return text.has_text() && kept.With(0).word() == text.word() ? kept.number() : kNone;
   }
-  // Null where the key was not kept.
-  const AttributeRow* Find(uint64_t key) const {
-    const uint64_t word = slots_[SlotOf(key)].load(std::memory_order_relaxed);
-    return key != 0 && (word & ~kRowMask) == key ? &kAttributes[(word & kRowMask) >> kRowShift]
-                                                 : nullptr;
-  }
-  void Keep(uint64_t key, const AttributeRow* row) {
-    if (key == 0) return;
-    const auto place = static_cast<uint64_t>(row - kAttributes);
-    slots_[SlotOf(key)].store(key | place << kRowShift, std::memory_order_relaxed);
+  void Keep(RememberedText text, uint8_t place) {
+    if (!text.has_text()) return;
+    slots_[SlotOf(text)].store(text.With(place).word(), std::memory_order_relaxed);
   }
 
  private:
-  static constexpr size_t kLongest = 5;
-  static constexpr unsigned kRowShift = 16;  // below it the version
-  static constexpr unsigned kTextShift = 24;
-  static constexpr uint64_t kRowMask = 0xFF0000;
   static constexpr size_t kSlots = 64;
 
-  static size_t SlotOf(uint64_t key) {
-    return static_cast<size_t>((key >> kTextShift) * 0x9E3779B97F4A7C15u >> 58);
+  static size_t SlotOf(RememberedText text) {
+    return static_cast<size_t>(text.text() * 0x9E3779B97F4A7C15u >> 58);
   }
 
   std::atomic<uint64_t> slots_[kSlots] = {};

@@ -1,72 +1,21 @@
 #include "names/encoder/text_encoder.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <numeric>
 
 #include "bytes/ascii.h"
 #include "bytes/der_length.h"
 #include "bytes/der_tag.h"
 #include "foundation/report.h"
 #include "names/encoder/name_parser.h"
+#include "names/encoder/rank_order.h"
 #include "names/encoder/rdn_writer.h"
+#include "names/encoder/string_type.h"
 #include "names/encoder/trim.h"
 #include "names/encoder/value_encoder.h"
-#include "names/encoder/value_type.h"
 
 namespace Ortholan {
 namespace {
-
-constexpr int HighestRank() {
-  int highest = 0;
-  for (const AttributeRow& row : kAttributes) highest = std::max(highest, row.rank);
-  return highest;
-}
-
-// Where RDNs go that keep their order: behind one another.
-class OnePlace {
- public:
-  static constexpr bool kSorted = false;
-
-  void Add(const AttributeRow&, uint64_t octets) { octets_ += octets; }
-  uint64_t Total() const { return octets_; }
-  void Lay(BYTE* out) { next_ = out; }
-  BYTE*& Next(const AttributeRow&) { return next_; }
-
- private:
-  uint64_t octets_ = 0;
-  BYTE* next_ = nullptr;
-};
-
-// Where sorted RDNs go: by falling rank, those of one rank in their order. Ranks are few, and
-// knowing the octets of each makes every RDN's place known without moving an element.
-class RankPlaces {
- public:
-  static constexpr bool kSorted = true;
-
-  // Adds an RDN of so many octets.
-  void Add(const AttributeRow& row, uint64_t octets) { octets_[PlaceOf(row)] += octets; }
-  uint64_t Total() const { return std::accumulate(octets_, octets_ + kCount, uint64_t{0}); }
-  // Sets every place to its first position, the first one at `out`.
-  void Lay(BYTE* out) {
-    for (size_t place = 0; place < kCount; out += octets_[place++]) next_[place] = out;
-  }
-  // The position behind the RDNs of the row's rank that were written.
-  BYTE*& Next(const AttributeRow& row) { return next_[PlaceOf(row)]; }
-
- private:
-  static constexpr int kHighest = 11;
-  static constexpr size_t kCount = kHighest + 1;
-  static_assert(HighestRank() == kHighest);
-
-  static size_t PlaceOf(const AttributeRow& row) {
-    return static_cast<size_t>(kHighest - row.rank);
-  }
-
-  uint64_t octets_[kCount] = {};
-  BYTE* next_[kCount];
-};
 
 // Chooses the value's string type and tells the octets of its encoding, which are not kept:
 // measuring twice costs less than the room.

@@ -119,14 +119,14 @@ bool ResolveWhole(std::basic_string_view<Char> text, const AttributeRow** row) {
 RememberedTypes remembered_types;
 
 template <typename Char>
-bool TypeResolver::ResolveAfresh(std::basic_string_view<Char> text, uint64_t key,
+bool TypeResolver::ResolveAfresh(std::basic_string_view<Char> text, RememberedText key,
                                  const AttributeRow** row) {
   const bool resolved = ResolveWhole(text, row);
-  if (*row != nullptr) remembered_types.Keep(key, *row);
+  if (*row != nullptr) remembered_types.Keep(key, static_cast<uint8_t>(*row - kAttributes));
   return resolved;
 }
-template bool TypeResolver::ResolveAfresh(std::string_view, uint64_t, const AttributeRow**);
-template bool TypeResolver::ResolveAfresh(std::wstring_view, uint64_t, const AttributeRow**);
+template bool TypeResolver::ResolveAfresh(std::string_view, RememberedText, const AttributeRow**);
+template bool TypeResolver::ResolveAfresh(std::wstring_view, RememberedText, const AttributeRow**);
 
 std::string ListKeywords() {
   std::string list;

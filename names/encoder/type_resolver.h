@@ -23,15 +23,17 @@ class TypeResolver {
   // is ASCII.
   template <typename Char>
   bool Resolve(std::basic_string_view<Char> text, const AttributeRow** row) const {
-    const uint64_t key = RememberedTypes::KeyOf(text, version_);
-    *row = remembered_types.Find(key);
-    return *row != nullptr || ResolveAfresh(text, key, row);
+    const RememberedText key = RememberedText::Of(text, version_);
+    const uint8_t place = remembered_types.Find(key);
+    if (place == RememberedTypes::kNone) return ResolveAfresh(text, key, row);
+    *row = &kAttributes[place];
+    return true;
   }
 
  private:
   // The whole rule, without what is remembered; keeps what the key's text resolved to.
   template <typename Char>
-  static bool ResolveAfresh(std::basic_string_view<Char> text, uint64_t key,
+  static bool ResolveAfresh(std::basic_string_view<Char> text, RememberedText key,
                             const AttributeRow** row);
 
   uint16_t version_;

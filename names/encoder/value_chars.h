@@ -3,14 +3,15 @@
 #ifndef ORTHOLAN_NAMES_ENCODER_VALUE_CHARS_H_
 #define ORTHOLAN_NAMES_ENCODER_VALUE_CHARS_H_
 
-#include <ortholan/name_options.h>
-#include <ortholan/platform.h>
-
 #include <algorithm>
+#include <array>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
+#include <utility>
 
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
+#include "names/separators.h"
 
 namespace Ortholan {
 
@@ -46,23 +47,18 @@ class ValueChars {
   Entry entries_[256] = {};
 };
 
-struct DelimiterRow {
-  DWORD option;
-  ValueChars chars;
-};
-// The first row whose option is set counts.
-inline constexpr DelimiterRow kDelimiters[] = {
-    {kEncodeComma, ValueChars(",")},
-    {kEncodeSemicolon, ValueChars(";")},
-    {kEncodeCrLf, ValueChars("\r\n")},
-};
-inline constexpr ValueChars kAllDelimiters(",;\r\n");
+// By the rows of kReadSeparators.
+template <size_t... kRow>
+constexpr std::array<ValueChars, sizeof...(kRow)> MakeValueChars(std::index_sequence<kRow...>) {
+  return {ValueChars(kReadSeparators[kRow].text)...};
+}
+inline constexpr auto kValueChars =
+    MakeValueChars(std::make_index_sequence<std::size(kReadSeparators)>());
 
 inline const ValueChars& ValueCharsFor(DWORD options) {
-  for (const DelimiterRow& row : kDelimiters) {
-    if ((options & row.option) != 0) return row.chars;
-  }
-  return kAllDelimiters;
+  size_t row = 0;
+  while (row + 1 < kValueChars.size() && (options & kReadSeparators[row].option) == 0) ++row;
+  return kValueChars[row];
 }
 
 }  // namespace Ortholan

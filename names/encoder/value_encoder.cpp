@@ -2,7 +2,7 @@
 
 #include "bytes/der_tag.h"
 #include "bytes/utf16.h"
-#include "names/encoder/line_splitter.h"
+#include "names/encoder/address_lines.h"
 
 namespace Ortholan {
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "bytes/der_length.h"
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
 #include "platform/string_value.h"
 
 namespace Ortholan {

@@ -1,15 +1,13 @@
 #include <ortholan/name_encoder.h>
 
-#include <algorithm>
-#include <vector>
-
 #include "bytes/arena.h"
 #include "foundation/code_page.h"
 #include "foundation/report.h"
-#include "names/encoder/attribute_source.h"
-#include "names/encoder/char_class.h"
+#include "names/encoder/alphabets.h"
 #include "names/encoder/name_assembler.h"
 #include "names/encoder/name_parser.h"
+#include "names/encoder/rank_order.h"
+#include "names/encoder/structured_value.h"
 #include "names/encoder/text_encoder.h"
 #include "names/encoder/trim.h"
 
@@ -36,15 +34,6 @@ bool AddRdn(const SimpleRDN& rdn, NameAssembler* assembler, Arena* texts) {
   if (!assembler->EncodeElem(rdn.key.c_str(), value)) return false;
   assembler->EndRdn();
   return true;
-}
-
-std::vector<const SimpleRDN*> ByFallingRank(const std::list<SimpleRDN>& rdns) {
-  std::vector<const SimpleRDN*> order;
-  order.reserve(rdns.size());
-  for (const SimpleRDN& rdn : rdns) order.push_back(&rdn);
-  std::stable_sort(order.begin(), order.end(),
-                   [](const SimpleRDN* a, const SimpleRDN* b) { return *a > *b; });
-  return order;
 }
 
 }  // namespace

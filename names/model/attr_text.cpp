@@ -8,8 +8,8 @@
 #include "bytes/small_buffer.h"
 #include "foundation/required_text.h"
 #include "foundation/untyped_failure.h"
+#include "names/doubled_quotes.h"
 #include "names/model/name_failure.h"
-#include "names/quote.h"
 
 namespace Ortholan {
 namespace {
@@ -26,15 +26,8 @@ void AppendQuoted(std::string_view source, std::string* out) {
 }
 
 std::string Unquoted(std::string_view source) {
-  std::string out;
-  for (size_t i = 0; i < source.size(); ++i) {
-    if (source[i] == kQuote) {
-      const bool doubled = i + 1 < source.size() && source[i + 1] == kQuote;
-      if (!doubled) continue;
-      ++i;
-    }
-    out.push_back(source[i]);
-  }
+  std::string out(source.size(), '\0');
+  out.resize(static_cast<size_t>(WriteUnquoted(source, out.data()) - out.data()));
   return out;
 }
 

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <memory>
 
-#include "bytes/ascii.h"
+#include "bytes/ignore_case.h"
 #include "bytes/utf16.h"
 #include "foundation/blob_view.h"
 #include "foundation/required_text.h"

@@ -16,7 +16,7 @@
 #include "names/decoder/structured_value.h"
 #include "names/encoder/text_encoder.h"
 #include "names/model/name_failure.h"
-#include "names/model/name_text.h"
+#include "names/model/thread_text.h"
 
 namespace Ortholan {
 namespace {

@@ -1,12 +1,10 @@
 #include "strict/certificates/certificate_view.h"
 
+#include "strict/der/known_oids.h"
 #include "strict/der/reader.h"
 
 namespace Ortholan::strict {
 namespace {
-
-// 1.2.840.113549.1.9.14, extensionRequest.
-constexpr uint8_t kExtensionRequest[] = {0x2A, 0x86, 0x48, 0x86, 0xF7, 0x0D, 0x01, 0x09, 0x0E};
 
 constexpr uint8_t kVersion = ContextConstructed(0);
 constexpr uint8_t kIssuerUniqueId = Context(1);
@@ -127,7 +125,7 @@ bool CertificateView::ReadRequest(Reader* fields) {
     if (!list.Read(kSequence, &attribute)) return false;
     Reader parts(attribute, fields->leniency(), fields->refusal());
     if (!parts.Read(kOid, &type) || !parts.Read(kSet, &values) || !parts.End()) return false;
-    if (!SameBytes(type, {kExtensionRequest, sizeof kExtensionRequest})) continue;
+    if (!SameBytes(type, kExtensionRequestOid.view())) continue;
     if (extensions_.size() != 0) {
       return list.RefuseAt(ORTHOLAN_REASON_DUPLICATE_EXTENSION, attribute.data);
     }

@@ -1,7 +1,7 @@
 #include "strict/certificates/extensions_view.h"
 
 #include "strict/der/boolean.h"
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "strict/certificates/base64.h"
+
 namespace Ortholan::strict {
 namespace {
 
@@ -9,31 +11,6 @@ constexpr std::string_view kBegin = "-----BEGIN ";
 constexpr std::string_view kEnd = "-----END ";
 constexpr std::string_view kDashes = "-----";
 constexpr std::string_view kBlanks = " \t\r\n\f\v";
-constexpr uint8_t kPadding = 64;
-constexpr uint8_t kBlank = 65;
-constexpr uint8_t kNone = 0xFF;
-
-struct DigitTable {
-  uint8_t values[256];
-};
-
-constexpr DigitTable MakeDigits() {
-  constexpr std::string_view kDigits =
-      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-  DigitTable table = {};
-  for (uint8_t& value : table.values) value = kNone;
-  for (size_t i = 0; i < kDigits.size(); ++i) {
-    table.values[static_cast<uint8_t>(kDigits[i])] = static_cast<uint8_t>(i);
-  }
-  for (const char c : kBlanks) table.values[static_cast<uint8_t>(c)] = kBlank;
-  table.values[static_cast<uint8_t>('=')] = kPadding;
-  return table;
-}
-
-constexpr DigitTable kDigits = MakeDigits();
-
-uint8_t DigitOf(char c) { return kDigits.values[static_cast<uint8_t>(c)]; }
-
 // A line at `start` that is `front`, a label, five dashes and blanks.
 bool ReadBoundary(std::string_view text, size_t start, std::string_view front,
                   std::string_view* label, size_t* end) {
@@ -79,49 +56,15 @@ bool PemReader::Next(PemBlock* block) {
   }
   if (end_label != label) return RefuseAt(ORTHOLAN_REASON_PEM_LABEL, end + kEnd.size());
   const std::string_view base64 = text_.substr(body, end - body);
-  if (!CheckBase64(base64)) return false;
+  size_t fault = 0;
+  if (!CheckBase64(base64, &fault)) return RefuseAt(ORTHOLAN_REASON_BASE64, body + fault);
   *block = {label, base64};
   offset_ = behind;
   return true;
 }
 
-bool PemReader::CheckBase64(std::string_view base64) {
-  const size_t start = static_cast<size_t>(base64.data() - text_.data());
-  size_t digits = 0;
-  size_t padding = 0;
-  uint8_t last = 0;
-  for (size_t i = 0; i < base64.size(); ++i) {
-    const uint8_t digit = DigitOf(base64[i]);
-    if (digit == kBlank) continue;
-    if (digit == kNone || (digit != kPadding && padding != 0)) {
-      return RefuseAt(ORTHOLAN_REASON_BASE64, start + i);
-    }
-    digit == kPadding ? ++padding : ++digits;
-    if (digit != kPadding) last = digit;
-  }
-  // Bits of the last digit that stand for no octet are 0 (RFC 4648 3.5).
-  const uint8_t unused = padding == 2 ? 0x0F : padding == 1 ? 0x03 : 0;
-  const bool is_whole = (digits + padding) % 4 == 0 && padding <= 2 && (last & unused) == 0;
-  return is_whole || RefuseAt(ORTHOLAN_REASON_BASE64, start + base64.size());
-}
-
 bool PemReader::RefuseAt(ortholan_reason reason, size_t at) {
-  return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(text_.data()) + at,
-                text_.size() - at);
-}
-
-void PutBase64Octets(std::string_view base64, Output* out) {
-  uint32_t bits = 0;
-  unsigned count = 0;
-  for (const char c : base64) {
-    const uint8_t digit = DigitOf(c);
-    if (digit >= kPadding) continue;
-    bits = bits << 6 | digit;
-    count += 6;
-    if (count < 8) continue;
-    count -= 8;
-    out->Put(static_cast<uint8_t>(bits >> count));
-  }
+  return RefuseText(refusal_, reason, text_.substr(at));
 }
 
 }  // namespace Ortholan::strict

@@ -11,7 +11,6 @@
 
 #include <string_view>
 
-#include "strict/der/output.h"
 #include "strict/der/refusal.h"
 
 namespace Ortholan::strict {
@@ -34,15 +33,11 @@ class PemReader {
 
  private:
   bool RefuseAt(ortholan_reason reason, size_t at);
-  bool CheckBase64(std::string_view base64);
 
   std::string_view text_;
   Refusal* refusal_;
   size_t offset_;
 };
-
-// Puts what checked base64 stands for (RFC 4648 4).
-void PutBase64Octets(std::string_view base64, Output* out);
 
 }  // namespace Ortholan::strict
 

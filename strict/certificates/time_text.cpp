@@ -1,6 +1,8 @@
 #include "strict/certificates/time_text.h"
 
 #include "bytes/ascii.h"
+#include "bytes/calendar.h"
+#include "bytes/utc_time_year.h"
 #include "strict/der/reader.h"
 
 namespace Ortholan::strict {
@@ -14,12 +16,6 @@ unsigned TwoDigits(ByteView digits, size_t at) {
   return (digits[at] - 0x30u) * 10 + (digits[at + 1] - 0x30u);
 }
 
-unsigned DaysOf(unsigned year, unsigned month) {
-  constexpr uint8_t kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  const bool is_leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-  return month == 2 && is_leap ? 29 : kDays[month - 1];
-}
-
 bool ReadMoment(ByteView digits, bool hasCentury, Moment* moment) {
   const size_t size = hasCentury ? 15 : 13;
   if (digits.size != size || digits[size - 1] != 'Z') return false;
@@ -28,9 +24,8 @@ bool ReadMoment(ByteView digits, bool hasCentury, Moment* moment) {
   }
   const unsigned short_year = TwoDigits(digits, 0);
   const ByteView rest = digits.From(hasCentury ? 4 : 2);
-  // Of two digits, 50 and above belong to the twentieth century (RFC 5280 4.1.2.5.1).
-  const unsigned year = hasCentury ? short_year * 100 + TwoDigits(digits, 2)
-                                   : short_year + (short_year >= 50 ? 1900 : 2000);
+  const unsigned year =
+      hasCentury ? short_year * 100 + TwoDigits(digits, 2) : YearOfTwoDigits(short_year);
   *moment = {year,
              TwoDigits(rest, 0),
              TwoDigits(rest, 2),
@@ -38,8 +33,8 @@ bool ReadMoment(ByteView digits, bool hasCentury, Moment* moment) {
              TwoDigits(rest, 6),
              TwoDigits(rest, 8)};
   return moment->month >= 1 && moment->month <= 12 && moment->day >= 1 &&
-         moment->day <= DaysOf(year, moment->month) && moment->hour < 24 && moment->minute < 60 &&
-         moment->second < 60;
+         moment->day <= DaysInMonth(year, moment->month) && moment->hour < 24 &&
+         moment->minute < 60 && moment->second < 60;
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
+#include "strict/constraints/constrained_name.h"
+
 #include "strict/constraints/subtree.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
-#include "strict/general_names/other_name.h"
+#include "strict/general_names/other_name_view.h"
+#include "strict/general_names/service_name.h"
 #include "strict/general_names/uri.h"
 
 namespace Ortholan::strict {

@@ -3,7 +3,7 @@
 #include "strict/der/reader.h"
 #include "strict/der/refusal.h"
 #include "strict/general_names/escaped_text.h"
-#include "strict/general_names/general_name_text.h"
+#include "strict/general_names/general_name_to_text.h"
 #include "strict/general_names/ip_address.h"
 #include "strict/names/name_to_text.h"
 

@@ -1,4 +1,4 @@
-// Findings, the verdict that follows from them, and the budget that bounds the work.
+// Findings, and the verdict that follows from them.
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_FINDINGS_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_FINDINGS_H_
 
@@ -8,29 +8,6 @@
 #include "strict/der/verdict.h"
 
 namespace Ortholan::strict {
-
-// Comparisons that may still be made.
-class Budget {
- public:
-  explicit Budget(uint64_t comparisons) : left_(comparisons) {}
-
-  // False once they are used up.
-  bool Take(uint64_t comparisons = 1) {
-    if (comparisons > left_) {
-      left_ = 0;
-      is_spent_ = true;
-      return false;
-    }
-    left_ -= comparisons;
-    return true;
-  }
-
-  bool IsSpent() const { return is_spent_; }
-
- private:
-  uint64_t left_;
-  bool is_spent_ = false;
-};
 
 // Findings on their way into the caller's room: a refusal outweighs what cannot be told, so that
 // the order in which they are found does not matter.

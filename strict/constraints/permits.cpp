@@ -1,15 +1,14 @@
 #include "strict/constraints/permits.h"
 
 #include "strict/certificates/certificate_view.h"
+#include "strict/constraints/constrained_name.h"
 #include "strict/constraints/name_constraints_view.h"
 #include "strict/constraints/subtree_set.h"
-#include "strict/der/known_identifiers.h"
+#include "strict/der/known_oids.h"
 #include "strict/matching/match_names.h"
 
 namespace Ortholan::strict {
 namespace {
-
-constexpr uint8_t kNameConstraints[] = {0x55, 0x1D, 0x1E};
 
 // What a certificate names.
 struct NamesOfCertificate {
@@ -88,7 +87,7 @@ void Authority::JudgeSubject(const NamesOfCertificate& names) {
   }
   if (!has_mail) return;
   for (const AttributeView& attribute : subject) {
-    if (!SameBytes(attribute.type, {kEmailAddressOid, sizeof kEmailAddressOid})) continue;
+    if (!SameBytes(attribute.type, kEmailAddressOid.view())) continue;
     JudgeName(ConstrainedName::OfEmail(attribute));
   }
 }
@@ -175,8 +174,8 @@ bool ReadLink(ortholan_octets der, Link* link, Refusal* refusal) {
   }
   link->names.subject = link->certificate.subject();
   ExtensionView found;
-  const bool is_one = link->certificate.extensions().Find(
-      {kAlternativeNamesOid, sizeof kAlternativeNamesOid}, &found, refusal);
+  const bool is_one =
+      link->certificate.extensions().Find(kAlternativeNamesOid.view(), &found, refusal);
   link->names.has_alternatives = !is_one;
   if (!is_one) return false;
   return found.bytes.empty() || ReadAlternatives(found.value, &link->names, refusal);
@@ -211,8 +210,8 @@ class Chain {
   void JudgeBelow(size_t authority) {
     ExtensionView found;
     Refusal refusal;
-    if (!links_[authority].certificate.extensions().Find(
-            {kNameConstraints, sizeof kNameConstraints}, &found, &refusal)) {
+    if (!links_[authority].certificate.extensions().Find(kNameConstraintsOid.view(), &found,
+                                                         &refusal)) {
       return Note(authority, authority, ORTHOLAN_NAME_CONSTRAINTS, refusal.reason);
     }
     if (found.bytes.empty()) return;

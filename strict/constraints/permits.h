@@ -11,6 +11,7 @@
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_PERMITS_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_PERMITS_H_
 
+#include "strict/constraints/budget.h"
 #include "strict/constraints/findings.h"
 
 namespace Ortholan::strict {

@@ -4,6 +4,7 @@
 #include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
+#include "strict/general_names/other_name_view.h"
 
 namespace Ortholan::strict {
 namespace {

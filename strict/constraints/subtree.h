@@ -1,5 +1,8 @@
-// One subtree of name constraints, and one name of a certificate, both taken apart once, and how
-// the two are held against each other (RFC 5280 4.2.1.10).
+// One subtree of name constraints, taken apart once (RFC 5280 4.2.1.10): which names it holds.
+//
+//   Subtree subtree;
+//   if (!Subtree::Read(base, &subtree, &refusal)) ...   // "example.org": that host and all below
+//   it
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_SUBTREE_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_SUBTREE_H_
 
@@ -42,40 +45,6 @@ struct Subtree {
 // CheckHost for hosts of names and subtrees: what is decidable counts, also where it is no
 // preferred name syntax.
 bool CheckDecidableHost(std::string_view host, Refusal* refusal);
-
-// A name of a certificate whose form is constrained.
-struct ConstrainedName {
-  NameForm form = NameForm::kOther;
-  int32_t place = ORTHOLAN_NAME_NONE;            // an ORTHOLAN_NAME_ word
-  ortholan_reason fault = ORTHOLAN_REASON_NONE;  // why it cannot be compared
-  ByteView bytes;                                // for the finding
-  NameView directory;
-  ByteView address;       // of an address
-  std::string_view host;  // behind "*." where it has a wildcard; empty for a mailbox at an address
-  std::string_view local;
-  std::string_view service;
-  bool has_wildcard = false;
-  bool is_beyond_ascii = false;  // SmtpUTF8Mailbox
-  bool ignores_case = false;     // of the local part
-
-  static ConstrainedName OfSubject(const NameView& subject);
-  static ConstrainedName OfEmail(const AttributeView& attribute);
-  static ConstrainedName Of(const GeneralNameView& name, NameForm form);
-};
-
-// What a subtree says of a name.
-enum class Holding : uint8_t {
-  kOutside,
-  kOverlap,  // some hosts that a wildcard stands for are inside
-  kInside,
-  kUnknown,
-};
-
-// Holds a name without fault against a subtree of its form. `*reason` is set for kUnknown.
-Holding Hold(const Subtree& subtree, const ConstrainedName& name, ortholan_reason* reason);
-
-// The same for the hosts alone, of a tree, of what is below a host, or of one host.
-Holding HoldHost(Subtree::Kind kind, std::string_view subtree, const ConstrainedName& name);
 
 }  // namespace Ortholan::strict
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include "strict/constraints/constrained_name.h"
+#include "strict/constraints/subtree.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/ip_address.h"
 

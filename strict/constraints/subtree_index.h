@@ -3,10 +3,13 @@
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_SUBTREE_INDEX_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_SUBTREE_INDEX_H_
 
+#include <string_view>
 #include <vector>
 
-#include "strict/constraints/findings.h"
-#include "strict/constraints/subtree.h"
+#include "bytes/byte_view.h"
+#include "strict/constraints/budget.h"
+#include "strict/constraints/name_form.h"
+#include "strict/constraints/within_subtree.h"
 
 namespace Ortholan::strict {
 

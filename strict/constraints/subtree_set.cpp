@@ -1,5 +1,6 @@
 #include "strict/constraints/subtree_set.h"
 
+#include "strict/constraints/constrained_name.h"
 #include "strict/constraints/name_constraints_view.h"
 #include "strict/constraints/subtree_index.h"
 #include "strict/general_names/host.h"
@@ -70,8 +71,7 @@ HoldingOfList SubtreeSet::FindByWalk(const ConstrainedName& name, Budget* budget
 
 HoldingOfList SubtreeSet::FindHost(const ConstrainedName& name, Budget* budget) const {
   return Walk(subtrees_, name, budget, [&name](const Subtree& subtree, ortholan_reason*) {
-    return MayEndAlike(subtree.host, name.host) ? HoldHost(subtree.kind, subtree.host, name)
-                                                : Holding::kOutside;
+    return MayEndAlike(subtree.host, name.host) ? HoldHost(subtree, name) : Holding::kOutside;
   });
 }
 

@@ -7,8 +7,9 @@
 #include <memory>
 
 #include "bytes/small_buffer.h"
-#include "strict/constraints/findings.h"
+#include "strict/constraints/budget.h"
 #include "strict/constraints/subtree.h"
+#include "strict/constraints/within_subtree.h"
 
 namespace Ortholan::strict {
 

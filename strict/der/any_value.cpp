@@ -1,6 +1,6 @@
 #include "strict/der/any_value.h"
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
 
 namespace Ortholan::strict {

@@ -2,6 +2,7 @@
 
 #include "bytes/der_identifier.h"
 #include "bytes/der_length.h"
+#include "bytes/nesting_limit.h"
 #include "strict/der/any_value.h"
 #include "strict/der/reader.h"
 
@@ -77,7 +78,8 @@ class Converter {
 
   // What a constructed element holds, up to the end or to what ends an indefinite length.
   bool ReadInside(Reader* in, bool indefinite, ByteView identifier, std::string* content) {
-    if (depth_ == kMaxDepth) return in->RefuseAt(ORTHOLAN_REASON_DEPTH, identifier.data, kMaxDepth);
+    if (depth_ == kMaxNesting)
+      return in->RefuseAt(ORTHOLAN_REASON_DEPTH, identifier.data, kMaxNesting);
     ++depth_;
     const uint8_t part = Primitive(identifier) == kBitString ? kBitString : kOctetString;
     const bool joins = ComesInParts(identifier[0]);

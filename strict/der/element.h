@@ -41,8 +41,6 @@ enum Identifier : uint8_t {
 constexpr uint8_t kConstructedBit = 0x20;
 constexpr uint8_t kLongTag = 0x1F;
 
-constexpr size_t kMaxDepth = 32;  // levels of elements inside a value
-
 // Context-specific identifiers, [n] primitive and constructed; n is at most 30.
 constexpr uint8_t Context(uint8_t number) { return static_cast<uint8_t>(0x80 | number); }
 constexpr uint8_t ContextConstructed(uint8_t number) { return static_cast<uint8_t>(0xA0 | number); }

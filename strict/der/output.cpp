@@ -1,5 +1,7 @@
 #include "strict/der/output.h"
 
+#include "bytes/hex.h"
+
 namespace Ortholan::strict {
 
 void PutDecimal(uint64_t number, Output* out, size_t least) {
@@ -13,10 +15,10 @@ void PutDecimal(uint64_t number, Output* out, size_t least) {
 }
 
 void PutHex(ByteView octets, Output* out) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
   for (const uint8_t octet : octets) {
-    out->Put(kDigits[octet >> 4]);
-    out->Put(kDigits[octet & 0xF]);
+    char digits[2];
+    WriteHexOctet(octet, digits);
+    out->Put(std::string_view(digits, sizeof digits));
   }
 }
 

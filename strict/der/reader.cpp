@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "bytes/nesting_limit.h"
+
 namespace Ortholan::strict {
 
 // A tag number of 31 and more, in groups of seven bits (X.690 8.1.2.4).
@@ -93,7 +95,7 @@ bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* con
 // What is open at each level stands in an array: nesting costs no stack.
 bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal, ElementCheck check) {
   if (!element.constructed()) return true;
-  ByteView open[kMaxDepth];
+  ByteView open[kMaxNesting];
   size_t depth = 0;
   open[depth++] = element.content;
   while (depth != 0) {
@@ -107,8 +109,9 @@ bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal, El
     if (check != nullptr && !check(child, leniency, refusal)) return false;
     open[depth - 1] = reader.rest();
     if (!child.constructed()) continue;
-    if (depth == kMaxDepth) {
-      return Refuse(refusal, ORTHOLAN_REASON_DEPTH, child.bytes.data, child.bytes.size, kMaxDepth);
+    if (depth == kMaxNesting) {
+      return Refuse(refusal, ORTHOLAN_REASON_DEPTH, child.bytes.data, child.bytes.size,
+                    kMaxNesting);
     }
     open[depth++] = child.content;
   }

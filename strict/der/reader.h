@@ -102,7 +102,7 @@ bool ReadWhole(ByteView in, uint8_t identifier, Leniency leniency, ByteView* con
 
 using ElementCheck = bool (*)(const Element& element, Leniency leniency, Refusal* refusal);
 
-// Checks the headers of everything inside a value of any type, at most kMaxDepth levels deep, and
+// Checks the headers of everything inside a value of any type, at most kMaxNesting levels deep, and
 // each element by `check` where there is one.
 bool CheckNested(const Element& element, Leniency leniency, Refusal* refusal,
                  ElementCheck check = nullptr);

@@ -187,6 +187,12 @@ bool Refuse(Refusal* refusal, ortholan_reason reason, const uint8_t* at, size_t 
   return false;
 }
 
+bool RefuseText(Refusal* refusal, ortholan_reason reason, std::string_view rest,
+                uint32_t expected) {
+  return Refuse(refusal, reason, reinterpret_cast<const uint8_t*>(rest.data()), rest.size(),
+                expected);
+}
+
 std::string_view SentenceOf(ortholan_reason reason) {
   const Row* const row = Find(reason);
   return row != nullptr ? row->sentence : "a reason that this version does not know";

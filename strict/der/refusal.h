@@ -30,6 +30,10 @@ struct Refusal {
 bool Refuse(Refusal* refusal, ortholan_reason reason, const uint8_t* at, size_t rest,
             uint32_t expected = 0);
 
+// The same of text, which goes on to its end with `rest`.
+bool RefuseText(Refusal* refusal, ortholan_reason reason, std::string_view rest,
+                uint32_t expected = 0);
+
 // The sentence of a reason; "" for none.
 std::string_view SentenceOf(ortholan_reason reason);
 // The name of a reason without ORTHOLAN_REASON_; "" for a number of no list. Ends in NUL.

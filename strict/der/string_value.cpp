@@ -166,36 +166,8 @@ bool ScalarReader::NextUnit(uint32_t* scalar) {
 }
 
 void PutUtf8(uint32_t scalar, Output* out) {
-  if (scalar < 0x80) return out->Put(static_cast<uint8_t>(scalar));
-  const size_t count = Utf8Octets(scalar);
-  size_t shift = 6 * (count - 1);
-  out->Put(static_cast<uint8_t>((0xF00u >> count & 0xF0) | scalar >> shift));
-  while (shift != 0) {
-    shift -= 6;
-    out->Put(static_cast<uint8_t>(0x80 | (scalar >> shift & 0x3F)));
-  }
-}
-
-size_t ReadUtf8Scalar(ByteView in, uint32_t* scalar) {
-  if (in.empty()) return 0;
-  const uint32_t lead = in[0];
-  *scalar = lead;
-  if (lead < 0x80) return 1;
-  if (lead < 0xC2 || lead > 0xF4) return 0;
-  const size_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  if (in.size < size) return 0;
-  uint32_t value = lead & (0x7Fu >> size);
-  // The second octet's range keeps out overlong forms, surrogates and what lies beyond U+10FFFF.
-  uint8_t low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  uint8_t high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  for (size_t i = 1; i < size; ++i) {
-    if (in[i] < low || in[i] > high) return 0;
-    value = value << 6 | (in[i] & 0x3Fu);
-    low = 0x80;
-    high = 0xBF;
-  }
-  *scalar = value;
-  return size;
+  uint8_t octets[4];
+  out->Put({octets, static_cast<size_t>(WriteUtf8Scalar(octets, scalar) - octets)});
 }
 
 bool PutStringText(uint8_t identifier, ByteView content, Output* out) {

@@ -9,6 +9,7 @@
 
 #include "bytes/ascii.h"
 #include "bytes/byte_view.h"
+#include "bytes/utf8_scalar.h"
 #include "strict/der/element.h"
 #include "strict/der/output.h"
 
@@ -85,15 +86,6 @@ class ScalarReader {
 
 // Puts a scalar as UTF-8.
 void PutUtf8(uint32_t scalar, Output* out);
-// Octets of a scalar's UTF-8.
-constexpr size_t Utf8Octets(uint32_t scalar) {
-  return scalar < 0x80 ? 1 : scalar < 0x800 ? 2 : scalar < 0x10000 ? 3 : 4;
-}
-
-// Reads the scalar at the front of UTF-8 (Unicode 3.9, table 3-7) and tells how many octets it
-// takes; 0 for octets that are none.
-size_t ReadUtf8Scalar(ByteView in, uint32_t* scalar);
-
 // Puts checked UTF-8 as the content of a string of the type; refuses the first character that the
 // type does not have, with nothing promised of what was put.
 StringFault PutString(uint8_t identifier, ByteView text, Output* out);

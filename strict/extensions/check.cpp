@@ -1,13 +1,11 @@
 #include "strict/extensions/check.h"
 
+#include "strict/der/known_oids.h"
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
 
 namespace Ortholan::strict {
 namespace {
-
-constexpr OidOctets kKeyUsageOid("2.5.29.15");
-constexpr OidOctets kBasicConstraintsOid("2.5.29.19");
 
 // [0] EXPLICIT INTEGER of a certificate, a bare one of a CRL; what is not there is version 1.
 uint32_t VersionOf(ByteView der, CertificateKind kind) {

@@ -103,7 +103,7 @@ struct Identified {
   ByteView oid;
   ByteView rest;
 
-  bool Is(const OidOctets& known) const { return SameBytes(oid, known.view()); }
+  bool Is(const OidConstant& known) const { return SameBytes(oid, known.view()); }
 };
 inline Identified IdentifiedOf(const Element& structure) {
   Identified parts;

@@ -1,4 +1,5 @@
 // Rules about a document as a whole, and about extensions that are missing.
+#include "strict/der/known_oids.h"
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
 #include "strict/general_names/general_name_view.h"
@@ -6,9 +7,6 @@
 
 namespace Ortholan::strict::looks {
 namespace {
-
-constexpr OidOctets kAlternativeNames("2.5.29.17");
-constexpr OidOctets kEmailAddress("1.2.840.113549.1.9.1");
 
 constexpr size_t kMaxSerialOctets = 20;
 
@@ -18,7 +16,7 @@ ByteView EmailOf(ByteView subject) {
   NameView name;
   if (!NameView::Read(subject, Leniency::kLenient, &name, nullptr)) return {};
   for (const AttributeView& attribute : name) {
-    if (SameBytes(attribute.type, kEmailAddress.view())) return attribute.bytes;
+    if (SameBytes(attribute.type, kEmailAddressOid.view())) return attribute.bytes;
   }
   return {};
 }
@@ -82,12 +80,12 @@ void EmptySubjectOfListIssuer(const CheckCase& at) {
 
 void EmptySubjectWithoutNames(const CheckCase& at) {
   const ByteView subject = at.document.view.subject();
-  if (IsEmpty(subject) && !at.document.Has(kAlternativeNames.view())) at.Fault(subject);
+  if (IsEmpty(subject) && !at.document.Has(kAlternativeNamesOid.view())) at.Fault(subject);
 }
 
 void EmailOutsideNames(const CheckCase& at) {
   const ByteView email = EmailOf(at.document.view.subject());
-  if (email.empty() || HasMailbox(at.document.Find(kAlternativeNames.view()).value)) return;
+  if (email.empty() || HasMailbox(at.document.Find(kAlternativeNamesOid.view()).value)) return;
   at.Fault(email);
 }
 

@@ -47,7 +47,8 @@ void MissingAuthorityKeyId(const CheckCase& at);
 void MissingInAuthority(const CheckCase& at);
 void Missing(const CheckCase& at);
 
-// check_extensions.cpp, check_profile.cpp, check_policies.cpp, check_points.cpp: of any extension.
+// check_extensions.cpp, check_critical.cpp, check_policies.cpp, check_distribution_points.cpp: of
+// any extension.
 void Twice(const CheckCase& at);
 void ValueEncoding(const CheckCase& at);
 void EmptyLists(const CheckCase& at);

@@ -14,7 +14,7 @@ namespace {
 
 // What RFC 5280 Appendix A.1 prescribes for a type of attribute; others are free.
 struct Prescribed {
-  OidOctets oid;
+  OidConstant oid;
   ValueSyntax syntax;
   uint32_t least;  // characters
   uint32_t most;

@@ -2,16 +2,13 @@
 #include <algorithm>
 #include <vector>
 
+#include "strict/der/known_oids.h"
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
 
 namespace Ortholan::strict::looks {
 
 namespace {
-
-constexpr OidOctets kAnyPolicy("2.5.29.32.0");
-constexpr OidOctets kCps("1.3.6.1.5.5.7.2.1");
-constexpr OidOctets kUserNotice("1.3.6.1.5.5.7.2.2");
 
 // Calls `visit` for each qualifier of a policy: SEQUENCE { identifier, value }.
 template <class Visit>
@@ -43,10 +40,10 @@ void PolicyTwice(const CheckCase& at) {
 void AnyPolicyQualifiers(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& element) {
     const Identified policy = IdentifiedOf(element);
-    if (!policy.Is(kAnyPolicy)) return;
+    if (!policy.Is(kAnyPolicyOid)) return;
     ForEachQualifier(policy, [&at](const Element& qualifier) {
       const Identified parts = IdentifiedOf(qualifier);
-      if (!parts.Is(kCps) && !parts.Is(kUserNotice)) at.Fault(qualifier.bytes);
+      if (!parts.Is(kCpsOid) && !parts.Is(kUserNoticeOid)) at.Fault(qualifier.bytes);
     });
   });
 }
@@ -56,7 +53,7 @@ void NoticeSize(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& policy) {
     ForEachQualifier(IdentifiedOf(policy), [&at](const Element& qualifier) {
       const Identified parts = IdentifiedOf(qualifier);
-      if (!parts.Is(kUserNotice)) return;
+      if (!parts.Is(kUserNoticeOid)) return;
       ForEachText(parts, [&at](const Element& text) {
         const size_t count = CountCharacters(text);
         if (count == 0 || count > kMaxCharacters) at.Fault(text.bytes);
@@ -69,7 +66,7 @@ void AnyPolicyMapped(const CheckCase& at) {
   ForEachElement(ListOf(at), [&at](const Element& mapping) {
     bool is_any = false;
     ForEachElement(mapping.content, [&](const Element& policy) {
-      is_any |= SameBytes(policy.content, kAnyPolicy.view());
+      is_any |= SameBytes(policy.content, kAnyPolicyOid.view());
     });
     if (is_any) at.Fault(mapping.bytes);
   });

@@ -29,7 +29,7 @@ struct CheckRule {
   const char* sentence;
   uint8_t kinds;
   Scope scope;
-  OidOctets oid;  // of kExtension, and of an extension that is missing
+  OidConstant oid;  // of kExtension, and of an extension that is missing
   // Adds a fault for each place where the rule is broken.
   void (*look)(const CheckCase& at);
 };

@@ -2,10 +2,10 @@
 
 #include "strict/certificates/certificate_view.h"
 #include "strict/der/reader.h"
-#include "strict/extensions/identifier_names.h"
 #include "strict/extensions/json_output.h"
 #include "strict/extensions/known_extensions.h"
 #include "strict/extensions/leaf_text.h"
+#include "strict/extensions/oid_names.h"
 #include "strict/extensions/value_json.h"
 
 namespace Ortholan::strict {

@@ -4,12 +4,12 @@
 
 #include <algorithm>
 
-#include "strict/general_names/hex_text.h"
+#include "bytes/hex.h"
 
 namespace Ortholan::strict {
 
 bool RefuseJson(ortholan_reason reason, std::string_view rest, Refusal* refusal) {
-  return Refuse(refusal, reason, reinterpret_cast<const uint8_t*>(rest.data()), rest.size());
+  return RefuseText(refusal, reason, rest);
 }
 
 bool TakeMembers(const JsonValue& json, const char* const* names, size_t count,

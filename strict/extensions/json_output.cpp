@@ -3,12 +3,10 @@
 #include "bytes/utf16.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/leaf_text.h"
-#include "strict/names/shown.h"
+#include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {
 namespace {
-
-constexpr uint32_t kReplacement = 0xFFFD;  // for an octet that is no text
 
 void PutUnit(uint32_t unit, Output* out) {
   const uint8_t octets[] = {static_cast<uint8_t>(unit >> 8), static_cast<uint8_t>(unit)};

@@ -3,14 +3,14 @@
 #include <ortholan/strict/extensions.h>
 
 #include "bytes/ascii.h"
+#include "bytes/hex.h"
+#include "bytes/nesting_limit.h"
 #include "bytes/utf16.h"
 #include "strict/der/string_value.h"
-#include "strict/general_names/hex_text.h"
 
 namespace Ortholan::strict {
 namespace {
 
-constexpr int kMostDepth = 32;
 constexpr size_t kMostDigits = 16;  // of 2^53
 
 struct Literal {
@@ -29,9 +29,7 @@ constexpr Escape kEscapes[] = {{'"', '"'},  {'\\', '\\'}, {'/', '/'},  {'b', '\b
 
 void AppendUtf8(uint32_t scalar, std::string* text) {
   uint8_t octets[4];
-  Output out(octets, sizeof octets);
-  PutUtf8(scalar, &out);
-  text->append(reinterpret_cast<const char*>(octets), out.size());
+  text->append(AsText({octets, static_cast<size_t>(WriteUtf8Scalar(octets, scalar) - octets)}));
 }
 
 class Parser {
@@ -39,7 +37,7 @@ class Parser {
   Parser(std::string_view text, Refusal* refusal) : rest_(text), refusal_(refusal) {}
 
   bool ReadWhole(JsonValue* value) {
-    if (!ReadValue(value, kMostDepth)) return false;
+    if (!ReadValue(value, kMaxNesting)) return false;
     SkipBlanks();
     return rest_.empty() || Fail();
   }
@@ -47,7 +45,7 @@ class Parser {
  private:
   bool Fail(ortholan_reason reason = ORTHOLAN_REASON_JSON) { return FailAt(rest_, reason); }
   bool FailAt(std::string_view place, ortholan_reason reason = ORTHOLAN_REASON_JSON) {
-    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(place.data()), place.size());
+    return RefuseText(refusal_, reason, place);
   }
 
   void SkipBlanks() {
@@ -61,7 +59,7 @@ class Parser {
     return true;
   }
 
-  bool ReadValue(JsonValue* value, int depth) {
+  bool ReadValue(JsonValue* value, size_t depth) {
     SkipBlanks();
     value->rest = rest_;
     if (depth == 0 && (Sees('{') || Sees('['))) return Fail(ORTHOLAN_REASON_JSON_DEPTH);
@@ -81,7 +79,7 @@ class Parser {
   }
 
   // What stands between brackets, the first of which was taken.
-  bool ReadMembers(JsonValue* value, char end, int depth) {
+  bool ReadMembers(JsonValue* value, char end, size_t depth) {
     value->form = end == '}' ? JsonForm::kObject : JsonForm::kArray;
     SkipBlanks();
     if (Take(end)) return true;

@@ -6,9 +6,9 @@
 #include "strict/der/string_value.h"
 #include "strict/extensions/leaf_text.h"
 #include "strict/general_names/escaped_text.h"
-#include "strict/general_names/general_name_parser.h"
-#include "strict/general_names/general_name_text.h"
-#include "strict/general_names/name_kinds.h"
+#include "strict/general_names/general_name_to_text.h"
+#include "strict/general_names/name_prefixes.h"
+#include "strict/general_names/text_to_general_name.h"
 #include "strict/names/name_to_text.h"
 #include "strict/names/text_to_name.h"
 
@@ -88,8 +88,7 @@ bool RdnOfText(std::string_view text, std::string* content, Refusal* refusal) {
   Element rdn;
   const bool is_one = NextRdn(&rdns, &rdn) && rdns.empty();
   if (!is_one) {
-    return Refuse(refusal, ORTHOLAN_REASON_JSON_TEXT, reinterpret_cast<const uint8_t*>(text.data()),
-                  text.size());
+    return RefuseText(refusal, ORTHOLAN_REASON_JSON_TEXT, text);
   }
   content->assign(AsText(rdn.content));
   return true;

@@ -11,8 +11,8 @@
 #ifndef ORTHOLAN_STRICT_EXTENSIONS_SHAPE_H_
 #define ORTHOLAN_STRICT_EXTENSIONS_SHAPE_H_
 
+#include "bytes/oid_constant.h"
 #include "strict/der/element.h"
-#include "strict/extensions/oid_constant.h"
 
 namespace Ortholan::strict {
 

@@ -5,7 +5,7 @@
 #include "strict/certificates/time_text.h"
 #include "strict/der/any_value.h"
 #include "strict/der/boolean.h"
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 #include "strict/extensions/tls_reader.h"

@@ -4,10 +4,10 @@
 
 #include "strict/certificates/time_text.h"
 #include "strict/der/string_value.h"
-#include "strict/extensions/identifier_names.h"
 #include "strict/extensions/leaf_text.h"
 #include "strict/extensions/moment.h"
 #include "strict/extensions/name_text.h"
+#include "strict/extensions/oid_names.h"
 #include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_reader.h"
 #include "strict/general_names/escaped_text.h"

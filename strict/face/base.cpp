@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/refusal.h"
 #include "strict/face/call.h"
 

@@ -3,11 +3,12 @@
 
 #include <algorithm>
 
+#include "strict/certificates/base64.h"
 #include "strict/certificates/certificate_view.h"
 #include "strict/certificates/extensions_writer.h"
 #include "strict/certificates/pem.h"
 #include "strict/certificates/time_text.h"
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/face/call.h"
 
 using namespace Ortholan;

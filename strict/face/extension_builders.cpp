@@ -4,13 +4,13 @@
 
 #include <new>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/extensions/common_shapes.h"
-#include "strict/extensions/identifier_names.h"
 #include "strict/extensions/json_maker.h"
-#include "strict/extensions/json_writer.h"
+#include "strict/extensions/oid_names.h"
 #include "strict/extensions/rfc5280_shapes.h"
 #include "strict/extensions/tls_shapes.h"
+#include "strict/extensions/value_of_json.h"
 #include "strict/face/call.h"
 
 using namespace Ortholan;

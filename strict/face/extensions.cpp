@@ -3,12 +3,12 @@
 
 #include <new>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/extensions/extensions_json.h"
-#include "strict/extensions/json_extensions.h"
-#include "strict/extensions/json_writer.h"
+#include "strict/extensions/extensions_of_json.h"
 #include "strict/extensions/known_extensions.h"
 #include "strict/extensions/value_json.h"
+#include "strict/extensions/value_of_json.h"
 #include "strict/extensions/value_text.h"
 #include "strict/face/call.h"
 

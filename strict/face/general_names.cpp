@@ -5,16 +5,16 @@
 #include <new>
 
 #include "strict/certificates/extensions_writer.h"
-#include "strict/der/known_identifiers.h"
+#include "strict/der/known_oids.h"
 #include "strict/face/call.h"
 #include "strict/general_names/edi_party.h"
-#include "strict/general_names/general_name_parser.h"
-#include "strict/general_names/general_name_text.h"
+#include "strict/general_names/general_name_to_text.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/ip_address.h"
 #include "strict/general_names/mailbox.h"
 #include "strict/general_names/other_name.h"
+#include "strict/general_names/text_to_general_name.h"
 #include "strict/general_names/uri.h"
 
 using namespace Ortholan;
@@ -270,8 +270,8 @@ ortholan_reason ortholan_alternative_names_from_text(const ortholan_text* texts,
     return Report(ORTHOLAN_REASON_MEMORY, refusal);
   }
   if (form != ORTHOLAN_ALTERNATIVE_NAMES_VALUE) {
-    PutExtensionAround({kAlternativeNamesOid, sizeof kAlternativeNamesOid},
-                       form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL, der.size(), &der);
+    PutExtensionAround(kAlternativeNamesOid.view(), form == ORTHOLAN_ALTERNATIVE_NAMES_CRITICAL,
+                       der.size(), &der);
   }
   return Finish(&der, size, refusal);
 }

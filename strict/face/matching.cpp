@@ -3,7 +3,7 @@
 
 #include <new>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/string_value.h"
 #include "strict/face/call.h"
 #include "strict/matching/match_key.h"

@@ -7,7 +7,7 @@
 #include <new>
 #include <vector>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/face/call.h"
 #include "strict/face/name_options.h"
 #include "strict/names/type_finder.h"

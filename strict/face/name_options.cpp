@@ -1,6 +1,6 @@
 #include "strict/face/name_options.h"
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/face/call.h"
 
 namespace Ortholan::strict {

@@ -2,9 +2,9 @@
 
 #include <ortholan/strict/general_names.h>
 
+#include "bytes/hex.h"
 #include "strict/der/string_value.h"
-#include "strict/general_names/hex_text.h"
-#include "strict/names/shown.h"
+#include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -23,10 +23,8 @@ size_t UnitAt(std::string_view text, char* octet) {
   if (text[0] != '\\') return 1;
   if (text.size() > 1 && text[1] == '\\') return 2;
   if (text.size() < 3) return 0;
-  const int high = HexDigitValue(text[1]);
-  const int low = HexDigitValue(text[2]);
-  if (high < 0 || low < 0) return 0;
-  *octet = static_cast<char>(high << 4 | low);
+  if (!IsHexDigit(text[1]) || !IsHexDigit(text[2])) return 0;
+  *octet = static_cast<char>(HexOctet(&text[1]));
   return 3;
 }
 
@@ -62,10 +60,7 @@ bool UnescapedText::Read(std::string_view escaped, Refusal* refusal) {
   for (std::string_view rest = escaped; !rest.empty();) {
     char octet;
     const size_t size = UnitAt(rest, &octet);
-    if (size == 0) {
-      return Refuse(refusal, ORTHOLAN_REASON_NAME_ESCAPE,
-                    reinterpret_cast<const uint8_t*>(rest.data()), rest.size());
-    }
+    if (size == 0) return RefuseText(refusal, ORTHOLAN_REASON_NAME_ESCAPE, rest);
     storage_ += octet;
     rest.remove_prefix(size);
   }

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
+#include "strict/general_names/other_name_view.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {
@@ -11,17 +12,6 @@ namespace {
 
 constexpr uint8_t kFirstControl = 0x20;  // below it, and DEL, are the controls of ASCII
 constexpr uint8_t kDelete = 0x7F;
-
-bool CheckOtherName(ByteView content, Leniency leniency, Refusal* refusal) {
-  Reader fields(content, leniency, refusal);
-  ByteView type, tagged;
-  if (!fields.Read(kOid, &type)) return false;
-  if (!IsIdentifier(type)) return fields.RefuseAt(ORTHOLAN_REASON_OID, type.data);
-  if (!fields.Read(ContextConstructed(0), &tagged) || !fields.End()) return false;
-  Reader value(tagged, leniency, refusal);
-  Element element;
-  return value.Read(&element) && value.End() && CheckNested(element, leniency, refusal);
-}
 
 constexpr bool IsControlOrBeyond(uint8_t octet) {
   return static_cast<uint8_t>(octet - kFirstControl) >= kDelete - kFirstControl;
@@ -77,18 +67,13 @@ bool GeneralNameView::Check(Leniency leniency, bool hasMask, Refusal* refusal) c
       NameView name;
       return NameView::Read(content, leniency, &name, refusal);
     }
-    case GeneralNameKind::kOther:
-      return CheckOtherName(content, leniency, refusal);
+    case GeneralNameKind::kOther: {
+      OtherNameView other;
+      return OtherNameView::Read(content, leniency, &other, refusal);
+    }
     default:
       return CheckNested({kSequence, content, bytes}, leniency, refusal);
   }
-}
-
-OtherNameView::OtherNameView(ByteView content) {
-  Reader fields(content, Leniency::kLenient, nullptr);
-  ByteView tagged;
-  if (!fields.Read(kOid, &type) || !fields.Read(ContextConstructed(0), &tagged)) return;
-  Reader(tagged, Leniency::kLenient, nullptr).Read(&value);
 }
 
 bool GeneralNamesView::Read(ByteView der, Leniency leniency, GeneralNamesView* names,

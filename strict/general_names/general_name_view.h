@@ -82,14 +82,6 @@ inline bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
   return FromElement(element, name) || Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
 }
 
-// The parts of an other name, in `content` of a name that was read.
-struct OtherNameView {
-  ByteView type;  // content octets of the identifier
-  Element value;  // inside the explicit tag
-
-  explicit OtherNameView(ByteView content);
-};
-
 class GeneralNamesView {
  public:
   class Iterator {

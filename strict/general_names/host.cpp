@@ -77,8 +77,7 @@ class HostChecker {
     return true;
   }
   bool RefuseAt(ortholan_reason reason, size_t at) {
-    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(host_.data()) + at,
-                  host_.size() - at);
+    return RefuseText(refusal_, reason, host_.substr(at));
   }
 
   std::string_view host_;
@@ -130,8 +129,7 @@ bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refus
   if (!TakeWildcard(pattern, &base)) return CheckHost(pattern, choices, refusal);
   if (!CheckHost(base, choices, refusal)) return false;
   if (!BehindFirstLabel(WithoutTrailingDot(base)).empty()) return true;
-  return Refuse(refusal, ORTHOLAN_REASON_HOST_WILDCARD,
-                reinterpret_cast<const uint8_t*>(pattern.data()), pattern.size());
+  return RefuseText(refusal, ORTHOLAN_REASON_HOST_WILDCARD, pattern);
 }
 
 ortholan_reason FaultOfHostPattern(std::string_view pattern, uint32_t choices) {

@@ -9,10 +9,9 @@
 #include <ortholan/strict/general_names.h>
 
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
-#include "bytes/ascii.h"
+#include "bytes/ignore_case.h"
 #include "strict/der/refusal.h"
 
 namespace Ortholan::strict {
@@ -43,49 +42,6 @@ inline bool CheckHost(std::string_view host, uint32_t choices, Refusal* refusal)
 bool CheckHostPattern(std::string_view pattern, uint32_t choices, Refusal* refusal);
 // Why it is none; NONE for one that is.
 ortholan_reason FaultOfHostPattern(std::string_view pattern, uint32_t choices);
-
-// Of eight characters in one word what is not the case of a letter.
-constexpr uint64_t kButCase = ~UINT64_C(0x2020202020202020);
-
-// Eight characters in one word.
-inline uint64_t LoadCharacters(const char* at) {
-  uint64_t word;
-  std::memcpy(&word, at, sizeof word);
-  return word;
-}
-
-inline bool SameLetterByLetter(std::string_view a, std::string_view b) {
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (a[i] != b[i] && ToAsciiLower(a[i]) != ToAsciiLower(b[i])) return false;
-  }
-  return true;
-}
-
-// Compares without the case of ASCII letters; also schemes and keywords.
-inline bool SameWithoutCase(std::string_view a, std::string_view b) {
-  constexpr size_t kWord = sizeof(uint64_t);
-  if (a.size() != b.size()) return false;
-  if (a.size() < kWord) return SameLetterByLetter(a, b);
-  // Most that differ do so in their first or last eight characters, bit 0x20 aside.
-  size_t at = a.size() - kWord;
-  uint64_t difference = (LoadCharacters(a.data()) ^ LoadCharacters(b.data())) |
-                        (LoadCharacters(a.data() + at) ^ LoadCharacters(b.data() + at));
-  if ((difference & kButCase) != 0) return false;
-  while (at > kWord) {
-    at -= kWord;
-    difference |= LoadCharacters(a.data() + at) ^ LoadCharacters(b.data() + at);
-  }
-  return difference == 0 || SameLetterByLetter(a, b);
-}
-
-// Whether the last characters of two hosts are such that one may end in the other.
-inline bool MayEndAlike(std::string_view a, std::string_view b) {
-  constexpr size_t kWord = sizeof(uint64_t);
-  if (a.size() < kWord || b.size() < kWord) return true;
-  const uint64_t difference =
-      LoadCharacters(a.data() + a.size() - kWord) ^ LoadCharacters(b.data() + b.size() - kWord);
-  return (difference & kButCase) == 0;
-}
 
 // The host without one dot at its end.
 constexpr std::string_view WithoutTrailingDot(std::string_view host) {

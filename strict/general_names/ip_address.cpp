@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "strict/general_names/hex_text.h"
+#include "bytes/hex.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -1,5 +1,7 @@
 #include "strict/general_names/mailbox.h"
 
+#include <ortholan/strict/identity.h>
+
 #include "strict/der/string_value.h"
 #include "strict/general_names/host.h"
 
@@ -92,8 +94,7 @@ bool ReadLiteral(std::string_view text, IpAddress* address) {
 
 bool Mailbox::Read(std::string_view text, Alphabet alphabet, Mailbox* mailbox, Refusal* refusal) {
   const auto refuse = [text, refusal](ortholan_reason reason, size_t at) {
-    return Refuse(refusal, reason, reinterpret_cast<const uint8_t*>(text.data()) + at,
-                  text.size() - at);
+    return RefuseText(refusal, reason, text.substr(at));
   };
   LocalReader local(text, alphabet);
   const size_t size = local.Size();
@@ -113,6 +114,12 @@ bool Mailbox::Read(std::string_view text, Alphabet alphabet, Mailbox* mailbox, R
   }
   *mailbox = read;
   return true;
+}
+
+bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal) {
+  Mailbox mailbox;
+  if (!Mailbox::Read(text, Mailbox::kUtf8, &mailbox, refusal)) return false;
+  return !mailbox.is_ascii || RefuseText(refusal, ORTHOLAN_REASON_ASCII_LOCAL_PART, text);
 }
 
 }  // namespace Ortholan::strict

@@ -26,6 +26,9 @@ struct Mailbox {
   static bool Read(std::string_view text, Alphabet alphabet, Mailbox* mailbox, Refusal* refusal);
 };
 
+// Whether a text is a mailbox whose local part has characters beyond ASCII (RFC 9598 3).
+bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal);
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_GENERAL_NAMES_MAILBOX_H_

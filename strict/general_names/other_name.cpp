@@ -1,18 +1,16 @@
 #include "strict/general_names/other_name.h"
 
-#include <ortholan/strict/identity.h>
-
-#include "strict/der/identifier.h"
+#include "bytes/oid_constant.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/general_names/guid.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
 #include "strict/general_names/name_characters.h"
+#include "strict/general_names/service_name.h"
 
 namespace Ortholan::strict {
 namespace {
-
-constexpr size_t kMaxServiceOctets = 16;  // 15 behind the underscore (RFC 6335 5.1)
 
 bool RefuseIn(Reader* reader, ByteView whole, size_t at, ortholan_reason reason) {
   return Refuse(reader->refusal(), reason, whole.data + at, whole.size - at);
@@ -120,29 +118,26 @@ bool ReadUtf8Mailbox(Reader* value, OtherName* name) {
 
 struct Row {
   OtherNameKind kind;
-  size_t type_size;
-  uint8_t type[10];
+  OidConstant type;
   bool (*read)(Reader* value, OtherName* name);
 };
 
 constexpr Row kRows[] = {
-    // 1.3.6.1.4.1.311.20.2.3
-    {OtherNameKind::kUpn, 10, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 20, 2, 3}, ReadString<kUtf8String>},
-    // id-on, 1.3.6.1.5.5.7.8
-    {OtherNameKind::kService, 8, {0x2B, 6, 1, 5, 5, 7, 8, 7}, ReadService},
-    {OtherNameKind::kUtf8Mailbox, 8, {0x2B, 6, 1, 5, 5, 7, 8, 9}, ReadUtf8Mailbox},
-    {OtherNameKind::kXmpp, 8, {0x2B, 6, 1, 5, 5, 7, 8, 5}, ReadString<kUtf8String>},
-    {OtherNameKind::kPermanentId, 8, {0x2B, 6, 1, 5, 5, 7, 8, 3}, ReadPermanentId},
-    {OtherNameKind::kHardwareModule, 8, {0x2B, 6, 1, 5, 5, 7, 8, 4}, ReadHardwareModule},
-    // id-pkinit-san, 1.3.6.1.5.2.2
-    {OtherNameKind::kKerberos, 6, {0x2B, 6, 1, 5, 2, 2}, ReadKerberos},
-    // 1.3.6.1.4.1.311.25.1
-    {OtherNameKind::kGuid, 9, {0x2B, 6, 1, 4, 1, 0x82, 0x37, 25, 1}, ReadGuid},
+    {OtherNameKind::kUpn, "1.3.6.1.4.1.311.20.2.3", ReadString<kUtf8String>},
+    // id-on
+    {OtherNameKind::kService, "1.3.6.1.5.5.7.8.7", ReadService},
+    {OtherNameKind::kUtf8Mailbox, "1.3.6.1.5.5.7.8.9", ReadUtf8Mailbox},
+    {OtherNameKind::kXmpp, "1.3.6.1.5.5.7.8.5", ReadString<kUtf8String>},
+    {OtherNameKind::kPermanentId, "1.3.6.1.5.5.7.8.3", ReadPermanentId},
+    {OtherNameKind::kHardwareModule, "1.3.6.1.5.5.7.8.4", ReadHardwareModule},
+    // id-pkinit-san
+    {OtherNameKind::kKerberos, "1.3.6.1.5.2.2", ReadKerberos},
+    {OtherNameKind::kGuid, "1.3.6.1.4.1.311.25.1", ReadGuid},
 };
 
 const Row* FindRow(ByteView type) {
   for (const Row& row : kRows) {
-    if (SameBytes(type, {row.type, row.type_size})) return &row;
+    if (SameBytes(type, row.type.view())) return &row;
   }
   return nullptr;
 }
@@ -156,54 +151,21 @@ OtherNameKind KindOfOtherName(ByteView type) {
 
 ByteView TypeOfOtherName(OtherNameKind kind) {
   for (const Row& row : kRows) {
-    if (row.kind == kind) return {row.type, row.type_size};
+    if (row.kind == kind) return row.type.view();
   }
   return {};
 }
 
 bool OtherName::Read(ByteView content, Leniency leniency, OtherName* name, Refusal* refusal) {
   OtherName read;
-  Reader fields(content, leniency, refusal);
-  ByteView tagged;
-  if (!ReadOid(&fields, &read.type) || !fields.Read(ContextConstructed(0), &tagged) ||
-      !fields.End()) {
-    return false;
-  }
-  Reader whole(tagged, leniency, refusal);
-  if (!whole.Read(&read.value) || !whole.End() || !CheckNested(read.value, leniency, refusal)) {
-    return false;
-  }
-  const Row* const row = FindRow(read.type);
-  if (row != nullptr) {
+  if (!OtherNameView::Read(content, leniency, &read, refusal)) return false;
+  if (const Row* const row = FindRow(read.type)) {
     read.kind = row->kind;
-    Reader value(tagged, leniency, refusal);
+    Reader value(read.value.bytes, leniency, refusal);
     if (!row->read(&value, &read)) return false;
   }
   *name = read;
   return true;
-}
-
-bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal) {
-  Mailbox mailbox;
-  if (!Mailbox::Read(text, Mailbox::kUtf8, &mailbox, refusal)) return false;
-  return !mailbox.is_ascii || Refuse(refusal, ORTHOLAN_REASON_ASCII_LOCAL_PART,
-                                     reinterpret_cast<const uint8_t*>(text.data()), text.size());
-}
-
-bool SplitService(std::string_view text, std::string_view* service, std::string_view* host,
-                  Refusal* refusal) {
-  const size_t dot = text.find('.');
-  const std::string_view label = text.substr(0, dot);
-  const bool is_service = dot != std::string_view::npos && label.size() > 1 &&
-                          label.size() <= kMaxServiceOctets && label[0] == '_' &&
-                          CheckHost(label.substr(1), kPlainHost, nullptr);
-  if (!is_service) {
-    return Refuse(refusal, ORTHOLAN_REASON_SERVICE, reinterpret_cast<const uint8_t*>(text.data()),
-                  text.size());
-  }
-  *service = label;
-  *host = text.substr(dot + 1);
-  return CheckHost(*host, kPlainHost, refusal);
 }
 
 }  // namespace Ortholan::strict

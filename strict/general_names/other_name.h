@@ -10,12 +10,9 @@
 
 #include <string_view>
 
-#include "strict/der/element.h"
-#include "strict/der/output.h"
+#include "strict/general_names/other_name_view.h"
 
 namespace Ortholan::strict {
-
-struct Refusal;
 
 enum class OtherNameKind : int32_t {
   kUnknown = ORTHOLAN_OTHER_UNKNOWN,
@@ -29,10 +26,8 @@ enum class OtherNameKind : int32_t {
   kGuid = ORTHOLAN_OTHER_GUID,
 };
 
-struct OtherName {
+struct OtherName : OtherNameView {
   OtherNameKind kind = OtherNameKind::kUnknown;
-  ByteView type;          // content octets of the identifier
-  Element value;          // inside the explicit tag
   std::string_view text;  // characters of a UPN, service, mailbox, XMPP address, permanent
                           // identifier (null where it has none); a Kerberos realm
   ByteView oid;           // assigner of a permanent identifier (may be absent), type of a module
@@ -49,13 +44,6 @@ OtherNameKind KindOfOtherName(ByteView type);
 
 // The content octets of a known kind's identifier.
 ByteView TypeOfOtherName(OtherNameKind kind);
-
-// Whether a text is a mailbox whose local part has characters beyond ASCII (RFC 9598 3).
-bool CheckUtf8Mailbox(std::string_view text, Refusal* refusal);
-
-// Takes a service name apart: "_imaps.example.org" (RFC 4985 2). False where it is none.
-bool SplitService(std::string_view text, std::string_view* service, std::string_view* host,
-                  Refusal* refusal);
 
 }  // namespace Ortholan::strict
 

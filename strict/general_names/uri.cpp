@@ -4,11 +4,16 @@
 
 #include <algorithm>
 
+#include "bytes/hex.h"
+
 namespace Ortholan::strict {
 namespace {
 
 constexpr std::string_view kDigits = "0123456789";
-constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
+
+bool AreHexDigits(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), IsHexDigit);
+}
 
 // Where a character may stand; bits of kPlaces.
 enum Place : uint8_t {
@@ -50,8 +55,7 @@ size_t FindOutside(std::string_view part, Place place) {
   for (size_t i = 0; i < part.size(); ++i) {
     if (MayStand(part[i], place)) continue;
     const bool is_escape =
-        part[i] == '%' && part.size() - i > 2 &&
-        part.substr(i + 1, 2).find_first_not_of(kHexDigits) == std::string_view::npos;
+        part[i] == '%' && part.size() - i > 2 && AreHexDigits(part.substr(i + 1, 2));
     if (!is_escape) return i;
     i += 2;
   }
@@ -135,8 +139,7 @@ class UriReader {
   static bool IsFuture(std::string_view literal) {
     const size_t dot = literal.find('.');
     return literal.size() > 3 && (literal[0] | 0x20) == 'v' && dot != std::string_view::npos &&
-           dot > 1 && dot + 1 < literal.size() &&
-           literal.substr(1, dot - 1).find_first_not_of(kHexDigits) == std::string_view::npos &&
+           dot > 1 && dot + 1 < literal.size() && AreHexDigits(literal.substr(1, dot - 1)) &&
            literal.find('%') == std::string_view::npos &&
            FindOutside(literal.substr(dot + 1), kInFuture) == std::string_view::npos;
   }
@@ -170,8 +173,7 @@ class UriReader {
     return static_cast<size_t>(part.data() - text_.data());
   }
   bool RefuseAt(ortholan_reason reason, size_t at) {
-    return Refuse(refusal_, reason, reinterpret_cast<const uint8_t*>(text_.data()) + at,
-                  text_.size() - at);
+    return RefuseText(refusal_, reason, text_.substr(at));
   }
 
   std::string_view text_;

@@ -1,7 +1,7 @@
 #include "strict/identity/identify.h"
 
 #include "strict/certificates/certificate_view.h"
-#include "strict/der/known_identifiers.h"
+#include "strict/der/known_oids.h"
 #include "strict/der/reader.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/other_name.h"
@@ -129,8 +129,7 @@ Identity Identify(ByteView certificate, const Reference& reference, Refusal* ref
   CertificateView view;
   ExtensionView extension;
   if (!CertificateView::Read(certificate, Leniency::kDer, &view, &found) ||
-      !view.extensions().Find({kAlternativeNamesOid, sizeof kAlternativeNamesOid}, &extension,
-                              &found)) {
+      !view.extensions().Find(kAlternativeNamesOid.view(), &extension, &found)) {
     return CannotTell(found, refusal);
   }
   if (view.kind() != CertificateKind::kCertificate) {

@@ -2,15 +2,11 @@
 
 #include "strict/general_names/host.h"
 #include "strict/general_names/mailbox.h"
-#include "strict/general_names/other_name.h"
+#include "strict/general_names/service_name.h"
 #include "strict/general_names/uri.h"
 
 namespace Ortholan::strict {
 namespace {
-
-bool RefuseText(Refusal* refusal, ortholan_reason reason, std::string_view text) {
-  return Refuse(refusal, reason, reinterpret_cast<const uint8_t*>(text.data()), text.size());
-}
 
 // The name asked for may be absolute, with a dot at its end (RFC 1034 3.1), and hosts with hyphens
 // at the edges of labels are asked for below wildcards.

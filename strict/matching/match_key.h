@@ -8,8 +8,8 @@
 #ifndef ORTHOLAN_STRICT_MATCHING_MATCH_KEY_H_
 #define ORTHOLAN_STRICT_MATCHING_MATCH_KEY_H_
 
+#include "strict/matching/match_rule.h"
 #include "strict/matching/preparation.h"
-#include "strict/matching/rule.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {

@@ -6,7 +6,7 @@
 #define ORTHOLAN_STRICT_MATCHING_MATCH_NAMES_H_
 
 #include "strict/der/verdict.h"
-#include "strict/matching/rule.h"
+#include "strict/matching/match_rule.h"
 #include "strict/names/name_view.h"
 
 namespace Ortholan::strict {

@@ -5,8 +5,8 @@
 
 #include "bytes/byte_view.h"
 #include "bytes/small_buffer.h"
+#include "strict/matching/match_rule.h"
 #include "strict/matching/preparation.h"
-#include "strict/matching/rule.h"
 
 namespace Ortholan::strict {
 

@@ -303,9 +303,7 @@ void Preparation::PutSegment(Progress* at) {
     at->blanks -= keeps_blank ? 1 : 0;
     PutBlanks(at);
     if (keeps_blank) *at->out++ = ' ';
-    Output character(at->out, kLongest);
-    PutUtf8(point.scalar, &character);
-    at->out += character.size();
+    at->out = WriteUtf8Scalar(at->out, point.scalar);
   }
 }
 

@@ -1,14 +1,11 @@
 #include "strict/matching/value_form.h"
 
-#include "strict/der/known_identifiers.h"
+#include "strict/der/known_oids.h"
 #include "strict/der/string_value.h"
 #include "strict/matching/folding.h"
 
 namespace Ortholan::strict {
 namespace {
-
-// Content octets of 0.9.2342.19200300.100.1.25.
-constexpr uint8_t kDomainComponent[] = {0x09, 0x92, 0x26, 0x89, 0x93, 0xF2, 0x2C, 0x64, 0x01, 0x19};
 
 void Put(ByteView octets, PreparedText* out) { WriteBytes(out->Extend(octets.size), octets); }
 
@@ -77,16 +74,14 @@ bool MatchAscii(const Element& a, const Element& b, const AsciiFoldings& folding
 void PutUtf8(const Element& value, PreparedText* out) {
   ScalarReader scalars(value.identifier, value.content);
   for (uint32_t scalar; scalars.Next(&scalar);) {
-    Output character(out->Extend(Utf8Octets(scalar)), Utf8Octets(scalar));
-    strict::PutUtf8(scalar, &character);
+    WriteUtf8Scalar(out->Extend(Utf8Octets(scalar)), scalar);
   }
 }
 
 }  // namespace
 
 bool IsCaseOnly(ByteView type) {
-  return SameBytes(type, {kDomainComponent, sizeof kDomainComponent}) ||
-         SameBytes(type, {kEmailAddressOid, sizeof kEmailAddressOid});
+  return SameBytes(type, kDomainComponentOid.view()) || SameBytes(type, kEmailAddressOid.view());
 }
 
 ValueForm PutForm(ByteView type, const Element& value, MatchRule rule, PreparedText* out) {

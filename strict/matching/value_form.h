@@ -7,8 +7,8 @@
 #define ORTHOLAN_STRICT_MATCHING_VALUE_FORM_H_
 
 #include "strict/der/element.h"
+#include "strict/matching/match_rule.h"
 #include "strict/matching/preparation.h"
-#include "strict/matching/rule.h"
 
 namespace Ortholan::strict {
 

@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "bytes/ignore_case.h"
+
 namespace Ortholan::strict {
 namespace {
 
@@ -137,16 +139,8 @@ constexpr AttributeType kTypes[] = {
 constexpr uint8_t kNone = 0xFF;
 static_assert(std::size(kTypes) < kNone);
 
-constexpr uint8_t Folded(char c) {
-  return static_cast<uint8_t>(c >= 'A' && c <= 'Z' ? c | 0x20 : c);
-}
-
 constexpr bool Same(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (Folded(a[i]) != Folded(b[i])) return false;
-  }
-  return true;
+  return a.size() == b.size() && SameLetterByLetter(a, b);
 }
 
 constexpr bool Same(ByteView a, ByteView b) {
@@ -159,7 +153,7 @@ constexpr bool Same(ByteView a, ByteView b) {
 
 constexpr uint32_t Hash(std::string_view name) {
   uint32_t hash = 0;
-  for (const char c : name) hash = hash * 31 + Folded(c);
+  for (const char c : name) hash = hash * 31 + static_cast<uint8_t>(ToAsciiLower(c));
   return hash;
 }
 
@@ -299,14 +293,11 @@ size_t TypeCount() { return std::size(kTypes); }
 const AttributeType& TypeAt(size_t index) { return kTypes[index]; }
 
 bool IsDescriptor(std::string_view text) {
-  const auto is_letter = [](char c) { return Folded(c) >= 'a' && Folded(c) <= 'z'; };
-  if (text.empty() || !is_letter(text.front())) return false;
+  if (text.empty() || !IsAsciiLetter(text.front())) return false;
   for (const char c : text) {
-    if (!is_letter(c) && !(c >= '0' && c <= '9') && c != '-') return false;
+    if (!IsAsciiLetter(c) && !IsAsciiDigit(c) && c != '-') return false;
   }
   return true;
 }
-
-bool SameName(std::string_view a, std::string_view b) { return Same(a, b); }
 
 }  // namespace Ortholan::strict

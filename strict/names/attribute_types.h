@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "bytes/byte_view.h"
+#include "bytes/oid_constant.h"
 
 namespace Ortholan::strict {
 
@@ -26,43 +27,8 @@ enum class ValueSyntax : uint8_t {
   kNoText = ORTHOLAN_SYNTAX_NO_TEXT,
 };
 
-// Content octets of an identifier, made from its dotted text by the compiler.
-class OidOctets {
- public:
-  constexpr OidOctets() = default;
-  constexpr OidOctets(const char* dotted) {
-    uint32_t first = 0;
-    for (size_t arc = 0; *dotted != '\0'; ++arc) {
-      uint32_t number = 0;
-      for (; *dotted != '.' && *dotted != '\0'; ++dotted) {
-        number = number * 10 + static_cast<uint32_t>(*dotted - '0');
-      }
-      if (*dotted == '.') ++dotted;
-      if (arc == 0) {
-        first = number * 40;
-      } else {
-        Append(arc == 1 ? first + number : number);
-      }
-    }
-  }
-  constexpr ByteView view() const { return {octets_, size_}; }
-
- private:
-  constexpr void Append(uint32_t number) {
-    uint32_t shift = 0;
-    while (number >> shift >= 0x80) shift += 7;
-    for (; shift != 0; shift -= 7) {
-      octets_[size_++] = static_cast<uint8_t>(0x80 | (number >> shift & 0x7F));
-    }
-    octets_[size_++] = static_cast<uint8_t>(number & 0x7F);
-  }
-
-  uint8_t octets_[12] = {};
-  uint8_t size_ = 0;
-};
-
 struct AttributeType {
-  OidOctets oid;
+  OidConstant oid;
   std::string_view name;       // the short one, as text is written
   std::string_view long_name;  // may be the same
   // Further names that are read, each with a blank behind it.
@@ -81,8 +47,6 @@ const AttributeType& TypeAt(size_t index);
 
 // Whether text may stand for a type: a letter, then letters, digits and hyphens (RFC 4512 1.4).
 bool IsDescriptor(std::string_view text);
-// Without letter case, ASCII alone.
-bool SameName(std::string_view a, std::string_view b);
 
 }  // namespace Ortholan::strict
 

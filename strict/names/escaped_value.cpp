@@ -1,8 +1,8 @@
-// Values of strings, escaped as RFC 4514 section 2.4 asks for and further.
+#include "strict/names/escaped_value.h"
+
 #include "bytes/octet_run.h"
 #include "strict/der/string_value.h"
-#include "strict/names/name_to_text.h"
-#include "strict/names/shown.h"
+#include "strict/names/shown_characters.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -36,9 +36,8 @@ void PutDigits(uint8_t octet, Output* out) {
 
 void PutHidden(uint32_t scalar, Output* out) {
   uint8_t octets[4];
-  Output utf8(octets, sizeof octets);
-  PutUtf8(scalar, &utf8);
-  for (size_t i = 0; i < utf8.size(); ++i) PutDigits(octets[i], out);
+  const uint8_t* const end = WriteUtf8Scalar(octets, scalar);
+  for (const uint8_t* at = octets; at != end; ++at) PutDigits(*at, out);
 }
 
 void PutScalar(uint32_t scalar, Output* out) {

@@ -5,6 +5,7 @@
 #include "strict/der/string_value.h"
 #include "strict/names/name_writer.h"
 #include "strict/names/postal_address.h"
+#include "strict/names/string_choice.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -1,8 +1,10 @@
 #include "strict/names/name_to_text.h"
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/string_value.h"
+#include "strict/names/escaped_value.h"
 #include "strict/names/postal_address.h"
+#include "strict/names/string_choice.h"
 
 namespace Ortholan::strict {
 namespace {

@@ -18,14 +18,6 @@ bool PutTextOfName(const NameView& name, const TextOptions& options, Output* out
 // The same for the content of one RDN that was read.
 bool PutTextOfRdn(ByteView rdn, const TextOptions& options, Output* out, Refusal* refusal);
 
-// Puts a string value with what has to be escaped in a name escaped; false, with nothing put, where
-// the octets are no text.
-bool PutEscaped(uint8_t identifier, ByteView content, Output* out);
-
-// Puts UTF-8 with what cannot be seen escaped and all else as it is; false, with nothing put, for
-// other octets.
-bool PutVisible(ByteView text, Output* out);
-
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_NAMES_NAME_TO_TEXT_H_

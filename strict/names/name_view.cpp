@@ -1,7 +1,7 @@
 #include "strict/names/name_view.h"
 
 #include "strict/der/any_value.h"
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/der/set_order.h"
 #include "strict/names/plain_rdn.h"

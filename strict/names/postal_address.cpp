@@ -5,6 +5,7 @@
 #include "strict/der/output.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
+#include "strict/names/text_options.h"
 
 namespace Ortholan::strict {
 namespace {

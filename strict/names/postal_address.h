@@ -8,7 +8,7 @@
 
 #include <string>
 
-#include "strict/names/text_options.h"
+#include "strict/names/string_choice.h"
 
 namespace Ortholan::strict {
 

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <iterator>
 
+#include "bytes/hex.h"
+#include "bytes/utf8_scalar.h"
 #include "strict/der/reader.h"
 #include "strict/der/refusal.h"
 #include "strict/der/string_value.h"
-#include "strict/names/name_to_text.h"
+#include "strict/names/escaped_value.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -100,9 +102,7 @@ size_t PairSize(std::string_view text) {
   if (text.empty()) return 0;
   const size_t first = CharacterSize(text);
   const size_t size = first + CharacterSize(text.substr(first));
-  const bool is_octet =
-      text[0] == '\\' && size < text.size() &&
-      std::string_view("0123456789abcdefABCDEF").find(text[1]) != std::string_view::npos;
+  const bool is_octet = text[0] == '\\' && size < text.size() && IsHexDigit(text[1]);
   return is_octet ? size + CharacterSize(text.substr(size)) : size;
 }
 

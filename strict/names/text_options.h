@@ -12,8 +12,6 @@
 
 namespace Ortholan::strict {
 
-struct Element;
-
 enum class TextOrder : int32_t {
   kReversed = ORTHOLAN_RDNS_REVERSED,
   kAsEncoded = ORTHOLAN_RDNS_AS_ENCODED,
@@ -46,18 +44,6 @@ struct NamedType {
 bool FindNamed(std::string_view name, const TextOptions& options, NamedType* type);
 // What is known of an identifier.
 NamedType Describe(ByteView oid, const TextOptions& options);
-
-// The string type that checked UTF-8 gets as a value, or why it cannot be one, with the first octet
-// at fault.
-struct StringChoice {
-  uint8_t identifier = 0;
-  ortholan_reason reason = ORTHOLAN_REASON_NONE;
-  size_t offset = 0;
-};
-StringChoice ChooseString(ByteView text, ValueSyntax syntax, StringPolicy policy);
-
-// Whether the plain text of a string would be read as this very element.
-bool ComesBack(const Element& value, ValueSyntax syntax, StringPolicy policy);
 
 }  // namespace Ortholan::strict
 

@@ -3,6 +3,8 @@
 #include <ortholan/strict/names.h>
 
 #include "bytes/ascii.h"
+#include "bytes/hex.h"
+#include "bytes/ignore_case.h"
 #include "bytes/octet_run.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
@@ -33,17 +35,6 @@ Role RoleOf(char c) { return static_cast<Role>(kRoles.roles[static_cast<uint8_t>
 // What may follow a backslash as itself.
 bool IsSpecial(char c) { return c != '\0' && std::strchr("\\\"+,;<> #=", c) != nullptr; }
 
-// 16 for what is no digit.
-uint8_t HexDigit(char c) {
-  if (IsAsciiDigit(c)) return static_cast<uint8_t>(c - '0');
-  const char lower = ToAsciiLower(c);
-  return static_cast<uint8_t>(lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : 16);
-}
-bool IsHexDigit(char c) { return HexDigit(c) < 16; }
-uint8_t HexOctet(const char* digits) {
-  return static_cast<uint8_t>(HexDigit(digits[0]) << 4 | HexDigit(digits[1]));
-}
-
 // What a character may stand in: a descriptor (RFC 4512 1.4), dotted text or both; bits.
 enum TypeRole : uint8_t { kInDescriptor = 1, kInDotted = 2 };
 
@@ -59,7 +50,7 @@ constexpr RoleTable MakeTypeRoles() {
 constexpr RoleTable kTypeRoles = MakeTypeRoles();
 
 bool HasOidPrefix(std::string_view type) {
-  return type.size() > 4 && type[3] == '.' && SameName(type.substr(0, 3), "oid");
+  return type.size() > 4 && type[3] == '.' && SameWithoutCase(type.substr(0, 3), "oid");
 }
 
 // Characters of the text that the pair at its front takes.
@@ -212,8 +203,7 @@ bool TextParser::EndValue() {
 }
 
 bool TextParser::RefuseAt(ortholan_reason reason, size_t position) {
-  const ByteView rest = AsBytes(text_.data(), text_.size()).From(position);
-  return Refuse(refusal_, reason, rest.data, rest.size);
+  return RefuseText(refusal_, reason, text_.substr(position));
 }
 
 void Unescape(std::string_view value, uint8_t* out) {

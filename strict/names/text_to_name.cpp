@@ -7,6 +7,7 @@
 #include "strict/der/reader.h"
 #include "strict/names/name_writer.h"
 #include "strict/names/postal_address.h"
+#include "strict/names/string_choice.h"
 #include "strict/names/text_parser.h"
 #include "strict/names/type_finder.h"
 
@@ -117,8 +118,7 @@ class Encoder {
   // Refuses what begins a part of the text.
   bool RefuseAt(ortholan_reason reason, std::string_view part, uint32_t expected = 0) {
     const auto before = static_cast<size_t>(part.data() - text_.data());
-    const ByteView rest = AsBytes(text_.data(), text_.size()).From(before);
-    return Refuse(refusal_, reason, rest.data, rest.size, expected);
+    return RefuseText(refusal_, reason, text_.substr(before), expected);
   }
 
   std::string_view text_;

@@ -1,6 +1,6 @@
 #include "strict/names/type_finder.h"
 
-#include "strict/der/identifier.h"
+#include "strict/der/oid.h"
 
 namespace Ortholan::strict {
 

@@ -2,14 +2,13 @@
 
 #include <cstdint>
 
+#include "bytes/utc_time_year.h"
 #include "platform/posix/structures/field.h"
 #include "platform/posix/structures/load.h"
 
 namespace Ortholan::posix {
 namespace {
 
-constexpr int kFirstShortYear = 1950;
-constexpr int kLastShortYear = 2049;
 constexpr std::int64_t kTicksPerMinute = 600000000;
 
 void PutDigits(unsigned number, unsigned digits, DerWriter* out) {
@@ -25,8 +24,6 @@ void PutTime(const SYSTEMTIME& time, unsigned yearDigits, DerWriter* out) {
   PutDigits(time.wYear, yearDigits, out);
 }
 
-bool IsShortYear(int year) { return year >= kFirstShortYear && year <= kLastShortYear; }
-
 bool LoadTime(const BYTE* value, SYSTEMTIME* time) {
   constexpr WORD kLastYear = 9999;
   const auto ticks = Load<FILETIME>(value);
@@ -35,7 +32,7 @@ bool LoadTime(const BYTE* value, SYSTEMTIME* time) {
 
 DWORD WriteUtcTime(const Field& /*field*/, const BYTE* value, DerWriter* out) {
   SYSTEMTIME time;
-  if (!LoadTime(value, &time) || !IsShortYear(time.wYear)) return CRYPT_E_BAD_ENCODE;
+  if (!LoadTime(value, &time) || !IsUtcTimeYear(time.wYear)) return CRYPT_E_BAD_ENCODE;
   const std::size_t mark = out->size();
   PutTime(time, 2, out);
   out->PutHeader(kTagUtcTime, mark);
@@ -45,7 +42,7 @@ DWORD WriteUtcTime(const Field& /*field*/, const BYTE* value, DerWriter* out) {
 DWORD WriteTime(const Field& field, const BYTE* value, DerWriter* out) {
   SYSTEMTIME time;
   if (!LoadTime(value, &time)) return CRYPT_E_BAD_ENCODE;
-  if (IsShortYear(time.wYear)) return WriteUtcTime(field, value, out);
+  if (IsUtcTimeYear(time.wYear)) return WriteUtcTime(field, value, out);
   const std::size_t mark = out->size();
   PutTime(time, 4, out);
   out->PutHeader(kTagGeneralizedTime, mark);
@@ -121,10 +118,7 @@ bool ToFileTime(const SYSTEMTIME& time, std::int64_t minutesAhead, FILETIME* tic
   return true;
 }
 
-WORD TakeShortYear(TimeText* text) {
-  const WORD year = text->Take(2);
-  return static_cast<WORD>(year + (year < kFirstShortYear % 100 ? 2000 : 1900));
-}
+WORD TakeShortYear(TimeText* text) { return static_cast<WORD>(YearOfTwoDigits(text->Take(2))); }
 
 DWORD ReadTime(const Field& /*field*/, const Element& element, std::size_t place,
                StructRoom* room) {

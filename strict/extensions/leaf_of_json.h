@@ -1,0 +1,15 @@
+// Values without parts from their JSON: the content octets that a shape makes of one.
+#ifndef ORTHOLAN_STRICT_EXTENSIONS_LEAF_OF_JSON_H_
+#define ORTHOLAN_STRICT_EXTENSIONS_LEAF_OF_JSON_H_
+
+#include "strict/extensions/json_value.h"
+#include "strict/extensions/shape.h"
+
+namespace Ortholan::strict {
+
+// Refuses the value at its place. Throws std::bad_alloc.
+bool LeafOfJson(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal);
+
+}  // namespace Ortholan::strict
+
+#endif  // ORTHOLAN_STRICT_EXTENSIONS_LEAF_OF_JSON_H_
