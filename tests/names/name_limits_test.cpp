@@ -3,6 +3,7 @@
 #include <cstring>
 #include <set>
 
+#include "names/attribute_table.h"
 #include "tests/names/name_answers.h"
 
 namespace Ortholan::testing {
@@ -23,6 +24,13 @@ std::string TagOf(const std::wstring& type, wchar_t c) {
   const std::string octets = Octets(der);
   // SEQUENCE, SET, SEQUENCE, OBJECT IDENTIFIER, each with a short length.
   return der.front() == '3' ? Hex(octets.substr(8 + static_cast<size_t>(octets[7]), 1)) : der;
+}
+
+TEST(AttributeTable, FindsEachRowByTextAndOctets) {
+  for (const AttributeRow& row : kAttributes) {
+    EXPECT_EQ(FindAttribute(row.oid), &row);
+    EXPECT_EQ(FindAttributeByDer(row.oid_content()), &row);
+  }
 }
 
 TEST(Alphabets, DecideTheStringType) {
