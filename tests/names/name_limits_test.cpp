@@ -3,6 +3,8 @@
 #include <cstring>
 #include <set>
 
+#include "names/attribute_table.h"
+#include "names/encoder/remembered_types.h"
 #include "tests/names/name_answers.h"
 
 namespace Ortholan::testing {
@@ -23,6 +25,32 @@ std::string TagOf(const std::wstring& type, wchar_t c) {
   const std::string octets = Octets(der);
   // SEQUENCE, SET, SEQUENCE, OBJECT IDENTIFIER, each with a short length.
   return der.front() == '3' ? Hex(octets.substr(8 + static_cast<size_t>(octets[7]), 1)) : der;
+}
+
+TEST(AttributeTable, FindsEachRowByTextAndOctets) {
+  for (const AttributeRow& row : kAttributes) {
+    EXPECT_EQ(FindAttribute(row.oid), &row);
+    EXPECT_EQ(FindAttributeByDer(row.oid_content()), &row);
+  }
+}
+
+TEST(RememberedTypes, AreThoseOfFewAsciiCharacters) {
+  RememberedTypes types;
+  const auto key = [](std::string_view text, uint16_t version) {
+    const std::basic_string<unsigned char> octets(text.begin(), text.end());
+    const std::wstring wide(octets.begin(), octets.end());
+    const uint64_t narrow = RememberedTypes::KeyOf(text, version);
+    EXPECT_EQ(RememberedTypes::KeyOf(std::wstring_view(wide), version), narrow);
+    return narrow;
+  };
+  for (const std::string_view text : {"C", "CN", "\1", "\x7F", "TITLE"}) {
+    types.Keep(key(text, 7), &kAttributes[text.size()]);
+    EXPECT_EQ(types.Find(key(text, 7)), &kAttributes[text.size()]) << text;
+    EXPECT_EQ(types.Find(key(text, 8)), nullptr) << text;
+  }
+  const std::string_view without_key[] = {"", "TITLES", "\x80", "\xFF", {"\0C", 2}};
+  for (const std::string_view text : without_key) EXPECT_EQ(key(text, 7), 0u) << text;
+  EXPECT_EQ(types.Find(0), nullptr);
 }
 
 TEST(Alphabets, DecideTheStringType) {

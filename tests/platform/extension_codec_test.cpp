@@ -335,6 +335,8 @@ TEST(ExtensionCodecs, CountsWithoutArraysAreRefused) {
     info[row.count] = 3;
     ExpectEncoding(FindStructureKind(row.structure)->type, info, {{"", ERROR_INVALID_PARAMETER}});
   }
+  // The last number that is not read as the address of an identifier.
+  ExpectEncoding(reinterpret_cast<LPCSTR>(0xFFFF), "", {{"", kNoCodec}});
   LPSTR usages[] = {nullptr};
   const CERT_ENHKEY_USAGE usage = {1, usages};
   ExpectEncoding(X509_ENHANCED_KEY_USAGE, &usage, {{"", kNoIdentifier}});
