@@ -39,18 +39,19 @@ TEST(RememberedTypes, AreThoseOfFewAsciiCharacters) {
   const auto key = [](std::string_view text, uint16_t version) {
     const std::basic_string<unsigned char> octets(text.begin(), text.end());
     const std::wstring wide(octets.begin(), octets.end());
-    const uint64_t narrow = RememberedTypes::KeyOf(text, version);
-    EXPECT_EQ(RememberedTypes::KeyOf(std::wstring_view(wide), version), narrow);
+    const RememberedText narrow = RememberedText::Of(text, version);
+    EXPECT_EQ(RememberedText::Of(std::wstring_view(wide), version).word(), narrow.word());
     return narrow;
   };
   for (const std::string_view text : {"C", "CN", "\1", "\x7F", "TITLE"}) {
-    types.Keep(key(text, 7), &kAttributes[text.size()]);
-    EXPECT_EQ(types.Find(key(text, 7)), &kAttributes[text.size()]) << text;
-    EXPECT_EQ(types.Find(key(text, 8)), nullptr) << text;
+    const auto place = static_cast<uint8_t>(text.size());
+    types.Keep(key(text, 7), place);
+    EXPECT_EQ(types.Find(key(text, 7)), place) << text;
+    EXPECT_EQ(types.Find(key(text, 8)), RememberedTypes::kNone) << text;
   }
   const std::string_view without_key[] = {"", "TITLES", "\x80", "\xFF", {"\0C", 2}};
-  for (const std::string_view text : without_key) EXPECT_EQ(key(text, 7), 0u) << text;
-  EXPECT_EQ(types.Find(0), nullptr);
+  for (const std::string_view text : without_key) EXPECT_FALSE(key(text, 7).has_text()) << text;
+  EXPECT_EQ(types.Find({}), RememberedTypes::kNone);
 }
 
 TEST(Alphabets, DecideTheStringType) {

@@ -26,31 +26,31 @@ HMODULE Found(LPCSTR path) { return path == beside.path ? &beside : nullptr; }
 }  // namespace
 
 // Declares the platform's call and its stand-in, whose body follows.
-#define STAND_IN(type, name, mangled, parameters)    \
+#define MODULE_CALL(type, name, mangled, parameters) \
   type Real##name parameters asm("__real_" mangled); \
   type Own##name parameters asm("__wrap_" mangled);  \
   type Own##name parameters
 
-STAND_IN(DWORD, GetModuleFileNameA, "_ZN8Ortholan18GetModuleFileNameAEPvPcj",
-         (HMODULE module, LPSTR out, DWORD size)) {
+MODULE_CALL(DWORD, GetModuleFileNameA, "_ZN8Ortholan18GetModuleFileNameAEPvPcj",
+            (HMODULE module, LPSTR out, DWORD size)) {
   if (beside.program.empty()) return RealGetModuleFileNameA(module, out, size);
   return static_cast<DWORD>(beside.program.copy(out, size));
 }
-STAND_IN(HMODULE, GetModuleHandleA, "_ZN8Ortholan16GetModuleHandleAEPKc", (LPCSTR name)) {
+MODULE_CALL(HMODULE, GetModuleHandleA, "_ZN8Ortholan16GetModuleHandleAEPKc", (LPCSTR name)) {
   if (beside.program.empty() || name == nullptr) return RealGetModuleHandleA(name);
   return beside.in_memory ? Found(name) : nullptr;
 }
-STAND_IN(HMODULE, LoadLibraryA, "_ZN8Ortholan12LoadLibraryAEPKc", (LPCSTR name)) {
+MODULE_CALL(HMODULE, LoadLibraryA, "_ZN8Ortholan12LoadLibraryAEPKc", (LPCSTR name)) {
   if (beside.program.empty()) return RealLoadLibraryA(name);
   ++beside.loads;
   return Found(name);
 }
-STAND_IN(BOOL, FreeLibrary, "_ZN8Ortholan11FreeLibraryEPv", (HMODULE module)) {
+MODULE_CALL(BOOL, FreeLibrary, "_ZN8Ortholan11FreeLibraryEPv", (HMODULE module)) {
   if (module != &beside) return RealFreeLibrary(module);
   return ++beside.releases;
 }
-STAND_IN(int, LoadStringA, "_ZN8Ortholan11LoadStringAEPvjPci",
-         (HINSTANCE module, UINT id, LPSTR out, int size)) {
+MODULE_CALL(int, LoadStringA, "_ZN8Ortholan11LoadStringAEPvjPci",
+            (HINSTANCE module, UINT id, LPSTR out, int size)) {
   if (testing::Fails("LoadStringA")) return 0;
   if (module != &beside) return RealLoadStringA(module, id, out, size);
   return static_cast<int>(beside.text.copy(out, static_cast<size_t>(size) - 1));
