@@ -5,35 +5,35 @@
 namespace Bench {
 namespace {
 
-constexpr char kSequence = '\x30';
+constexpr unsigned kSequence = 0x30;
 
-std::string AlgorithmDer() { return Element(kSequence, OidElement("1.3.101.112")); }
+std::string AlgorithmDer() { return Tlv(kSequence, OidElement("1.3.101.112")); }
 
-std::string BitString(size_t octets) { return Element('\x03', '\0' + std::string(octets, '\x66')); }
+std::string BitString(size_t octets) { return Tlv(0x03, '\0' + std::string(octets, '\x66')); }
 
 std::string HostsDer(const std::vector<std::string>& hosts) {
   std::string names;
-  for (const std::string& host : hosts) names += Element('\x82', host);
-  return Element(kSequence, names);
+  for (const std::string& host : hosts) names += Tlv(0x82, host);
+  return Tlv(kSequence, names);
 }
 
 // A list of GeneralSubtree; no octets where there is none.
-std::string SubtreesDer(char tag, const std::vector<std::string>& hosts) {
+std::string SubtreesDer(unsigned tag, const std::vector<std::string>& hosts) {
   std::string subtrees;
-  for (const std::string& host : hosts) subtrees += Element(kSequence, Element('\x82', host));
-  return subtrees.empty() ? std::string() : Element(tag, subtrees);
+  for (const std::string& host : hosts) subtrees += Tlv(kSequence, Tlv(0x82, host));
+  return subtrees.empty() ? std::string() : Tlv(tag, subtrees);
 }
 
 std::string CertificateDer(const std::string& subject, const char* extension,
                            const std::string& value) {
   const std::string issuer = ToDer(SixAttributes());
   const std::string extensions =
-      Element(kSequence, Element(kSequence, OidElement(extension) + Element('\x04', value)));
+      Tlv(kSequence, Tlv(kSequence, OidElement(extension) + Tlv(0x04, value)));
   const std::string body =
-      Element('\xA0', Element('\x02', "\x02")) + Element('\x02', "\x01") + AlgorithmDer() + issuer +
-      Element(kSequence, Element('\x17', "260101000000Z") + Element('\x17', "360101000000Z")) +
-      subject + Element(kSequence, AlgorithmDer() + BitString(32)) + Element('\xA3', extensions);
-  return Element(kSequence, Element(kSequence, body) + AlgorithmDer() + BitString(64));
+      Tlv(0xA0, Tlv(0x02, "\x02")) + Tlv(0x02, "\x01") + AlgorithmDer() + issuer +
+      Tlv(kSequence, Tlv(0x17, "260101000000Z") + Tlv(0x17, "360101000000Z")) + subject +
+      Tlv(kSequence, AlgorithmDer() + BitString(32)) + Tlv(0xA3, extensions);
+  return Tlv(kSequence, Tlv(kSequence, body) + AlgorithmDer() + BitString(64));
 }
 
 Chain UsualChainWith(const char* last) {
@@ -48,9 +48,9 @@ Chain UsualChainWith(const char* last) {
 
 Chain MakeChain(const std::vector<std::string>& hosts, const std::vector<std::string>& permitted,
                 const std::vector<std::string>& excluded) {
-  const std::string subtrees = SubtreesDer('\xA0', permitted) + SubtreesDer('\xA1', excluded);
+  const std::string subtrees = SubtreesDer(0xA0, permitted) + SubtreesDer(0xA1, excluded);
   return {CertificateDer(ToDer(LargeValue(16)), "2.5.29.17", HostsDer(hosts)),
-          CertificateDer(ToDer(SixAttributes()), "2.5.29.30", Element(kSequence, subtrees))};
+          CertificateDer(ToDer(SixAttributes()), "2.5.29.30", Tlv(kSequence, subtrees))};
 }
 
 Chain UsualChain() { return UsualChainWith("*.dev.example.com"); }

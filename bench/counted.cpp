@@ -19,7 +19,7 @@
 #include "bench/names.h"
 #include "bench/operations.h"
 #include "bench/samples.h"
-#include "tests/strict/certificate_shell.h"
+#include "tests/support/certificates.h"
 
 namespace Bench {
 namespace {
@@ -138,9 +138,9 @@ void AddStrictNames(std::vector<Operation>* operations) {
 void AddVerdicts(std::vector<Operation>* operations) {
   std::string names;
   for (int i = 0; i < 10; ++i) {
-    names += Element('\x82', "www" + std::to_string(i) + ".department.example.org");
+    names += Tlv(0x82, "www" + std::to_string(i) + ".department.example.org");
   }
-  const std::string certificate = Ortholan::testing::CertificateWithNames(Element('\x30', names));
+  const std::string certificate = Ortholan::testing::CertificateWithNames(Tlv(0x30, names));
   operations->push_back({"strict: host of a certificate for 10", [certificate] {
                            const auto host =
                                ortholan::Reference::Host("www9.department.example.org");

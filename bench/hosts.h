@@ -8,7 +8,7 @@
 
 #include "bench/measure.h"
 #include "bench/names.h"
-#include "tests/strict/certificate_shell.h"
+#include "tests/support/certificates.h"
 
 namespace Bench {
 
@@ -19,8 +19,8 @@ inline std::string HostNumber(size_t number) {
 // An X.509 certificate with an empty subject, a key of no octets and `count` alternative names.
 inline std::string CertificateOfHosts(size_t count) {
   std::string names;
-  for (size_t i = 0; i < count; ++i) names += Element('\x82', HostNumber(i));
-  return Ortholan::testing::CertificateWithNames(Element('\x30', names));
+  for (size_t i = 0; i < count; ++i) names += Tlv(0x82, HostNumber(i));
+  return Ortholan::testing::CertificateWithNames(Tlv(0x30, names));
 }
 
 // `is_for` takes the octets of a certificate and a host.

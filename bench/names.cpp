@@ -60,21 +60,6 @@ Attributes LargeCyrillicValue(size_t size) {
   return {{"O", "2.5.4.10", value}};
 }
 
-std::string Element(char tag, std::string_view content) {
-  std::string element(1, tag);
-  std::string length;
-  for (size_t rest = content.size(); rest != 0; rest >>= 8) {
-    length.insert(length.begin(), static_cast<char>(rest & 0xFF));
-  }
-  if (content.size() < 0x80) {
-    element += static_cast<char>(content.size());
-  } else {
-    element += static_cast<char>(0x80 | length.size());
-    element += length;
-  }
-  return element.append(content);
-}
-
 std::string OidElement(std::string_view dotted) {
   std::vector<uint32_t> arcs(1);
   for (const char c : dotted) {
@@ -86,7 +71,7 @@ std::string OidElement(std::string_view dotted) {
   }
   std::string content = Base128(arcs[0] * 40 + arcs[1]);
   for (size_t i = 2; i < arcs.size(); ++i) content += Base128(arcs[i]);
-  return Element(0x06, content);
+  return Tlv(0x06, content);
 }
 
 Attributes Disguised(Attributes attributes) {
@@ -122,10 +107,10 @@ std::string ToDer(const Attributes& attributes, char tag) {
   std::string rdns;
   for (const Attribute& attribute : attributes) {
     const char value_tag = attribute.oid == kCountryOid ? kPrintableString : tag;
-    const std::string pair = OidElement(attribute.oid) + Element(value_tag, attribute.value);
-    rdns += Element(0x31, Element(0x30, pair));
+    const std::string pair = OidElement(attribute.oid) + Tlv(value_tag, attribute.value);
+    rdns += Tlv(0x31, Tlv(0x30, pair));
   }
-  return Element(0x30, rdns);
+  return Tlv(0x30, rdns);
 }
 
 std::string ToText(const Attributes& attributes, const TextForm& form) {

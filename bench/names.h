@@ -9,7 +9,11 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/der.h"
+
 namespace Bench {
+
+using Ortholan::testing::Tlv;
 
 struct Attribute {
   std::string keyword;  // as the platform calls the type
@@ -54,8 +58,6 @@ std::string ToText(const Attributes& attributes, const TextForm& form);
 using Pairs = std::vector<std::pair<std::string, std::string>>;  // dotted type, value
 Pairs ToPairs(const Attributes& attributes);
 
-// Bytes of one element: identifier octet, length, content.
-std::string Element(char tag, std::string_view content);
 // An OBJECT IDENTIFIER from dotted text.
 std::string OidElement(std::string_view dotted);
 

@@ -13,7 +13,7 @@ inline constexpr char kRegisteredOid[] = "1.2.840.113556.1.2.141";
 inline constexpr char kExtensionOid[] = "2.5.29.19";
 
 // [2] IMPLICIT IA5String
-inline std::string DnsNameDer() { return Element('\x82', kDnsName); }
+inline std::string DnsNameDer() { return Tlv(0x82, kDnsName); }
 
 // [8] IMPLICIT OBJECT IDENTIFIER
 inline std::string RegisteredIdDer() {
@@ -24,13 +24,12 @@ inline std::string RegisteredIdDer() {
 
 // The value of basicConstraints with cA and a path length of 0.
 inline std::string ExtensionValue() {
-  return Element('\x30', Element('\x01', "\xFF") + Element('\x02', std::string(1, '\0')));
+  return Tlv(0x30, Tlv(0x01, "\xFF") + Tlv(0x02, std::string(1, '\0')));
 }
 
 // That extension, critical, as a record.
 inline std::string ExtensionRecord() {
-  return Element('\x30', OidElement(kExtensionOid) + Element('\x01', "\xFF") +
-                             Element('\x04', ExtensionValue()));
+  return Tlv(0x30, OidElement(kExtensionOid) + Tlv(0x01, "\xFF") + Tlv(0x04, ExtensionValue()));
 }
 
 }  // namespace Bench

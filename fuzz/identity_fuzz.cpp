@@ -5,10 +5,10 @@
 #include <string>
 
 #include "bytes/ascii.h"
-#include "bytes/der_length.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
+#include "tests/support/der.h"
 
 namespace Ortholan::fuzzing {
 namespace {
@@ -19,12 +19,6 @@ using ortholan::Reference;
 
 constexpr Reference (*kKinds[])(std::string_view text) = {
     Reference::Host, Reference::Address, Reference::Mailbox, Reference::Uri, Reference::Service};
-
-std::string Element(char identifier, const std::string& content) {
-  uint8_t length[16];
-  uint8_t* const end = WriteLength(length, content.size());
-  return identifier + std::string(length, end) + content;
-}
 
 std::string Lower(std::string_view text) {
   std::string lower(text);
@@ -61,7 +55,7 @@ void CheckText(Octets name) {
 }
 
 void CheckNames(const std::string& elements, const std::string& text, const Reference& reference) {
-  const std::string names = Element('\x30', elements);
+  const std::string names = testing::Tlv(0x30, elements);
   const auto identity = ortholan::IdentifyByNames(Octets(names), reference);
   if (!identity) {
     LAW(identity.refusal().offset <= text.size());
@@ -76,7 +70,8 @@ void CheckNames(const std::string& elements, const std::string& text, const Refe
   for (const ortholan::Mismatch& mismatch : mismatches) CheckText(mismatch.name);
   if (!identity->matches()) return;
   // Names beside it, well-formed or not, take nothing away.
-  LAW(Matches(Element('\x30', "\x87\x01x" + elements + Element('\x82', "x.example")), reference));
+  LAW(Matches(testing::Tlv(0x30, "\x87\x01x" + elements + testing::Tlv(0x82, "x.example")),
+              reference));
   if (reference.get()->kind == ORTHOLAN_REFERENCE_HOST) CheckHostMatch(*identity, names, text);
 }
 

@@ -2,13 +2,13 @@
 // and is what keys say, subtrees are beginnings of keys, the string type of a text does not matter.
 #include <string>
 
-#include "bytes/der_length.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
 #include "strict/der/string_value.h"
 #include "strict/matching/match_key.h"
 #include "strict/matching/match_names.h"
+#include "tests/support/der.h"
 
 namespace Ortholan::fuzzing {
 namespace {
@@ -39,12 +39,6 @@ constexpr const char* kPieces[] = {"a",
                                    "\xC3\x9F",
                                    "@"};
 
-std::string Element(uint8_t tag, const std::string& content) {
-  uint8_t header[16];
-  uint8_t* const end = WriteHeader(header, tag, content.size());
-  return std::string(header, end) + content;
-}
-
 std::string Text(Input* input) {
   std::string text;
   for (size_t pieces = input->Below(6); pieces != 0; --pieces) text += input->Pick(kPieces);
@@ -66,11 +60,11 @@ std::string InUnits(const std::string& text, size_t unit) {
 
 std::string Value(uint8_t tag, const std::string& text) {
   const size_t unit = tag == kBmpString ? 2 : tag == kUniversalString ? 4 : 0;
-  return Element(tag, unit != 0 ? InUnits(text, unit) : text);
+  return testing::Tlv(tag, unit != 0 ? InUnits(text, unit) : text);
 }
 
 std::string AttributeOf(const std::string& type, const std::string& value) {
-  return Element(kSequence, Element(kOid, type) + value);
+  return testing::Tlv(kSequence, testing::Tlv(kOid, type) + value);
 }
 
 std::string Rdn(Input* input) {
@@ -80,7 +74,7 @@ std::string Rdn(Input* input) {
     const uint8_t tag = input->Pick(kTags);
     attributes += AttributeOf(type, Value(tag, Text(input)));
   }
-  return Element(kSet, attributes);
+  return testing::Tlv(kSet, attributes);
 }
 
 NameView Read(const std::string& der) {
@@ -113,7 +107,8 @@ void CheckPair(const NameView& a, const NameView& b, MatchRule rule, RdnOrder or
 // The same text in two string types that can hold it.
 void CheckTypes(const std::string& text) {
   const auto name = [&](uint8_t tag) {
-    return Element(kSequence, Element(kSet, AttributeOf(kMatchedTypes[0], Value(tag, text))));
+    return testing::Tlv(kSequence,
+                        testing::Tlv(kSet, AttributeOf(kMatchedTypes[0], Value(tag, text))));
   };
   const std::string utf8 = name(kUtf8String);
   const std::string units = name(kUniversalString);
@@ -131,7 +126,7 @@ void FuzzMatching(const uint8_t* data, size_t size) {
   for (std::string& name : names) {
     std::string rdns;
     for (size_t count = input.Below(4); count != 0; --count) rdns += Rdn(&input);
-    name = Element(kSequence, rdns);
+    name = testing::Tlv(kSequence, rdns);
   }
   CheckTypes(Text(&input));
   for (const MatchRule rule : {MatchRule::kRfc5280, MatchRule::kAsciiCase, MatchRule::kOctets}) {

@@ -7,19 +7,13 @@
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
+#include "tests/support/der.h"
 
 namespace Ortholan::fuzzing {
 namespace {
 
 ortholan_octets OctetsOf(const std::string& octets) {
   return {reinterpret_cast<const uint8_t*>(octets.data()), octets.size()};
-}
-
-std::string Der(uint8_t identifier, const std::string& content) {
-  std::string element = {static_cast<char>(identifier)};
-  if (content.size() >= 0x80) element += content.size() > 0xFF ? '\x82' : '\x81';
-  if (content.size() > 0xFF) element += static_cast<char>(content.size() >> 8);
-  return element + static_cast<char>(content.size()) + content;
 }
 
 ortholan_verdict Ask(const std::string& constraints, const std::string& subject,
@@ -47,8 +41,8 @@ std::string List(Input* input, bool areSubtrees) {
   std::string list;
   for (size_t i = 1 + input->Below(8); i != 0; --i) {
     const uint8_t kinds[] = {0x81, 0x82, 0x86, 0x87, 0x88, 0xA4, 0xA0};
-    const std::string name = Der(input->Pick(kinds), input->Bytes(input->Below(40)));
-    list += areSubtrees ? Der(0x30, name) : name;
+    const std::string name = testing::Tlv(input->Pick(kinds), input->Bytes(input->Below(40)));
+    list += areSubtrees ? testing::Tlv(0x30, name) : name;
   }
   return list;
 }
@@ -65,9 +59,10 @@ void FuzzNameConstraints(const uint8_t* data, size_t size) {
   }
   const std::string permitted = List(&input, true);
   const std::string excluded = List(&input, true);
-  const std::string names = Der(0x30, List(&input, false));
-  const std::string wide = Der(0x30, Der(0xA0, permitted));
-  const std::string both = Der(0x30, Der(0xA0, permitted) + Der(0xA1, excluded));
+  const std::string names = testing::Tlv(0x30, List(&input, false));
+  const std::string wide = testing::Tlv(0x30, testing::Tlv(0xA0, permitted));
+  const std::string both =
+      testing::Tlv(0x30, testing::Tlv(0xA0, permitted) + testing::Tlv(0xA1, excluded));
   const ortholan_verdict with_both = Ask(both, {}, names, 0);
   // What is excluded besides never permits, nor does a budget that ends.
   LAW(with_both != ORTHOLAN_VERDICT_YES || Ask(wide, {}, names, 0) == ORTHOLAN_VERDICT_YES);
@@ -75,7 +70,7 @@ void FuzzNameConstraints(const uint8_t* data, size_t size) {
   // The tables of long lists answer as the walk over short ones does.
   std::string often;
   for (int i = 0; i < 40; ++i) often += permitted;
-  LAW(Ask(Der(0x30, Der(0xA0, often)), {}, names, 0) == Ask(wide, {}, names, 0));
+  LAW(Ask(testing::Tlv(0x30, testing::Tlv(0xA0, often)), {}, names, 0) == Ask(wide, {}, names, 0));
 }
 
 }  // namespace Ortholan::fuzzing

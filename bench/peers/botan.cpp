@@ -106,7 +106,7 @@ void AddGeneralName() {
 
 // Extensions come as the whole field, here of the one.
 void AddExtension() {
-  const Octets field = ToOctets(Element('\x30', ExtensionRecord()));
+  const Octets field = ToOctets(Tlv(0x30, ExtensionRecord()));
   const auto read = [field] {
     Botan::Extensions extensions;
     Botan::BER_Decoder(field).decode(extensions);

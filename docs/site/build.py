@@ -17,7 +17,7 @@ import chart
 
 # In the order that they are read in; a page that nobody named follows.
 GUIDES = ["docs/getting-started", "docs/recipes", "docs/identity", "docs/constraints", "docs/extensions",
-          "docs/matching", "docs/show", "docs/streams", "docs/x509name", "docs/c-interface", "docs/python",
+          "docs/matching", "docs/show", "docs/program", "docs/streams", "docs/x509name", "docs/c-interface", "docs/python",
           "docs/javascript", "docs/languages"]
 NAMES = ["docs/name-text", "docs/rfc4514", "docs/der", "docs/structures", "docs/status-codes"]
 LINK = re.compile(r"\[([^\]\n]*)\]\(([^)\s]+)\)")

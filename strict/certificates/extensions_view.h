@@ -7,10 +7,9 @@
 #ifndef ORTHOLAN_STRICT_CERTIFICATES_EXTENSIONS_VIEW_H_
 #define ORTHOLAN_STRICT_CERTIFICATES_EXTENSIONS_VIEW_H_
 
-#include <iterator>
-
 #include "bytes/byte_view.h"
 #include "strict/der/element.h"
+#include "strict/der/view_iterator.h"
 
 namespace Ortholan::strict {
 
@@ -23,40 +22,19 @@ struct ExtensionView {
   bool critical = false;
 };
 
+// Checked extensions, one by one.
+struct ExtensionWalk {
+  ExtensionWalk() = default;
+  explicit ExtensionWalk(ByteView content) : rest(content) {}
+  void Step();
+
+  ExtensionView part;
+  ByteView rest;  // behind the part
+};
+
 class ExtensionsView {
  public:
-  class Iterator {
-   public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = ExtensionView;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const ExtensionView*;
-    using reference = const ExtensionView&;
-
-    Iterator() = default;
-    // At the first of checked extensions.
-    explicit Iterator(ByteView rest) : rest_(rest) { Step(); }
-
-    reference operator*() const { return extension_; }
-    pointer operator->() const { return &extension_; }
-    Iterator& operator++() {
-      Step();
-      return *this;
-    }
-    bool operator==(const Iterator& other) const {
-      return extension_.bytes.data == other.extension_.bytes.data;
-    }
-    bool operator!=(const Iterator& other) const { return !(*this == other); }
-
-   private:
-    void Step() {
-      extension_ = First(rest_);
-      rest_ = rest_.From(extension_.bytes.size);
-    }
-
-    ByteView rest_;
-    ExtensionView extension_;  // without octets at the end
-  };
+  using Iterator = ViewIterator<ExtensionWalk>;
 
   // No extensions.
   ExtensionsView() = default;
@@ -85,6 +63,11 @@ class ExtensionsView {
   ByteView content_;
   size_t size_ = 0;
 };
+
+inline void ExtensionWalk::Step() {
+  part = ExtensionsView::First(rest);
+  rest = rest.From(part.bytes.size);
+}
 
 }  // namespace Ortholan::strict
 

@@ -2,7 +2,6 @@
 #ifndef ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
 #define ORTHOLAN_STRICT_CONSTRAINTS_NAME_FORM_H_
 
-#include <cstddef>
 #include <cstdint>
 
 namespace Ortholan::strict {
@@ -22,7 +21,6 @@ enum class NameForm : uint8_t {
   kEdiParty,
   kRegisteredId,
 };
-constexpr size_t kNameForms = 10;
 
 // A set of forms.
 class FormSet {

@@ -1,5 +1,6 @@
 #include "strict/der/any_value.h"
 
+#include "strict/der/integer.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
 
@@ -20,13 +21,6 @@ bool HasItsForm(uint8_t identifier) {
   // Numbers of 31 and more are types that are encoded as one pleases.
   if ((identifier & kLongTag) == kLongTag) return true;
   return (type & kNoTypes) == 0 && constructed == ((type & kConstructedTypes) != 0);
-}
-
-// 8.3.2
-bool IsInteger(ByteView content) {
-  if (content.size < 2) return !content.empty();
-  const bool repeats = content[0] == (content[1] >= 0x80 ? 0xFF : 0x00);
-  return !repeats;
 }
 
 // 8.6.2, 11.2.1
@@ -52,11 +46,11 @@ struct ContentRule {
 
 constexpr ContentRule kContents[] = {
     {kBoolean, IsBoolean, ORTHOLAN_REASON_BOOLEAN},
-    {kInteger, IsInteger, ORTHOLAN_REASON_INTEGER},
+    {kInteger, IsMinimalInteger, ORTHOLAN_REASON_INTEGER},
     {kBitString, IsBitString, ORTHOLAN_REASON_BIT_STRING},
     {kNull, IsNull, ORTHOLAN_REASON_NULL},
     {kOid, IsIdentifier, ORTHOLAN_REASON_OID},
-    {kEnumerated, IsInteger, ORTHOLAN_REASON_INTEGER},
+    {kEnumerated, IsMinimalInteger, ORTHOLAN_REASON_INTEGER},
 };
 
 bool CheckElement(const Element& element, Leniency leniency, Refusal* refusal) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "strict/certificates/time_text.h"
+#include "strict/der/integer.h"
 #include "strict/der/string_value.h"
 #include "strict/extensions/json_fields.h"
 #include "strict/extensions/leaf_text.h"
@@ -31,20 +32,6 @@ bool NullOf(const Shape&, const JsonValue& json, std::string* content, Refusal* 
   return json.form == JsonForm::kNull || RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
 }
 
-// X.690 8.3.2: as few octets as hold the number and its sign.
-std::string ContentOf(int64_t number) {
-  std::string content;
-  int64_t rest = number;
-  do {
-    content += static_cast<char>(rest & 0xFF);
-    rest >>= 8;
-  } while (rest != 0 && rest != -1);
-  const bool ends_negative = (static_cast<uint8_t>(content.back()) & 0x80) != 0;
-  if (ends_negative != (number < 0)) content += number < 0 ? '\xFF' : '\0';
-  std::reverse(content.begin(), content.end());
-  return content;
-}
-
 // The number that a word or digits stand for; false, without a refusal, for a string that is no
 // word.
 bool NumberOf(const Shape& shape, const JsonValue& json, int64_t* number) {
@@ -63,21 +50,17 @@ bool FailNumber(const JsonValue& json, Refusal* refusal) {
                     refusal);
 }
 
-bool IsMinimal(std::string_view content) {
-  if (content.size() < 2) return !content.empty();
-  const bool is_negative = (static_cast<uint8_t>(content[1]) & 0x80) != 0;
-  return content[0] != (is_negative ? '\xFF' : '\0');
-}
-
 bool IntegerOf(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal) {
   int64_t number = 0;
   if (NumberOf(shape, json, &number)) {
-    *content = ContentOf(number);
+    uint8_t octets[kMaxIntegerOctets];
+    content->assign(AsText({octets, WriteInteger(number, octets)}));
     return true;
   }
   if (!json.IsString()) return FailNumber(json, refusal);
   return OctetsOfJson(json, content, refusal) &&
-         (IsMinimal(*content) || RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal));
+         (IsMinimalInteger(AsBytes(content->data(), content->size())) ||
+          RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal));
 }
 
 // X.690 11.2: no zeros behind the last bit.

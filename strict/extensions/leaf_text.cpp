@@ -1,5 +1,6 @@
 #include "strict/extensions/leaf_text.h"
 
+#include "strict/der/integer.h"
 #include "strict/der/string_value.h"
 
 namespace Ortholan::strict {
@@ -27,10 +28,8 @@ constexpr int64_t kLargestShort = INT64_C(0x1FFFFFFFFFFFFF);  // 2^53 - 1
 
 bool IsShortInteger(ByteView content, int64_t* number) {
   if (content.size > 7) return false;
-  int64_t value = (content[0] & 0x80) != 0 ? -1 : 0;
-  for (const uint8_t octet : content) value = value * 256 + octet;
-  *number = value;
-  return value <= kLargestShort && value >= -kLargestShort;
+  *number = ReadInteger(content);
+  return *number <= kLargestShort && *number >= -kLargestShort;
 }
 
 void PutSigned(int64_t number, Output* out) {

@@ -3,6 +3,7 @@
 #include <ortholan/strict/extension_values.h>
 
 #include "strict/certificates/time_text.h"
+#include "strict/der/integer.h"
 #include "strict/extensions/moment.h"
 #include "strict/extensions/tls_reader.h"
 
@@ -14,9 +15,7 @@ ortholan_octets Octets(ByteView view) { return {view.data, view.size}; }
 ortholan_integer IntegerOf(ByteView content) {
   const bool is_negative = (content[0] & 0x80) != 0;
   if (content.size > 8) return {Octets(content), is_negative ? INT64_MIN : INT64_MAX};
-  uint64_t value = is_negative ? UINT64_MAX : 0;
-  for (const uint8_t octet : content) value = value << 8 | octet;
-  return {Octets(content), static_cast<int64_t>(value)};
+  return {Octets(content), ReadInteger(content)};
 }
 
 ortholan_bits ViewOfBits(ByteView content) {

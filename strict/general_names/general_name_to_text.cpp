@@ -1,5 +1,6 @@
 #include "strict/general_names/general_name_to_text.h"
 
+#include "strict/der/integer.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
@@ -35,13 +36,6 @@ void PutGuid(ByteView octets, Output* out) {
   }
 }
 
-// The number of a Kerberos name's type, which has four octets at most.
-int64_t SignedNumber(ByteView content) {
-  int64_t number = (content[0] & 0x80) != 0 ? -1 : 0;
-  for (const uint8_t octet : content) number = number * 256 + octet;
-  return number;
-}
-
 void PutKerberos(const OtherName& other, Output* out) {
   Reader components(other.components, Leniency::kLenient, nullptr);
   for (Element component; !components.AtEnd() && components.Read(&component);) {
@@ -50,7 +44,7 @@ void PutKerberos(const OtherName& other, Output* out) {
   }
   out->Put('@');
   PutEscapedText(other.text, Characters::kAscii, "/@;", out);
-  const int64_t type = SignedNumber(other.name_type);
+  const int64_t type = ReadInteger(other.name_type);
   if (type == kKerberosPrincipal) return;
   out->Put(type < 0 ? ";-" : ";");
   PutDecimal(static_cast<uint64_t>(type < 0 ? -type : type), out);

@@ -98,13 +98,13 @@ bool GeneralNamesView::ReadContent(ByteView content, Leniency leniency, GeneralN
 }
 
 // What was checked is read again without a look at the rules.
-void GeneralNamesView::Iterator::Step() {
+void GeneralNameWalk::Step() {
   Element element;
-  Reader list(rest_, Leniency::kLenient, nullptr);
+  Reader list(rest, Leniency::kLenient, nullptr);
   if (!list.AtEnd()) list.Read(&element);
-  name_ = {static_cast<GeneralNameKind>(element.identifier & kLongTag), element.content,
-           element.bytes};
-  rest_ = list.rest();
+  part = {static_cast<GeneralNameKind>(element.identifier & kLongTag), element.content,
+          element.bytes};
+  rest = list.rest();
 }
 
 }  // namespace Ortholan::strict

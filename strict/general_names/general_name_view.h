@@ -10,11 +10,10 @@
 
 #include <ortholan/strict/general_names.h>
 
-#include <iterator>
-
 #include "bytes/byte_view.h"
 #include "strict/der/element.h"
 #include "strict/der/reader.h"
+#include "strict/der/view_iterator.h"
 
 namespace Ortholan::strict {
 
@@ -82,37 +81,19 @@ inline bool GeneralNameView::Read(Reader* list, GeneralNameView* name) {
   return FromElement(element, name) || Reader(before).RefuseHere(ORTHOLAN_REASON_GENERAL_NAME);
 }
 
+// Checked general names, one by one.
+struct GeneralNameWalk {
+  GeneralNameWalk() = default;
+  explicit GeneralNameWalk(ByteView content) : rest(content) {}
+  void Step();
+
+  GeneralNameView part;
+  ByteView rest;  // behind the part
+};
+
 class GeneralNamesView {
  public:
-  class Iterator {
-   public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = GeneralNameView;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const GeneralNameView*;
-    using reference = const GeneralNameView&;
-
-    Iterator() = default;
-    // At the first of checked names.
-    explicit Iterator(ByteView rest) : rest_(rest) { Step(); }
-
-    reference operator*() const { return name_; }
-    pointer operator->() const { return &name_; }
-    Iterator& operator++() {
-      Step();
-      return *this;
-    }
-    bool operator==(const Iterator& other) const {
-      return name_.bytes.data == other.name_.bytes.data;
-    }
-    bool operator!=(const Iterator& other) const { return !(*this == other); }
-
-   private:
-    void Step();
-
-    ByteView rest_;
-    GeneralNameView name_;  // without octets at the end
-  };
+  using Iterator = ViewIterator<GeneralNameWalk>;
 
   // No names.
   GeneralNamesView() = default;

@@ -71,11 +71,6 @@ constexpr std::string_view BehindFirstLabel(std::string_view host) {
   return dot == std::string_view::npos ? std::string_view() : host.substr(dot + 1);
 }
 
-// Whether a label is of the form that stands for letters beyond ASCII (RFC 5890 2.3.2.1).
-inline bool IsALabel(std::string_view label) {
-  return label.size() > 4 && SameWithoutCase(label.substr(0, 4), "xn--");
-}
-
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_GENERAL_NAMES_HOST_H_

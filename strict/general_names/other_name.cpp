@@ -1,6 +1,7 @@
 #include "strict/general_names/other_name.h"
 
 #include "bytes/oid_constant.h"
+#include "strict/der/integer.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/general_names/guid.h"
@@ -49,10 +50,8 @@ bool ReadTagged(Reader* fields, uint8_t number, uint8_t identifier, ByteView* co
 
 // An Int32 of RFC 4120 5.2.4.
 bool CheckInt32(ByteView content, Reader* reader) {
-  const bool is_minimal =
-      content.size == 1 || (content.size > 1 && !(content[0] == 0 && content[1] < 0x80) &&
-                            !(content[0] == 0xFF && content[1] >= 0x80));
-  return (is_minimal && content.size <= 4) || RefuseIn(reader, content, 0, ORTHOLAN_REASON_INTEGER);
+  return (IsMinimalInteger(content) && content.size <= sizeof(int32_t)) ||
+         RefuseIn(reader, content, 0, ORTHOLAN_REASON_INTEGER);
 }
 
 bool ReadPrincipal(ByteView content, Reader* outer, OtherName* name) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "bytes/hex.h"
+#include "strict/der/integer.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
 #include "strict/der/string_value.h"
@@ -202,14 +203,10 @@ class NameParser {
   }
 
   void PutInteger(int64_t number) {
-    const size_t end = out_->size();
-    for (;;) {
-      const auto octet = static_cast<uint8_t>(number & 0xFF);
-      out_->Put(octet);
-      number = (number - octet) / 256;
-      if (number == ((octet & 0x80) != 0 ? -1 : 0)) break;
-    }
-    out_->PutHeader(kInteger, out_->size() - end);
+    uint8_t octets[kMaxIntegerOctets];
+    const size_t size = WriteInteger(number, octets);
+    out_->Put({octets, size});
+    out_->PutHeader(kInteger, size);
   }
 
   // "1.2.3;value", of which either may be missing.

@@ -103,19 +103,19 @@ bool NextAttribute(ByteView* attributes, AttributeView* attribute) {
   return fields.Read(kOid, &attribute->type) && fields.Read(&attribute->value);
 }
 
-void NameView::Iterator::Step() {
-  attribute_.begins_rdn = attributes_.empty();
+void NameWalk::Step() {
+  part.begins_rdn = attributes_.empty();
   if (attributes_.empty()) {
     Element rdn;
     if (!NextRdn(&rdns_, &rdn)) {
-      attribute_ = {};
+      part = {};
       return;
     }
     attributes_ = rdn.content;
-    attribute_.rdn = attributes_;
-    attribute_.rdn_index = next_rdn_++;
+    part.rdn = attributes_;
+    part.rdn_index = next_rdn_++;
   }
-  if (!NextAttribute(&attributes_, &attribute_)) attribute_ = {};
+  if (!NextAttribute(&attributes_, &part)) part = {};
 }
 
 BackwardRdns::BackwardRdns(const NameView& name) : count_(name.rdn_count()) {

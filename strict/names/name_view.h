@@ -7,11 +7,11 @@
 #ifndef ORTHOLAN_STRICT_NAMES_NAME_VIEW_H_
 #define ORTHOLAN_STRICT_NAMES_NAME_VIEW_H_
 
-#include <iterator>
 #include <vector>
 
 #include "bytes/byte_view.h"
 #include "strict/der/element.h"
+#include "strict/der/view_iterator.h"
 
 namespace Ortholan::strict {
 
@@ -35,39 +35,24 @@ bool NextAttribute(ByteView* attributes, AttributeView* attribute);
 // Checks the content of one RDN, and adds its attributes to the count.
 bool CheckRdn(ByteView content, Leniency leniency, Refusal* refusal, size_t* count);
 
+// The attributes of checked RDNs, one by one.
+class NameWalk {
+ public:
+  NameWalk() = default;
+  explicit NameWalk(ByteView rdns) : rdns_(rdns) {}
+  void Step();
+
+  AttributeView part;
+
+ private:
+  ByteView rdns_;        // those not entered yet
+  ByteView attributes_;  // of the present RDN, those not read yet
+  size_t next_rdn_ = 0;
+};
+
 class NameView {
  public:
-  class Iterator {
-   public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = AttributeView;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const AttributeView*;
-    using reference = const AttributeView&;
-
-    Iterator() = default;
-    // At the first attribute of checked RDNs.
-    explicit Iterator(ByteView rdns) : rdns_(rdns) { Step(); }
-
-    reference operator*() const { return attribute_; }
-    pointer operator->() const { return &attribute_; }
-    Iterator& operator++() {
-      Step();
-      return *this;
-    }
-    bool operator==(const Iterator& other) const {
-      return attribute_.bytes.data == other.attribute_.bytes.data;
-    }
-    bool operator!=(const Iterator& other) const { return !(*this == other); }
-
-   private:
-    void Step();
-
-    ByteView rdns_;        // those not entered yet
-    ByteView attributes_;  // of the present RDN, those not read yet
-    size_t next_rdn_ = 0;
-    AttributeView attribute_;  // without octets at the end
-  };
+  using Iterator = ViewIterator<NameWalk>;
 
   // The name without RDNs.
   NameView() = default;

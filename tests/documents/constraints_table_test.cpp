@@ -21,7 +21,7 @@ std::string General(const std::string& text) {
   } kRaw[] = {{"DNS:", 0x82}, {"email:", 0x81}, {"URI:", 0x86}};
   for (const auto& raw : kRaw) {
     if (text.compare(0, raw.kind.size(), raw.kind) == 0) {
-      return Der(raw.tag, text.substr(raw.kind.size()));
+      return Tlv(raw.tag, text.substr(raw.kind.size()));
     }
   }
   const std::vector<uint8_t> name = ortholan::GeneralNameFromText(text, true).value();
@@ -46,9 +46,9 @@ TEST(ConstraintsPage, HoldsForTheLibrary) {
   for (const TableRow& row : rows) {
     SCOPED_TRACE(row.label + ": " + row.cells[0].text + ", " + row.cells[1].text);
     const bool is_permitted = row.cells[0].text.find("permitted") == 0;
-    const std::string list = Der(0x30, General(row.cells[0].Value()));
-    const std::string constraints = Der(0x30, Der(is_permitted ? 0xA0 : 0xA1, list));
-    const std::string names = Der(0x30, General(row.cells[1].Value()));
+    const std::string list = Tlv(0x30, General(row.cells[0].Value()));
+    const std::string constraints = Tlv(0x30, Tlv(is_permitted ? 0xA0 : 0xA1, list));
+    const std::string names = Tlv(0x30, General(row.cells[1].Value()));
     EXPECT_EQ(Answer(ortholan::PermitsNames(constraints, {}, names)), row.cells[2].Value());
   }
 }

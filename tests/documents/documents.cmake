@@ -18,7 +18,6 @@ if(NOT ORTHOLAN_CHECK_SOURCES)
   return()
 endif()
 ortholan_test(document_tests SHARED documents/page.cpp documents/tables_test.cpp
-  documents/constraints_table_test.cpp documents/check_table_test.cpp documents/extensions_table_test.cpp
-  support/certificates.cpp)
+  documents/constraints_table_test.cpp documents/check_table_test.cpp documents/extensions_table_test.cpp)
 get_filename_component(root "${ORTHOLAN_TEST_ROOT}" DIRECTORY)
 target_compile_definitions(document_tests PRIVATE ORTHOLAN_TEST_SOURCES="${root}")

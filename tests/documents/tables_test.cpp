@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <list>
+#include <map>
 #include <ortholan/strict.hpp>
 #include <ostream>
 #include <string>
@@ -37,11 +38,25 @@ bool Says(const Cell& cell, std::string_view word) {
   return cell.text.find(word) != std::string::npos;
 }
 
-// All numbers of the cell together.
+// All options of the cell together.
 DWORD Options(const Cell& cell) {
-  unsigned long word = 0;
-  for (const std::string& number : cell.code) word |= std::stoul(number, nullptr, 0);
-  return static_cast<DWORD>(word);
+  static const std::map<std::string, DWORD> kOptions = {
+      {"0", 0},
+      {"kEncodeComma", kEncodeComma},
+      {"kEncodeSemicolon", kEncodeSemicolon},
+      {"kEncodeCrLf", kEncodeCrLf},
+      {"kEncodeUtf8", kEncodeUtf8},
+      {"kEncodeAlways", kEncodeAlways},
+      {"kEncodeAlwaysUtf8", kEncodeAlwaysUtf8},
+      {"kStyleValues", kStyleValues},
+      {"kStyleOids", kStyleOids},
+      {"kStyleKeys", kStyleKeys},
+      {"kSeparateCrLf", kSeparateCrLf},
+      {"kSeparateSemicolon", kSeparateSemicolon},
+  };
+  DWORD word = 0;
+  for (const std::string& option : cell.code) word |= kOptions.at(option);
+  return word;
 }
 
 std::string Encoded(const std::string& text, DWORD options, bool sort) {
@@ -246,7 +261,7 @@ const Table kTables[] = {
     {"texts", "docs/name-text.md", "Text | Read as", CheckText},
     {"refusals", "docs/name-text.md", "Refused text | Fault | Message", CheckRefusal},
     {"attribute types", "docs/name-text.md",
-     "Rank | Identifier | Keywords, in any letter case | Rendered, style 3 | String type",
+     "Rank | Identifier | Keywords, in any letter case | Rendered as a key | String type",
      [](const std::vector<Cell>& cells) {
        if (cells[1].text != "any other") CheckAttributeType(cells);
      }},

@@ -10,6 +10,7 @@
 
 #include "processor_time.h"
 #include "tests/memory/counting_new.h"
+#include "tests/support/der.h"
 
 namespace Ortholan::testing {
 namespace {
@@ -19,20 +20,9 @@ constexpr std::size_t kScale = 8 * ORTHOLAN_TEST_SCALE;
 
 constexpr std::size_t kMiB = std::size_t{1} << 20;
 
-std::string Length(std::size_t length) {
-  if (length < 0x80) return std::string(1, static_cast<char>(length));
-  std::string octets;
-  for (; length != 0; length >>= 8) octets.insert(octets.begin(), static_cast<char>(length & 0xFF));
-  return static_cast<char>(0x80 | octets.size()) + octets;
-}
-
-std::string Wrap(char identifier, const std::string& content) {
-  return identifier + Length(content.size()) + content;
-}
-
 std::string Rdn(const std::string& value) {
   static const std::string kCommonName("\x06\x03\x55\x04\x03", 5);
-  return Wrap(0x31, Wrap(0x30, kCommonName + value));
+  return Tlv(0x31, Tlv(0x30, kCommonName + value));
 }
 
 std::string Repeated(const std::string& part, std::size_t count) {
@@ -47,7 +37,7 @@ std::string NestedDefinite(std::size_t levels) {
   std::string reversed("\x00\x05", 2);
   std::size_t size = 2;
   for (std::size_t i = 0; i < levels; ++i) {
-    std::string header = '\x30' + Length(size);
+    std::string header = '\x30' + LengthOctets(size);
     size += header.size();
     reversed.append(header.rbegin(), header.rend());
   }
@@ -96,19 +86,19 @@ TEST(Bounds, HugeNamesEndInTimeAndMemory) {
   const std::size_t rdns = 1000000 / kScale;
   const std::string printable("\x13\x01\x41", 3);
   const Row rows[] = {
-      {"a million RDNs", Der(Wrap(0x30, Repeated(Rdn(printable), rdns))), 8},
-      {"one value of 32 MiB",
-       Der(Wrap(0x30, Rdn(Wrap(0x13, std::string(32 * kMiB / kScale, 'a'))))), 8},
+      {"a million RDNs", Der(Tlv(0x30, Repeated(Rdn(printable), rdns))), 8},
+      {"one value of 32 MiB", Der(Tlv(0x30, Rdn(Tlv(0x13, std::string(32 * kMiB / kScale, 'a'))))),
+       8},
       {"one UTF-8 value of 32 MiB",
-       Der(Wrap(0x30, Rdn(Wrap(0x0C, Repeated("\xD0\x98", 16 * kMiB / kScale))))), 8},
+       Der(Tlv(0x30, Rdn(Tlv(0x0C, Repeated("\xD0\x98", 16 * kMiB / kScale))))), 8},
       {"64 MiB of hexadecimal",
-       Der(Wrap(0x30, Rdn(Wrap(0x04, std::string(64 * kMiB / kScale, '\x5A'))))), 16},
+       Der(Tlv(0x30, Rdn(Tlv(0x04, std::string(64 * kMiB / kScale, '\x5A'))))), 16},
       {"an identifier of 10,000 arcs",
-       Der(Wrap(0x30, Wrap(0x31, Wrap(0x30, Wrap(0x06, '\x55' + std::string(10000, '\x01')) +
-                                                printable)))),
+       Der(Tlv(0x30,
+               Tlv(0x31, Tlv(0x30, Tlv(0x06, '\x55' + std::string(10000, '\x01')) + printable)))),
        64},
-      {"definite nesting in a value", Der(Wrap(0x30, Rdn(NestedDefinite(1000000 / kScale)))), 16},
-      {"indefinite nesting in a value", Der(Wrap(0x30, Rdn(NestedIndefinite(1000000 / kScale)))),
+      {"definite nesting in a value", Der(Tlv(0x30, Rdn(NestedDefinite(1000000 / kScale)))), 16},
+      {"indefinite nesting in a value", Der(Tlv(0x30, Rdn(NestedIndefinite(1000000 / kScale)))),
        16},
       {"indefinite nesting", Der(NestedIndefinite(1000000 / kScale)), 16},
   };
@@ -166,15 +156,15 @@ TEST(Bounds, EqualNamesInReverseOrderCompareInTime) {
   const std::size_t rdns = 100000 / kScale;
   std::string forward;
   std::string backward;
-  const auto rdn = [](std::size_t i) { return Rdn(Wrap(0x13, std::to_string(i % 3 * i))); };
+  const auto rdn = [](std::size_t i) { return Rdn(Tlv(0x13, std::to_string(i % 3 * i))); };
   for (std::size_t i = 0; i < rdns; ++i) {
     forward += rdn(i);
     backward += rdn(rdns - 1 - i);
   }
-  const X509Name a(Der(Wrap(0x30, forward)));
-  const X509Name b(Der(Wrap(0x30, backward)));
+  const X509Name a(Der(Tlv(0x30, forward)));
+  const X509Name b(Der(Tlv(0x30, backward)));
   backward.back() ^= 1;
-  const X509Name other(Der(Wrap(0x30, backward)));
+  const X509Name other(Der(Tlv(0x30, backward)));
   EXPECT_LT(Seconds([&] { EXPECT_TRUE(a == b); }), kPatience);
   EXPECT_LT(Seconds([&] { EXPECT_FALSE(a == other); }), kPatience);
 }

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "tests/memory/counting_new.h"
-#include "tests/strict/certificate_shell.h"
+#include "tests/support/certificates.h"
 
 namespace Ortholan::testing {
 namespace {
@@ -35,10 +35,10 @@ const std::string kWide = DerOf("CN=a" + Repeated("+CN=B", 40));
 const std::string kWideOther = DerOf("CN=A" + Repeated("+CN=b", 40));
 const std::string kLongOid = "1.2" + Repeated(".4294967295", 10) + "=#0500";
 const std::string kMarks = Repeated("a name with a value ", 30) + Repeated("\xCC\x87\xCC\xA3", 40);
-const std::string kDirectory = Tlv('\xA4', kMany);
-const std::string kHosts = Tlv('\x30', Tlv('\xA0', Repeated(Tlv('\x30', Tlv('\x82', "a.b")), 100)));
-const std::string kDirectories = Tlv('\x30', Tlv('\xA1', Tlv('\x30', Tlv('\xA4', kWide))));
-const std::string kAlternative = Tlv('\x30', Tlv('\x82', "c.a.b"));
+const std::string kDirectory = Tlv(0xA4, kMany);
+const std::string kHosts = Tlv(0x30, Tlv(0xA0, Repeated(Tlv(0x30, Tlv(0x82, "a.b")), 100)));
+const std::string kDirectories = Tlv(0x30, Tlv(0xA1, Tlv(0x30, Tlv(0xA4, kWide))));
+const std::string kAlternative = Tlv(0x30, Tlv(0x82, "c.a.b"));
 const std::string kEmpty;
 const std::string kCertificate = CertificateOf("");
 const std::string kNamedCertificate = CertificateWithNames(kAlternative);

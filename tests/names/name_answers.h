@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "realisation.h"
+#include "tests/support/der.h"
 #include "tests/support/hex.h"
 
 namespace Ortholan::testing {
@@ -47,15 +48,6 @@ std::string Encoded(const char* left, Encode&& encode) {
   if (encode(der)) return Hex(der);
   const std::string refusal = Refusal();
   return Hex(der) == left ? refusal : refusal + " leaving " + Hex(der);
-}
-
-// A one-octet tag, the minimal definite length, the content.
-inline std::string Tlv(unsigned tag, const std::string& content) {
-  std::string octets(1, static_cast<char>(tag));
-  if (content.size() >= 0x100) octets += {'\x82', static_cast<char>(content.size() >> 8)};
-  if (content.size() >= 0x80 && content.size() < 0x100) octets += '\x81';
-  octets += static_cast<char>(content.size() & 0xFF);
-  return octets + content;
 }
 
 // A name of one attribute, from the attribute's content: identifier and value.

@@ -12,10 +12,12 @@
 #include <ortholan/strict/base.h>
 
 #include <exception>
+#include <iterator>
 #include <new>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -140,14 +142,73 @@ class [[nodiscard]] Result {
   Refusal refusal_;
 };
 
-// What a call that writes into room puts there, text or octets, or the reason of its refusal.
+// What a call that writes into room puts there, text or octets, or why it was refused. `call` takes
+// what WithRoom's does, and after that, where it can tell the place, a refusal to fill.
 template <class String, class Call>
-Result<String> MadeBy(Call call) {
+Result<String> MadeBy(Call call, size_t guess = 128) {
   String made;
-  const ortholan_reason reason = WithRoom(&made, call);
-  if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-  return made;
+  Refusal refusal;
+  const auto write = [&](auto* out, size_t room, size_t* size) {
+    if constexpr (std::is_invocable_v<Call, decltype(out), size_t, size_t*, Refusal*>) {
+      return call(out, room, size, &refusal);
+    } else {
+      return call(out, room, size);
+    }
+  };
+  const ortholan_reason reason = WithRoom(&made, write, guess);
+  if (reason == ORTHOLAN_REASON_NONE) return made;
+  return refusal.reason != ORTHOLAN_REASON_NONE ? refusal : Refusal(reason);
 }
+
+namespace detail {
+
+// What a C function reads into its structure.
+template <class Plain, class Call>
+Result<Plain> ReadPlain(Octets value, Reading reading, Call call) {
+  Plain plain;
+  Refusal refusal;
+  const ortholan_reason reason = call(value, static_cast<int32_t>(reading), &plain, &refusal);
+  if (reason != ORTHOLAN_REASON_NONE) return refusal;
+  return plain;
+}
+
+// The same as a value of C++ that is made of one.
+template <class Value, class Plain, class Call>
+Result<Value> ReadValue(Octets value, Reading reading, Call call) {
+  const Result<Plain> plain = ReadPlain<Plain>(value, reading, call);
+  if (!plain) return plain.refusal();
+  return Value(*plain);
+}
+
+// The iterator of a range over borrowed octets. A `Walk` stands at an item or at the end, steps to
+// the next one, and tells whether another stands at the same place.
+template <class Walk>
+class Iterator {
+ public:
+  using iterator_category = std::input_iterator_tag;
+  using reference = decltype(std::declval<const Walk&>().item());
+  using value_type = std::decay_t<reference>;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const value_type*;
+
+  Iterator() = default;
+  template <class... Parts>
+  explicit Iterator(const Parts&... parts) : walk_(parts...) {}
+
+  reference operator*() const { return walk_.item(); }
+  pointer operator->() const { return &walk_.item(); }
+  Iterator& operator++() {
+    walk_.Step();
+    return *this;
+  }
+  bool operator==(const Iterator& other) const { return walk_.IsAt(other.walk_); }
+  bool operator!=(const Iterator& other) const { return !(*this == other); }
+
+ private:
+  Walk walk_;
+};
+
+}  // namespace detail
 
 // An OBJECT IDENTIFIER's content octets as dotted text.
 inline Result<std::string> OidToText(Octets oid) {

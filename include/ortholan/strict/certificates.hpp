@@ -43,12 +43,10 @@ inline std::vector<Extension> ExtensionsOf(const ortholan_certificate_view& view
 
 // The extensions of a list that is the whole of `der`, Extensions of RFC 5280 4.1: views into it.
 inline Result<std::vector<Extension>> ReadExtensions(Octets der, Reading reading = Reading::kDer) {
-  ortholan_certificate_view view;
-  Refusal refusal;
-  const ortholan_reason reason =
-      ortholan_extensions_view_read(der, static_cast<int32_t>(reading), &view, &refusal);
-  if (reason != ORTHOLAN_REASON_NONE) return refusal;
-  return detail::ExtensionsOf(view);
+  const auto view =
+      detail::ReadPlain<ortholan_certificate_view>(der, reading, ortholan_extensions_view_read);
+  if (!view) return view.refusal();
+  return detail::ExtensionsOf(*view);
 }
 
 // The DER of such a list, in the order given. A refusal has the number of the extension in `met`.
@@ -57,26 +55,21 @@ inline Result<std::vector<uint8_t>> WriteExtensions(const std::vector<Extension>
   for (const Extension& each : extensions) {
     plain.push_back({each.oid, each.value, {nullptr, 0}, each.critical ? 1 : 0});
   }
-  std::vector<uint8_t> der;
-  Refusal refusal;
-  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
-    return ortholan_extensions_write(plain.data(), plain.size(), out, room, size, &refusal);
-  });
-  if (reason != ORTHOLAN_REASON_NONE) return refusal;
-  return der;
+  return MadeBy<std::vector<uint8_t>>(
+      [&plain](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
+        return ortholan_extensions_write(plain.data(), plain.size(), out, room, size, refusal);
+      });
 }
 
 // A certificate, a request or a CRL over borrowed octets.
 class Certificate {
  public:
+  // One that was read before.
+  explicit Certificate(const ortholan_certificate_view& view) : view_(view) {}
   // Reads what is the whole of `der`, whichever of the three it is.
   static Result<Certificate> Read(Octets der, Reading reading = Reading::kDer) {
-    Certificate certificate;
-    Refusal refusal;
-    const ortholan_reason reason = ortholan_certificate_view_read(
-        der, static_cast<int32_t>(reading), &certificate.view_, &refusal);
-    if (reason != ORTHOLAN_REASON_NONE) return refusal;
-    return certificate;
+    return detail::ReadValue<Certificate, ortholan_certificate_view>(
+        der, reading, ortholan_certificate_view_read);
   }
 
   CertificateKind kind() const { return static_cast<CertificateKind>(view_.kind); }
@@ -116,12 +109,9 @@ class Certificate {
 
  private:
   static Result<std::string> TimeText(Octets time) {
-    std::string text;
-    const ortholan_reason reason = WithRoom(&text, [time](char* out, size_t room, size_t* size) {
+    return MadeBy<std::string>([time](char* out, size_t room, size_t* size) {
       return ortholan_time_to_text(time, out, room, size);
     });
-    if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-    return text;
   }
 
   ortholan_certificate_view view_{};

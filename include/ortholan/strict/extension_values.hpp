@@ -18,24 +18,6 @@ namespace ortholan {
 
 namespace detail {
 
-// What a C function reads into its structure.
-template <class Plain, class Call>
-Result<Plain> ReadPlain(Octets value, Reading reading, Call call) {
-  Plain plain;
-  Refusal refusal;
-  const ortholan_reason reason = call(value, static_cast<int32_t>(reading), &plain, &refusal);
-  if (reason != ORTHOLAN_REASON_NONE) return refusal;
-  return plain;
-}
-
-// The same as a value of C++ that is made of one.
-template <class Value, class Plain, class Call>
-Result<Value> ReadValue(Octets value, Reading reading, Call call) {
-  const Result<Plain> plain = ReadPlain<Plain>(value, reading, call);
-  if (!plain) return plain.refusal();
-  return Value(*plain);
-}
-
 inline std::optional<int64_t> ToNumber(const ortholan_integer& number) {
   if (number.content.data == nullptr) return std::nullopt;
   return number.value;
@@ -60,6 +42,26 @@ inline std::string StringText(const ortholan_string& string) {
   return text;
 }
 
+// The values of a list, made one by one.
+template <class Value, class Plain, ortholan_reason (*kNext)(const ortholan_list*, size_t*, Plain*)>
+class ValueWalk {
+ public:
+  ValueWalk() = default;
+  explicit ValueWalk(const ortholan_list& list) : list_(list) { Step(); }
+
+  Value item() const { return Value(plain_); }
+  bool IsAt(const ValueWalk& other) const {
+    return is_there_ == other.is_there_ && (!is_there_ || offset_ == other.offset_);
+  }
+  void Step() { is_there_ = kNext(&list_, &offset_, &plain_) == ORTHOLAN_REASON_NONE; }
+
+ private:
+  ortholan_list list_{};
+  size_t offset_ = 0;  // behind the present one
+  Plain plain_{};
+  bool is_there_ = false;
+};
+
 }  // namespace detail
 
 // A list of values over borrowed octets; a range. `Value` is made of the structure that `kNext`
@@ -67,33 +69,7 @@ inline std::string StringText(const ortholan_string& string) {
 template <class Value, class Plain, ortholan_reason (*kNext)(const ortholan_list*, size_t*, Plain*)>
 class ValueList {
  public:
-  class Iterator {
-   public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = Value;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const Value*;
-    using reference = Value;
-
-    Iterator() = default;
-    explicit Iterator(const ortholan_list& list) : list_(list) { ++*this; }
-
-    Value operator*() const { return Value(plain_); }
-    Iterator& operator++() {
-      is_there_ = kNext(&list_, &offset_, &plain_) == ORTHOLAN_REASON_NONE;
-      return *this;
-    }
-    bool operator==(const Iterator& other) const {
-      return is_there_ == other.is_there_ && (!is_there_ || offset_ == other.offset_);
-    }
-    bool operator!=(const Iterator& other) const { return !(*this == other); }
-
-   private:
-    ortholan_list list_{};
-    size_t offset_ = 0;  // behind the present one
-    Plain plain_{};
-    bool is_there_ = false;
-  };
+  using Iterator = detail::Iterator<detail::ValueWalk<Value, Plain, kNext>>;
 
   ValueList() = default;
   explicit ValueList(const ortholan_list& list) : list_(list) {}

@@ -24,17 +24,8 @@ inline ExtensionType ToType(const ortholan_extension_type& type) {
   return {type.oid, type.name, type.title};
 }
 
-// What a call puts into room, or the refusal that it tells.
-template <class String, class Call>
-Result<String> MadeOrRefused(Call call) {
-  String made;
-  Refusal refusal;
-  const ortholan_reason reason = WithRoom(
-      &made, [&](auto* out, size_t room, size_t* size) { return call(out, room, size, &refusal); },
-      512);
-  if (reason != ORTHOLAN_REASON_NONE) return refusal;
-  return made;
-}
+// Room for most values.
+constexpr size_t kValueRoom = 512;
 
 }  // namespace detail
 
@@ -65,47 +56,53 @@ inline Result<std::vector<uint8_t>> ExtensionOid(std::string_view name) {
 // The value of an extension as JSON; <ortholan/strict/extensions.h> tells its forms.
 inline Result<std::string> ExtensionJson(Octets oid, Octets value,
                                          Reading reading = Reading::kDer) {
-  return detail::MadeOrRefused<std::string>(
+  return MadeBy<std::string>(
       [=](char* out, size_t room, size_t* size, Refusal* refusal) {
         return ortholan_extension_json(oid, value, static_cast<int32_t>(reading), out, room, size,
                                        refusal);
-      });
+      },
+      detail::kValueRoom);
 }
 
 // The same in plain words, a line for each fact.
 inline Result<std::string> ExtensionText(Octets oid, Octets value, Reading reading = Reading::kDer,
                                          size_t indent = 0) {
-  return detail::MadeOrRefused<std::string>(
+  return MadeBy<std::string>(
       [=](char* out, size_t room, size_t* size, Refusal* refusal) {
         return ortholan_extension_text(oid, value, static_cast<int32_t>(reading), indent, out, room,
                                        size, refusal);
-      });
+      },
+      detail::kValueRoom);
 }
 
 // All extensions of a certificate, a request, a CRL or a list by itself as a JSON array.
 inline Result<std::string> ExtensionsJson(Octets der, Reading reading = Reading::kDer) {
-  return detail::MadeOrRefused<std::string>([=](char* out, size_t room, size_t* size,
-                                                Refusal* refusal) {
-    return ortholan_extensions_json(der, static_cast<int32_t>(reading), out, room, size, refusal);
-  });
+  return MadeBy<std::string>(
+      [=](char* out, size_t room, size_t* size, Refusal* refusal) {
+        return ortholan_extensions_json(der, static_cast<int32_t>(reading), out, room, size,
+                                        refusal);
+      },
+      detail::kValueRoom);
 }
 
 // The value of an extension in DER from its JSON.
 //   type  name or dotted digits
 inline Result<std::vector<uint8_t>> ExtensionFromJson(std::string_view type,
                                                       std::string_view json) {
-  return detail::MadeOrRefused<std::vector<uint8_t>>(
+  return MadeBy<std::vector<uint8_t>>(
       [=](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
         return ortholan_extension_from_json(ToText(type), ToText(json), out, room, size, refusal);
-      });
+      },
+      detail::kValueRoom);
 }
 
 // A list of extensions in DER from a JSON array, or one extension from an object.
 inline Result<std::vector<uint8_t>> ExtensionsFromJson(std::string_view json) {
-  return detail::MadeOrRefused<std::vector<uint8_t>>(
+  return MadeBy<std::vector<uint8_t>>(
       [=](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
         return ortholan_extensions_from_json(ToText(json), out, room, size, refusal);
-      });
+      },
+      detail::kValueRoom);
 }
 
 }  // namespace ortholan

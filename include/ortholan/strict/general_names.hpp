@@ -10,7 +10,6 @@
 
 #include <ortholan/strict/general_names.h>
 
-#include <iterator>
 #include <ortholan/strict/base.hpp>
 
 namespace ortholan {
@@ -113,12 +112,8 @@ class GeneralName {
 
   // Reads one name that is the whole of `der`.
   static Result<GeneralName> Read(Octets der, Reading reading = Reading::kDer) {
-    GeneralName name;
-    Refusal refusal;
-    const ortholan_reason reason =
-        ortholan_general_name_view_read(der, static_cast<int32_t>(reading), &name.view_, &refusal);
-    if (reason != ORTHOLAN_REASON_NONE) return refusal;
-    return name;
+    return detail::ReadValue<GeneralName, ortholan_general_name_view>(
+        der, reading, ortholan_general_name_view_read);
   }
 
   NameKind kind() const { return static_cast<NameKind>(view_.kind); }
@@ -157,38 +152,36 @@ class GeneralName {
   ortholan_general_name_view view_{};
 };
 
+namespace detail {
+
+// The names of a list, one behind the other.
+class GeneralNameWalk {
+ public:
+  GeneralNameWalk() = default;
+  explicit GeneralNameWalk(const ortholan_general_names_view& names) : names_(names) { Step(); }
+
+  const GeneralName& item() const { return name_; }
+  bool IsAt(const GeneralNameWalk& other) const {
+    return name_.der().data() == other.name_.der().data();
+  }
+  void Step() {
+    ortholan_general_name_view view;
+    ortholan_general_names_view_next(&names_, &offset_, &view);
+    name_ = GeneralName(view);
+  }
+
+ private:
+  ortholan_general_names_view names_{};
+  size_t offset_ = 0;
+  GeneralName name_;  // without octets at the end
+};
+
+}  // namespace detail
+
 // A list of general names over borrowed octets; a range.
 class GeneralNames {
  public:
-  class Iterator {
-   public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = GeneralName;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const GeneralName*;
-    using reference = const GeneralName&;
-
-    Iterator() = default;
-    explicit Iterator(const ortholan_general_names_view& names) : names_(names) { ++*this; }
-
-    reference operator*() const { return name_; }
-    pointer operator->() const { return &name_; }
-    Iterator& operator++() {
-      ortholan_general_name_view view;
-      ortholan_general_names_view_next(&names_, &offset_, &view);
-      name_ = GeneralName(view);
-      return *this;
-    }
-    bool operator==(const Iterator& other) const {
-      return name_.der().data() == other.name_.der().data();
-    }
-    bool operator!=(const Iterator& other) const { return !(*this == other); }
-
-   private:
-    ortholan_general_names_view names_{};
-    size_t offset_ = 0;
-    GeneralName name_;  // without octets at the end
-  };
+  using Iterator = detail::Iterator<detail::GeneralNameWalk>;
 
   GeneralNames() = default;
   // Names that were read before.
@@ -196,12 +189,8 @@ class GeneralNames {
 
   // Reads a list that is the whole of `der`, the value of an alternative-name extension.
   static Result<GeneralNames> Read(Octets der, Reading reading = Reading::kDer) {
-    GeneralNames names;
-    Refusal refusal;
-    const ortholan_reason reason = ortholan_general_names_view_read(
-        der, static_cast<int32_t>(reading), &names.view_, &refusal);
-    if (reason != ORTHOLAN_REASON_NONE) return refusal;
-    return names;
+    return detail::ReadValue<GeneralNames, ortholan_general_names_view>(
+        der, reading, ortholan_general_names_view_read);
   }
 
   Iterator begin() const { return Iterator(view_); }
@@ -230,14 +219,11 @@ inline Result<std::vector<uint8_t>> AddressFromText(std::string_view text) {
 // The GeneralName of a text: "DNS:example.org", "IP:192.0.2.1", "UPN:joe@example.org".
 inline Result<std::vector<uint8_t>> GeneralNameFromText(std::string_view text,
                                                         bool allows_range = false) {
-  std::vector<uint8_t> der;
-  Refusal refusal;
-  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
-    return ortholan_general_name_from_text(ToText(text), allows_range ? 1 : 0, out, room, size,
-                                           &refusal);
-  });
-  if (reason != ORTHOLAN_REASON_NONE) return refusal;
-  return der;
+  const int32_t range = allows_range ? 1 : 0;
+  return MadeBy<std::vector<uint8_t>>(
+      [=](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
+        return ortholan_general_name_from_text(ToText(text), range, out, room, size, refusal);
+      });
 }
 
 enum class AlternativeNames : int32_t {
@@ -254,14 +240,11 @@ Result<std::vector<uint8_t>> AlternativeNamesFromText(const Texts& texts,
                                                       size_t* wrong = nullptr) {
   std::vector<ortholan_text> all;
   for (const auto& text : texts) all.push_back(ToText(text));
-  std::vector<uint8_t> der;
-  Refusal refusal;
-  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
-    return ortholan_alternative_names_from_text(all.data(), all.size(), static_cast<int32_t>(form),
-                                                out, room, size, wrong, &refusal);
-  });
-  if (reason != ORTHOLAN_REASON_NONE) return refusal;
-  return der;
+  return MadeBy<std::vector<uint8_t>>(
+      [&](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
+        return ortholan_alternative_names_from_text(
+            all.data(), all.size(), static_cast<int32_t>(form), out, room, size, wrong, refusal);
+      });
 }
 
 }  // namespace ortholan

@@ -81,14 +81,13 @@ class MatchKey {
  public:
   // Fails for what cannot be read as a Name.
   static Result<MatchKey> Of(Octets name, MatchRule rule = kRfc5280) {
-    std::string octets;
-    ortholan_refusal refusal = {};
-    const ortholan_reason reason = WithRoom(&octets, [&](char* out, size_t room, size_t* size) {
-      return ortholan_match_key(name, rule.word(), reinterpret_cast<uint8_t*>(out), room, size,
-                                &refusal);
-    });
-    if (reason != ORTHOLAN_REASON_NONE) return Refusal(refusal);
-    return MatchKey(std::move(octets));
+    Result<std::string> octets =
+        MadeBy<std::string>([&](char* out, size_t room, size_t* size, Refusal* refusal) {
+          return ortholan_match_key(name, rule.word(), reinterpret_cast<uint8_t*>(out), room, size,
+                                    refusal);
+        });
+    if (!octets) return octets.refusal();
+    return MatchKey(std::move(*octets));
   }
   // A key that was stored as octets.
   explicit MatchKey(std::string octets) : octets_(std::move(octets)) {}
@@ -112,13 +111,9 @@ class MatchKey {
 
 // The preparation of RFC 4518 for caseIgnoreMatch: UTF-8 in, prepared UTF-8 out.
 inline Result<std::string> PrepareText(std::string_view text) {
-  std::string prepared;
-  ortholan_refusal refusal = {};
-  const ortholan_reason reason = WithRoom(&prepared, [&](char* out, size_t room, size_t* size) {
-    return ortholan_prepare_text(ToText(text), out, room, size, &refusal);
+  return MadeBy<std::string>([text](char* out, size_t room, size_t* size, Refusal* refusal) {
+    return ortholan_prepare_text(ToText(text), out, room, size, refusal);
   });
-  if (reason != ORTHOLAN_REASON_NONE) return Refusal(refusal);
-  return prepared;
 }
 
 }  // namespace ortholan

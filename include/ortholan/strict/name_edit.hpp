@@ -37,13 +37,12 @@ inline ortholan_new_attribute Plain(const NewAttribute& attribute) {
 template <class Call>
 Result<Name> Written(const Rfc4514& options, size_t guess, Call call) {
   const PlainOptions plain(options);
-  Refusal refusal;
-  std::vector<uint8_t> der;
-  const auto write = [&](uint8_t* out, size_t room, size_t* size) {
-    return call(plain.get(), out, room, size, &refusal);
+  const auto write = [&](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
+    return call(plain.get(), out, room, size, refusal);
   };
-  if (WithRoom(&der, write, guess) != ORTHOLAN_REASON_NONE) return refusal;
-  return Name::FromDer(der, Reading::kStructure);
+  const auto der = MadeBy<std::vector<uint8_t>>(write, guess);
+  if (!der) return der.refusal();
+  return Name::FromDer(*der, Reading::kStructure);
 }
 
 }  // namespace detail

@@ -14,7 +14,6 @@
 #include <ortholan/strict/names.h>
 
 #include <functional>
-#include <iterator>
 #include <ortholan/strict/base.hpp>
 #include <string>
 #include <string_view>
@@ -67,72 +66,67 @@ class Attribute {
 
   // The value of a string in UTF-8.
   Result<std::string> Text() const {
-    std::string text;
-    const ortholan_reason reason = WithRoom(&text, [this](char* out, size_t room, size_t* size) {
+    return MadeBy<std::string>([this](char* out, size_t room, size_t* size) {
       return ortholan_attribute_view_text(&view_, out, room, size);
     });
-    if (reason != ORTHOLAN_REASON_NONE) return Refusal(reason);
-    return text;
   }
 
  private:
   ortholan_attribute_view view_;
 };
 
+namespace detail {
+
+// The attributes of a name, by their number.
+class AttributeWalk {
+ public:
+  AttributeWalk() = default;
+  AttributeWalk(const ortholan_name_view& name, size_t index) : name_(name), index_(index) {
+    Read();
+  }
+
+  const Attribute& item() const { return attribute_; }
+  bool IsAt(const AttributeWalk& other) const { return index_ == other.index_; }
+  void Step() {
+    ++index_;
+    Read();
+  }
+
+ private:
+  void Read() {
+    ortholan_attribute_view view;
+    ortholan_name_view_attribute(&name_, index_, &cursor_, &view);
+    attribute_ = Attribute(view);
+  }
+
+  ortholan_name_view name_{};
+  size_t index_ = 0;
+  ortholan_name_cursor cursor_ = {};
+  Attribute attribute_;
+};
+
+}  // namespace detail
+
 // A name over borrowed octets, read once; a range of its attributes in the order of the encoding.
 class NameView {
  public:
-  class Iterator {
-   public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = Attribute;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const Attribute*;
-    using reference = const Attribute&;
-
-    Iterator(const ortholan_name_view& name, size_t index) : name_(name), index_(index) { Read(); }
-
-    reference operator*() const { return attribute_; }
-    pointer operator->() const { return &attribute_; }
-    Iterator& operator++() {
-      ++index_;
-      Read();
-      return *this;
-    }
-    bool operator==(const Iterator& other) const { return index_ == other.index_; }
-    bool operator!=(const Iterator& other) const { return index_ != other.index_; }
-
-   private:
-    void Read() {
-      ortholan_attribute_view view;
-      ortholan_name_view_attribute(&name_, index_, &cursor_, &view);
-      attribute_ = Attribute(view);
-    }
-
-    ortholan_name_view name_;
-    size_t index_;
-    ortholan_name_cursor cursor_ = {};
-    Attribute attribute_;
-  };
+  using Iterator = detail::Iterator<detail::AttributeWalk>;
 
   // The name without RDNs.
   NameView() : name_{} {}
+  // A name that was read before.
+  explicit NameView(const ortholan_name_view& name) : name_(name) {}
 
   // Reads a Name that is the whole of `der`.
   static Result<NameView> Read(Octets der, Reading reading = Reading::kDer) {
-    NameView view;
-    Refusal refusal;
-    if (ortholan_name_view_read(der, static_cast<int32_t>(reading), &view.name_, &refusal) != 0) {
-      return refusal;
-    }
-    return view;
+    return detail::ReadValue<NameView, ortholan_name_view>(der, reading, ortholan_name_view_read);
   }
 
   Octets der() const { return name_.der; }
   size_t rdn_count() const { return name_.rdn_count; }
   size_t attribute_count() const { return name_.attribute_count; }
   bool empty() const { return rdn_count() == 0; }
-  Iterator begin() const { return Iterator(name_, 0); }
+  Iterator begin() const { return Iterator(name_, size_t{0}); }
   Iterator end() const { return Iterator(name_, attribute_count()); }
   const ortholan_name_view& view() const { return name_; }
 
@@ -238,24 +232,20 @@ class PlainOptions {
 
 inline Result<std::string> NameView::ToText(const Rfc4514& options) const {
   const detail::PlainOptions plain(options);
-  Refusal refusal;
-  std::string text;
-  const auto write = [&](char* out, size_t room, size_t* size) {
-    return ortholan_rfc4514_write(&name_, plain.get(), out, room, size, &refusal);
+  const auto write = [&](char* out, size_t room, size_t* size, Refusal* refusal) {
+    return ortholan_rfc4514_write(&name_, plain.get(), out, room, size, refusal);
   };
-  if (WithRoom(&text, write, der().size()) != ORTHOLAN_REASON_NONE) return refusal;
-  return text;
+  return MadeBy<std::string>(write, der().size());
 }
 
 inline Result<Name> Name::FromText(std::string_view text, const Rfc4514& options) {
   const detail::PlainOptions plain(options);
-  Refusal refusal;
-  std::vector<uint8_t> der;
-  const auto read = [&](uint8_t* out, size_t room, size_t* size) {
-    return ortholan_rfc4514_read(ortholan::ToText(text), plain.get(), out, room, size, &refusal);
+  const auto read = [&](uint8_t* out, size_t room, size_t* size, Refusal* refusal) {
+    return ortholan_rfc4514_read(ortholan::ToText(text), plain.get(), out, room, size, refusal);
   };
-  if (WithRoom(&der, read, 4 * text.size() + 16) != ORTHOLAN_REASON_NONE) return refusal;
-  return Name(std::move(der));
+  Result<std::vector<uint8_t>> der = MadeBy<std::vector<uint8_t>>(read, 4 * text.size() + 16);
+  if (!der) return der.refusal();
+  return Name(std::move(*der));
 }
 
 }  // namespace ortholan

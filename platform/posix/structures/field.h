@@ -97,9 +97,6 @@ extern const Kind kSetKind;       // the same, in the order of X.690 11.6
 extern const Kind kChoiceKind;    // DWORD number of one alternative
 extern const Kind kWrapperKind;   // an explicit tag
 
-inline constexpr BYTE kContext = kContextSpecific;
-inline constexpr BYTE kContextConstructed = kContextSpecific | kConstructed;
-
 constexpr Field Identifier(WORD at) { return {&kIdentifierKind, kTagOid, at}; }
 constexpr Field Flag(WORD at) { return {&kFlagKind, kTagBoolean, at}; }
 constexpr Field Unsigned(WORD at) { return {&kUnsignedKind, kTagInteger, at}; }

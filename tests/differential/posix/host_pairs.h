@@ -7,7 +7,7 @@
 #include <string>
 
 #include "tests/differential/differences.h"
-#include "tests/strict/certificate_shell.h"
+#include "tests/support/certificates.h"
 
 namespace Ortholan::testing {
 
@@ -45,7 +45,7 @@ void CompareHosts(const Rule<HostPair> (&same_here_alone)[M],
   Differences<HostPair> there(same_there_alone);
   size_t alike[2] = {};
   const auto compare = [&](const std::string& presented, const std::string& asked) {
-    const std::string certificate = CertificateWithNames(Tlv('\x30', Tlv('\x82', presented)));
+    const std::string certificate = CertificateWithNames(Tlv(0x30, Tlv(0x82, presented)));
     HostPair pair = {presented, asked};
     AskUs(certificate, &pair);
     const bool theirs = ask(certificate, asked);

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "tests/differential/posix/host_pairs.h"
-#include "tests/strict/certificate_shell.h"
+#include "tests/support/certificates.h"
 #include "tests/support/vectors.h"
 
 namespace Ortholan::testing {

@@ -12,7 +12,7 @@
 #include "tests/differential/differences.h"
 #include "tests/differential/posix/openssl_reader.h"
 #include "tests/differential/samples.h"
-#include "tests/strict/certificate_shell.h"
+#include "tests/support/certificates.h"
 #include "tests/support/hex.h"
 
 namespace Ortholan::testing {
@@ -82,16 +82,16 @@ std::string Edited(const ortholan::NameView& name, Edit edit) {
   std::string rdns;
   std::string rdn;
   for (const ortholan::Attribute& attribute : name) {
-    if (attribute.begins_rdn() && !rdn.empty()) rdns += Tlv('\x31', rdn);
+    if (attribute.begins_rdn() && !rdn.empty()) rdns += Tlv(0x31, rdn);
     if (attribute.begins_rdn()) rdn.clear();
     const ortholan::Octets type = attribute.type();
     const ortholan::Octets content = attribute.content();
     Value value = {static_cast<char>(attribute.identifier()), {content.begin(), content.end()}};
     edit(&value);
-    rdn +=
-        Tlv('\x30', Tlv('\x06', {type.begin(), type.end()}) + Tlv(value.identifier, value.content));
+    rdn += Tlv(0x30, Tlv(0x06, std::string(type.begin(), type.end())) +
+                         Tlv(static_cast<uint8_t>(value.identifier), value.content));
   }
-  return Tlv('\x30', rdns + (rdn.empty() ? "" : Tlv('\x31', rdn)));
+  return Tlv(0x30, rdns + (rdn.empty() ? "" : Tlv(0x31, rdn)));
 }
 
 // A name in both readings, and two of them with the answer.

@@ -1,11 +1,12 @@
 // Certificates, requests and CRLs: their parts, and PEM text.
+#include "tests/support/certificates.h"
+
 #include <gtest/gtest.h>
 
 #include <ortholan/strict.hpp>
 #include <string>
 #include <vector>
 
-#include "tests/strict/certificate_shell.h"
 #include "tests/strict/reasons.h"
 
 namespace Ortholan::testing {

@@ -11,12 +11,12 @@
 namespace Ortholan::testing {
 namespace {
 
-const std::string kNobody = Der(0x30, "");
+const std::string kNobody = Tlv(0x30, "");
 const std::string kIssuer =
-    Der(0x30, Der(0x31, Der(0x30, Der(0x06, "\x55\x04\x03") + Der(0x0C, "i"))));
+    Tlv(0x30, Tlv(0x31, Tlv(0x30, Tlv(0x06, "\x55\x04\x03") + Tlv(0x0C, "i"))));
 
 std::string Subtree(uint8_t tag, const std::string& content) {
-  return Der(0x30, Der(tag, content));
+  return Tlv(0x30, Tlv(tag, content));
 }
 
 struct Row {
@@ -27,25 +27,25 @@ struct Row {
 };
 
 TEST(NameConstraints, TellsWhichNameWhichRuleWhichSubtree) {
-  const std::string permitted = Der(0xA0, Subtree(0x82, "example.org"));
+  const std::string permitted = Tlv(0xA0, Subtree(0x82, "example.org"));
   const Row rows[] = {
       {"in no permitted subtree",
-       Der(0x82, "a.example.com"),
+       Tlv(0x82, "a.example.com"),
        permitted,
        {"certificate 1: DNS name a.example.com is in no permitted subtree of certificate 2 "
         "(example.org)"}},
       {"of several",
-       Der(0x82, "a.example.com"),
-       Der(0xA0, Subtree(0x82, "a.org") + Subtree(0x82, "b.org") + Subtree(0x82, "c.org")),
+       Tlv(0x82, "a.example.com"),
+       Tlv(0xA0, Subtree(0x82, "a.org") + Subtree(0x82, "b.org") + Subtree(0x82, "c.org")),
        {"certificate 1: DNS name a.example.com is in no permitted subtree of certificate 2 (a.org, "
         "and 2 more)"}},
       {"address",
-       Der(0x87, std::string("\x0A\0\0\1", 4)),
-       Der(0xA1, Subtree(0x87, std::string("\x0A\0\0\0\xFF\0\0\0", 8))),
+       Tlv(0x87, std::string("\x0A\0\0\1", 4)),
+       Tlv(0xA1, Subtree(0x87, std::string("\x0A\0\0\0\xFF\0\0\0", 8))),
        {"certificate 1: IP address 10.0.0.1 is in an excluded subtree of certificate 2 "
         "(10.0.0.0/8)"}},
       {"refusals stand before what cannot be told",
-       Der(0x82, "bad..example") + Der(0x82, "b.net") + Der(0x82, "c.net"),
+       Tlv(0x82, "bad..example") + Tlv(0x82, "b.net") + Tlv(0x82, "c.net"),
        permitted,
        {"certificate 1: DNS name b.net is in no permitted subtree of certificate 2 (example.org)",
         "certificate 1: DNS name c.net is in no permitted subtree of certificate 2 (example.org)",
@@ -53,26 +53,26 @@ TEST(NameConstraints, TellsWhichNameWhichRuleWhichSubtree) {
         "certificate "
         "2: a label of the host name is empty"}},
       {"what cannot be seen",
-       Der(0x86, "urn:\x1B\\"),
-       Der(0xA1, Subtree(0x86, "a.org")),
+       Tlv(0x86, "urn:\x1B\\"),
+       Tlv(0xA1, Subtree(0x86, "a.org")),
        {"certificate 1: URI urn:\\1B\\\\ cannot be held against the constraints of certificate 2: "
         "a character stands there that the part of the URI cannot have"}},
       {"a subtree of no mailbox",
-       Der(0x82, "a.org"),
-       Der(0xA0, Subtree(0x81, "")),
+       Tlv(0x82, "a.org"),
+       Tlv(0xA0, Subtree(0x81, "")),
        {"certificate 2: its name constraints cannot be used: a subtree of mailboxes or URIs names "
         "nothing"}},
       {"constraints without lists",
-       Der(0x82, "a.org"),
+       Tlv(0x82, "a.org"),
        "",
        {"certificate 2: its name constraints cannot be used: at least one element has to be "
         "inside"}},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.label);
-    const std::string leaf = Certificate(kIssuer, kNobody, Extension(17, Der(0x30, row.names)));
+    const std::string leaf = Certificate(kIssuer, kNobody, Extension(17, Tlv(0x30, row.names)));
     const std::string authority =
-        Certificate(kIssuer, kNobody, Extension(30, Der(0x30, row.constraints)));
+        Certificate(kIssuer, kNobody, Extension(30, Tlv(0x30, row.constraints)));
     const ortholan::Permission permission = ortholan::Permits({leaf, authority}, {1000, 9});
     std::vector<std::string> sentences;
     for (const ortholan::Finding& finding : permission.findings) {

@@ -186,10 +186,10 @@ std::string Upper(std::string text) {
 std::string NameOf(const std::string& path) {
   std::string rdns;
   for (const char letter : path) {
-    const std::string value = Der(0x13, std::string(1, letter));
-    rdns += Der(0x31, Der(0x30, Der(0x06, "\x55\x04\x0B") + value));
+    const std::string value = Tlv(0x13, std::string(1, letter));
+    rdns += Tlv(0x31, Tlv(0x30, Tlv(0x06, "\x55\x04\x0B") + value));
   }
-  return Der(0x30, rdns);
+  return Tlv(0x30, rdns);
 }
 
 // How a chain is written down: the ways that may not matter.
@@ -202,15 +202,15 @@ struct Writing {
 std::string General(const Item& item, const Writing& writing) {
   const bool folds = writing.upper && item.form != kAddress && item.form != kMail;
   const std::string text = folds ? Upper(item.text) : item.text;
-  if (item.form == kDirectory) return Der(0xA4, NameOf(text));
-  return Der(static_cast<uint8_t>(0x80 | item.form), text);
+  if (item.form == kDirectory) return Tlv(0xA4, NameOf(text));
+  return Tlv(static_cast<uint8_t>(0x80 | item.form), text);
 }
 
 std::string List(const std::vector<Item>& items, bool areSubtrees, const Writing& writing) {
   std::vector<std::string> parts;
   for (const Item& item : items) {
     const std::string general = General(item, writing);
-    parts.push_back(areSubtrees ? Der(0x30, general) : general);
+    parts.push_back(areSubtrees ? Tlv(0x30, general) : general);
   }
   if (writing.reversed) std::reverse(parts.begin(), parts.end());
   std::string list;
@@ -222,15 +222,15 @@ std::string List(const std::vector<Item>& items, bool areSubtrees, const Writing
 
 std::string Constraints(const Authority& authority, const Writing& writing) {
   std::string lists;
-  if (!authority.permitted.empty()) lists += Der(0xA0, List(authority.permitted, true, writing));
-  if (!authority.excluded.empty()) lists += Der(0xA1, List(authority.excluded, true, writing));
-  return lists.empty() ? lists : Extension(30, Der(0x30, lists));
+  if (!authority.permitted.empty()) lists += Tlv(0xA0, List(authority.permitted, true, writing));
+  if (!authority.excluded.empty()) lists += Tlv(0xA1, List(authority.excluded, true, writing));
+  return lists.empty() ? lists : Extension(30, Tlv(0x30, lists));
 }
 
 ortholan::Verdict Ask(const std::vector<Item>& names, const std::vector<Authority>& authorities,
                       const Writing& writing) {
   const std::string alternatives =
-      Extension(17, Der(0x30, List(names, false, {writing.reversed, false, 1})));
+      Extension(17, Tlv(0x30, List(names, false, {writing.reversed, false, 1})));
   std::vector<std::string> chain = {Certificate(NameOf("i"), NameOf(""), alternatives)};
   for (const Authority& authority : authorities) {
     chain.push_back(Certificate(NameOf("i"), NameOf(""), Constraints(authority, writing)));
@@ -271,10 +271,10 @@ TEST(NameConstraints, AgreesWithSetsOfNames) {
 // A budget that does not suffice is no yes, and no refusal that was not found.
 TEST(NameConstraints, AnEmptyBudgetCannotTell) {
   const std::string name =
-      Certificate(NameOf("i"), NameOf(""), Extension(17, Der(0x30, Der(0x82, "a"))));
-  const std::string subtrees = Der(0x30, Der(0x82, "b")) + Der(0x30, Der(0x82, "a"));
+      Certificate(NameOf("i"), NameOf(""), Extension(17, Tlv(0x30, Tlv(0x82, "a"))));
+  const std::string subtrees = Tlv(0x30, Tlv(0x82, "b")) + Tlv(0x30, Tlv(0x82, "a"));
   const std::string authority =
-      Certificate(NameOf("i"), NameOf(""), Extension(30, Der(0x30, Der(0xA0, subtrees))));
+      Certificate(NameOf("i"), NameOf(""), Extension(30, Tlv(0x30, Tlv(0xA0, subtrees))));
   const std::vector<ortholan::Octets> chain = {name, authority};
   EXPECT_EQ(ortholan::Permits(chain, {2, 1}).verdict, ortholan::Verdict::kCannotTell);
   EXPECT_EQ(ortholan::Permits(chain, {3, 1}).verdict, ortholan::Verdict::kYes);

@@ -31,11 +31,11 @@ std::string OptionalExtension(uint8_t number, const std::string& digits) {
   return Extension(number, digits == "-" ? std::string() : Octets(digits));
 }
 
-std::string CertificateOf(const std::string& parts) {
+std::string CertificateOfParts(const std::string& parts) {
   const std::vector<std::string> part = Split(parts, ':');
   const std::string subject = Octets(part.at(1));
   const std::string other =
-      Der(0x30, Der(0x31, Der(0x30, Der(0x06, "\x55\x04\x03") + Der(0x0C, "issuer"))));
+      Tlv(0x30, Tlv(0x31, Tlv(0x30, Tlv(0x06, "\x55\x04\x03") + Tlv(0x0C, "issuer"))));
   return Certificate(part[0] == "=" ? subject : other, subject,
                      OptionalExtension(17, part.at(2)) + OptionalExtension(30, part.at(3)));
 }
@@ -45,7 +45,7 @@ TEST(NameConstraints, PublishedCases) {
     SCOPED_TRACE(row.where());
     std::vector<std::string> chain;
     for (const std::string& parts : Split(row.text("chain"), '/')) {
-      chain.push_back(CertificateOf(parts));
+      chain.push_back(CertificateOfParts(parts));
     }
     const ortholan::Permission permission = ortholan::Permits({chain.begin(), chain.end()});
     EXPECT_EQ(permission ? "yes" : "other", row.text("verdict"));

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/strict/certificate_shell.h"
 #include "tests/strict/reasons.h"
+#include "tests/support/certificates.h"
 #include "tests/support/vectors.h"
 
 namespace Ortholan::testing {
@@ -99,10 +99,10 @@ TEST(Identify, KeepsItsLaws) {
       EXPECT_TRUE(Matches(CertificateWithNames(names), Reference::Host(upper)));
     }
     const std::size_t header = names[1] == '\x82' ? 4 : names[1] == '\x81' ? 3 : 2;
-    const std::string more = Tlv('\x82', "x.example") + names.substr(header) + Tlv('\x87', "");
-    EXPECT_TRUE(Matches(CertificateWithNames(Tlv('\x30', more)), ReferenceOf(row)));
+    const std::string more = Tlv(0x82, "x.example") + names.substr(header) + Tlv(0x87, "");
+    EXPECT_TRUE(Matches(CertificateWithNames(Tlv(0x30, more)), ReferenceOf(row)));
     const std::string twice = AlternativeNamesExtension(names) + AlternativeNamesExtension(names);
-    const auto doubted = Identify(CertificateOf(Tlv('\x30', twice)), ReferenceOf(row));
+    const auto doubted = Identify(CertificateOf(twice), ReferenceOf(row));
     EXPECT_EQ(doubted->verdict(), ortholan::Verdict::kCannotTell);
     EXPECT_EQ(ReasonName(doubted->refusal().reason), "DUPLICATE_EXTENSION");
   }
@@ -110,8 +110,8 @@ TEST(Identify, KeepsItsLaws) {
 
 // Every octet of a certificate that is cut off or spoiled leaves a verdict, and nothing else.
 TEST(Identify, SurvivesSpoiledCertificates) {
-  const std::string whole = CertificateWithNames(
-      Tlv('\x30', Tlv('\x82', "*.example.org") + Tlv('\x81', "joe@example.org")));
+  const std::string whole =
+      CertificateWithNames(Tlv(0x30, Tlv(0x82, "*.example.org") + Tlv(0x81, "joe@example.org")));
   for (std::size_t i = 0; i < whole.size(); ++i) {
     const std::vector<uint8_t> cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(i));
     EXPECT_EQ(Identify(cut, Reference::Host("a.example.org"))->verdict(),
