@@ -343,6 +343,11 @@ TEST(ExtensionCodecs, CountsWithoutArraysAreRefused) {
     info[row.count] = 3;
     ExpectEncoding(FindStructureKind(row.structure)->type, info, {{"", ERROR_INVALID_PARAMETER}});
   }
+  const Decoded none = Decode(*FindStructureKind("X509_ENHANCED_KEY_USAGE"),
+                              X509_ENHANCED_KEY_USAGE, Octets("30 00"));
+  CERT_ENHKEY_USAGE empty;
+  std::memcpy(&empty, none.room.data(), sizeof empty);
+  EXPECT_EQ(empty.rgpszUsageIdentifier, nullptr);
   // The last number that is not read as the address of an identifier.
   ExpectEncoding(reinterpret_cast<LPCSTR>(0xFFFF), "", {{"", kNoCodec}});
   LPSTR usages[] = {nullptr};
