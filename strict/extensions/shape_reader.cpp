@@ -67,7 +67,7 @@ class Walk {
     if (in->AtEnd() || !MayBegin(shape, in->rest()[0])) {
       return in->RefuseHere(ORTHOLAN_REASON_IDENTIFIER, IdentifierOf(shape));
     }
-    return in->Read(element) && ReadElement(shape, *element);
+    return in->ReadInline(element) && ReadElement(shape, *element);
   }
 
   // An element whose tag is in order.
@@ -119,7 +119,7 @@ class Walk {
     if (in->AtEnd() || !MayBegin(field, in->rest()[0])) return LacksField(field, in);
     const uint8_t* const place = in->rest().data;
     Element element;
-    if (!in->Read(&element)) return false;
+    if (!in->ReadInline(&element)) return false;
     if (field.presence >= Presence::kDefault && leniency_ == Leniency::kDer &&
         IsDefault(element.content)) {
       return in->RefuseAt(ORTHOLAN_REASON_DEFAULT, place);
