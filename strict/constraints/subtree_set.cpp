@@ -1,5 +1,6 @@
 #include "strict/constraints/subtree_set.h"
 
+#include "strict/constraints/constrained_name.h"
 #include "strict/constraints/name_constraints_view.h"
 #include "strict/constraints/subtree_index.h"
 #include "strict/general_names/host.h"
@@ -55,7 +56,7 @@ HoldingOfList SubtreeSet::FindHost(const ConstrainedName& name, Budget* budget) 
     if (subtree.form != form) continue;
     if (!budget->Take()) return kOverBudget;
     if (!MayEndAlike(subtree.host, host)) continue;
-    const Holding holding = HoldHost(subtree.kind, subtree.host, name);
+    const Holding holding = HoldHost(subtree, name);
     if (holding == Holding::kInside) return {holding, &subtree};
     if (holding == Holding::kOverlap && overlap == nullptr) overlap = &subtree;
   }

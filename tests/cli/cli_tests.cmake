@@ -34,6 +34,8 @@ if(NOT WIN32 AND NOT ORTHOLAN_SANITIZED)
   # Wine's console is not the one of Windows. Sanitizers have nothing to say of a screen.
   ortholan_cli_test(terminal python3 "${cli}/terminal_test.py" "${certificates}" ${runs_x509name})
   set_tests_properties(cli_terminal PROPERTIES SKIP_RETURN_CODE 77)
+  ortholan_cli_test(openssl_text python3 "${cli}/openssl_text.py" "${CMAKE_CURRENT_SOURCE_DIR}/data"
+    ${runs_x509name})
   ortholan_cli_test(completion
     "${cli}/completion.sh" "${PROJECT_SOURCE_DIR}/examples/x509name.bash" ${runs_x509name})
   foreach(page IN ITEMS streams show)
