@@ -1,6 +1,6 @@
 # The common tasks; each first installs the Debian packages it lacks. CMakePresets.json has the builds.
 
-PRESETS ?= native sanitize windows
+PRESETS ?= native windows sanitize
 
 # Each has a group in scripts/setup.sh and a script in scripts/bindings/.
 BINDINGS := python wasm postgresql rust go csharp visual-c machines

@@ -15,6 +15,7 @@
 
 #include "bench/allocations.h"
 #include "bench/chains.h"
+#include "bench/extension_list.h"
 #include "bench/names.h"
 #include "bench/operations.h"
 #include "bench/samples.h"
@@ -154,6 +155,12 @@ void AddVerdicts(std::vector<Operation>* operations) {
                          }});
 }
 
+void AddExtensions(std::vector<Operation>* operations) {
+  operations->push_back({"strict: 10 extensions of a certificate", [list = TlsExtensions()] {
+                           Expect(ReadExtensions(list) == kTlsExtensions, "extensions");
+                         }});
+}
+
 // The first time, which is not counted, finds the memory and the tables cold.
 void CountOne(const Operation& operation) {
   operation.run();
@@ -172,6 +179,7 @@ int Run(const char* only, unsigned long times) {
   AddOthers(&operations);
   AddStrictNames(&operations);
   AddVerdicts(&operations);
+  AddExtensions(&operations);
   bool found = false;
   for (const Operation& operation : operations) {
     if (only == nullptr) {

@@ -8,7 +8,7 @@ if(NOT ORTHOLAN_VALGRIND OR NOT ORTHOLAN_VALGRIND_INCLUDE)
   return()
 endif()
 
-ortholan_bench_program(counted counted.cpp chains.cpp names.cpp allocations.cpp)
+ortholan_bench_program(counted counted.cpp chains.cpp extension_list.cpp names.cpp allocations.cpp)
 target_include_directories(counted SYSTEM PRIVATE "${ORTHOLAN_VALGRIND_INCLUDE}")
 
 set(arguments

@@ -2,7 +2,8 @@
 find_package(benchmark REQUIRED)
 ortholan_bench_program(bench_names
   main.cpp measure.cpp names.cpp allocations.cpp ortholan.cpp strict_names.cpp strict_matching.cpp
-  strict_constraints.cpp chains.cpp strict_identity.cpp strict_extensions.cpp growth.cpp)
+  strict_constraints.cpp chains.cpp strict_identity.cpp strict_extensions.cpp extension_list.cpp
+  growth.cpp)
 target_link_libraries(bench_names PRIVATE benchmark::benchmark)
 
 # ortholan_bench_peer(<name> <header> <library>...)

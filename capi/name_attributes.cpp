@@ -56,7 +56,8 @@ class AttributeBlock {
 
   Outcome Add(const DecodedAttribute& attribute) {
     Places places = {};
-    places.type = Append(attribute.type().dotted());
+    places.type = run_.size();
+    run_.append(attribute.type().dotted()).push_back('\0');
     places.key = places.type;
     const std::wstring_view key = KeyFor(attribute.type(), kStyleKeys);
     if (!key.empty()) {
@@ -70,7 +71,8 @@ class AttributeBlock {
     if (!appended) return appended;
     places.value_size = run_.size() - places.value;
     run_.push_back('\0');
-    places.der = Append(AsText(attribute.value().bytes));
+    places.der = run_.size();
+    run_.append(AsText(attribute.value().bytes));
     places.der_size = attribute.value().bytes.size;
     places_.push_back(places);
     return Done();
@@ -106,13 +108,6 @@ class AttributeBlock {
     size_t der;
     size_t der_size;
   };
-
-  size_t Append(std::string_view text) {
-    const size_t at = run_.size();
-    run_.append(text);
-    run_.push_back('\0');
-    return at;
-  }
 
   std::string run_;
   std::vector<Places> places_;

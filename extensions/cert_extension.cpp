@@ -12,11 +12,10 @@ namespace {
 constexpr DWORD kEncodings = X509_ASN_ENCODING | PKCS_7_ASN_ENCODING;
 constexpr DWORD kLengthField = 4;
 
-// By size, then by unsigned bytes: -1, 0 or 1.
-int Order(ByteView a, ByteView b) {
-  if (a.size != b.size) return a.size < b.size ? -1 : 1;
-  const int order = a.size != 0 ? std::memcmp(a.data, b.data, a.size) : 0;
-  return static_cast<int>(order > 0) - static_cast<int>(order < 0);
+// By size, then by unsigned bytes.
+bool IsLess(ByteView a, ByteView b) {
+  if (a.size != b.size) return a.size < b.size;
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end());
 }
 
 }  // namespace
@@ -52,8 +51,8 @@ bool CertExtension::operator!=(const CertExtension& other) const {
 }
 
 bool CertExtension::operator<(const CertExtension& other) const {
-  return Order(ViewOf(oid), ViewOf(other.oid)) < 0 && critical < other.critical &&
-         Order(ViewOf(value), ViewOf(other.value)) < 0;
+  return IsLess(ViewOf(oid), ViewOf(other.oid)) && critical < other.critical &&
+         IsLess(ViewOf(value), ViewOf(other.value));
 }
 
 bool CertExtension::operator>(const CertExtension& other) const { return other < *this; }

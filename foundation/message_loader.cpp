@@ -14,7 +14,7 @@ constexpr size_t kTextStep = 256;
 // Releases the module on leaving where it was loaded for this call alone.
 class Module {
  public:
-  explicit Module(HMODULE handle, bool loaded = false) : handle_(handle), loaded_(loaded) {}
+  Module(HMODULE handle, bool loaded) : handle_(handle), loaded_(loaded) {}
   Module(const Module&) = delete;
   Module& operator=(const Module&) = delete;
   ~Module() {

@@ -49,8 +49,8 @@ bool Rewrite(std::string_view format, Put put) {
 
 StandardFormat::StandardFormat(const char* format) : text_(format) {
   if (format == nullptr || !Rewrite(format, [](std::string_view) {})) return;
-  // No replacement is longer than what it stands for.
-  copy_.reset(new (std::nothrow) char[std::strlen(format) + 1]);
+  // Every replacement is shorter than what it stands for: that leaves room for the terminator.
+  copy_.reset(new (std::nothrow) char[std::strlen(format)]);
   text_ = copy_.get();
   if (copy_ == nullptr) return;
   char* out = copy_.get();

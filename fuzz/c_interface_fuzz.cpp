@@ -232,10 +232,7 @@ void CheckExtensions(ortholan_extensions* list) {
 
 }  // namespace
 
-void FuzzCInterface(const uint8_t* data, size_t size) {
-  // A heap block of exactly these octets, so that a sanitizer sees the first one read beyond them.
-  const IdentObj copy(data, static_cast<DWORD>(size));
-  const uint8_t* octets = copy.pbData;
+void FuzzCInterface(const uint8_t* octets, size_t size) {
   CheckText(reinterpret_cast<const char*>(octets), size);
   if (auto name = Make<ortholan_name>(
           [&](ortholan_name** out) { return ortholan_name_from_der(octets, size, out); })) {

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "bytes/byte_view.h"
-#include "foundation/blob_view.h"
 #include "fuzz/input.h"
 #include "fuzz/law.h"
 #include "fuzz/targets.h"
@@ -165,8 +164,7 @@ void FuzzExtension(const uint8_t* data, size_t size) {
   constexpr unsigned kShare = 32;
   unsigned sum = 0;
   for (size_t i = 0; i < size; ++i) sum = sum * 31 + data[i];
-  const IdentObj copy(data, static_cast<DWORD>(size));
-  ByteView rest = ViewOf(copy);
+  ByteView rest(data, size);
   std::vector<CertExtension> extensions;
   for (bool first = true;; first = false) {
     CertExtension extension;

@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "fuzz/guarded_room.h"
 #include "fuzz/law.h"
 #include "fuzz/mutator.h"
 #include "fuzz/targets.h"
@@ -121,11 +122,12 @@ class Replay {
     ++count_;
     if (keeps_) return kept_.push_back(bytes);
     SetInput(std::string(target_.name) + ", " + path.filename().string(), bytes);
-    target_.run(reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size());
+    target_.run(room_.Put(bytes), bytes.size());
   }
 
   const TargetRow& target_;
   bool keeps_;
+  GuardedRoom room_;
   std::vector<std::string> kept_;
   size_t count_ = 0;
 };

@@ -84,9 +84,8 @@ void CheckForgery(const std::string& value) {
 }  // namespace
 
 void FuzzRfc4514(const uint8_t* data, size_t size) {
-  const std::vector<uint8_t> block(data, data + size);
   const std::string text(data, data + size);
-  if (const auto name = NameView::Read(block)) CheckWriting(*name);
+  if (const auto name = NameView::Read({data, size})) CheckWriting(*name);
   const auto made = Name::FromText(text);
   CheckCAgrees(text, made);
   if (made) {

@@ -3,7 +3,7 @@
 #include <ortholan/asn1.h>
 #include <ortholan/der_helper.h>
 
-#include "foundation/blob_view.h"
+#include "bytes/byte_view.h"
 #include "foundation/element_reader.h"
 #include "foundation/oid_text.h"
 #include "fuzz/input.h"
@@ -175,15 +175,14 @@ void CheckDerHelper(const IdentObj& element) {
 }  // namespace
 
 void FuzzScanner(const uint8_t* data, size_t size) {
-  const IdentObj element(data, static_cast<DWORD>(size));
-  const ByteView bytes = ViewOf(element);
+  const ByteView bytes(data, size);
   CheckHeader(bytes);
   CheckIndefinite(bytes);
   CheckValue(bytes);
   CheckSequence(bytes);
   CheckChildren(bytes);
   CheckSplit(bytes);
-  CheckDerHelper(element);
+  CheckDerHelper(IdentObj(data, static_cast<DWORD>(size)));
 }
 
 }  // namespace Ortholan::fuzzing

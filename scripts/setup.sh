@@ -19,7 +19,7 @@ case ${1-} in
   native) packages=("${native[@]}") ;;
   test)
     packages=("${native[@]}" "${clang[@]}" "${windows[@]}" clang-format clang-tools fish gdb jq
-      libgnutls28-dev libssl-dev lld mandoc parallel pkg-config python3 valgrind zsh)
+      libgnutls28-dev libssl-dev lld mandoc openssl parallel pkg-config python3 valgrind zsh)
     ;;
   fuzz) packages=("${native[@]}" "${clang[@]}") ;;
   bench)

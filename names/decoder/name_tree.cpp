@@ -15,11 +15,11 @@ namespace {
 
 using Attribute = AttributeChain::Link;
 
-bool FillType(ByteView content, Attribute* attr) {
-  TypeText type;
-  if (!DecodeAttrOid(content, &type)) return false;
-  attr->identifier = new char[type.dotted().size() + 1];
-  *std::copy(type.dotted().begin(), type.dotted().end(), attr->identifier) = '\0';
+bool FillType(ByteView content, TypeText* type, Attribute* attr) {
+  if (!DecodeAttrOid(content, type)) return false;
+  const std::string_view dotted = type->dotted();
+  attr->identifier = new char[dotted.size() + 1];
+  *std::copy(dotted.begin(), dotted.end(), attr->identifier) = '\0';
   return true;
 }
 
@@ -33,9 +33,9 @@ bool FillValue(const Element& child, StructuredValue* value, Attribute* attr) {
 }
 
 // What stands before the child that fails stays in the tree.
-bool DecodeElem(ByteView rdn, StructuredValue* value, Attribute* attr) {
+bool DecodeElem(ByteView rdn, TypeText* type, StructuredValue* value, Attribute* attr) {
   return ReadRdn(
-      rdn, [attr](ByteView type) { return FillType(type, attr); },
+      rdn, [type, attr](ByteView content) { return FillType(content, type, attr); },
       [value, attr](const Element& child) { return FillValue(child, value, attr); });
 }
 
@@ -77,11 +77,12 @@ bool X500NameDecoder::Decode(const IdentObj& name, CertNameInfoWrapper& info) {
   info.Clean();
   bool decoded = true;
   AttributeChain chain;
+  TypeText type;
   StructuredValue value;
   ElementReader reader(bytes);
   for (Element rdn; reader.Next(&rdn);) {
     Attribute* const attr = chain.Add();
-    decoded = decoded && DecodeElem(rdn.bytes, &value, attr);
+    decoded = decoded && DecodeElem(rdn.bytes, &type, &value, attr);
   }
   MakeRdns(static_cast<DWORD>(count), &chain, info);
   return decoded;

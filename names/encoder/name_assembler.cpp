@@ -27,6 +27,7 @@ bool NameAssembler::EncodeElem(std::string_view type, const Characters& value, V
   plan->row = row;
   plan->oid_offset = oids_.size();
   plan->value = {value, value_type, lines, ValueContent(value, value_type, lines)};
+  plan->content = oid_size + plan->value.size();
   plan->oid_size = static_cast<uint16_t>(oid_size);
   plan->ends_rdn = false;
   if (row != nullptr) return true;
@@ -47,7 +48,7 @@ uint64_t NameAssembler::RdnContent(const Plan* first, const Plan** next) const {
   uint64_t content = 0;
   const Plan* plan = first;
   do {
-    if (plan->oid_size != 0) content += AttributeSize(plan->content());
+    if (plan->oid_size != 0) content += AttributeSize(plan->content);
   } while (!plan++->ends_rdn);
   *next = plan;
   return content;
@@ -80,12 +81,13 @@ bool NameAssembler::WriteRdns(BYTE* out) {
 
 // Returns the end of what was written, null where the platform refused the value.
 BYTE* NameAssembler::WriteAttribute(const Plan& plan, BYTE* out) {
-  out = WriteAttributeHeader(out, plan.content());
+  out = WriteAttributeHeader(out, plan.content);
+  BYTE* const end = out + plan.content;
   const ByteView oid = plan.row != nullptr
                            ? plan.row->oid_der()
                            : ByteView(oids_.data() + plan.oid_offset, plan.oid_size);
   out = WriteBytes(out, oid);
-  return EncodeElemData(plan.value, out) ? out + plan.value.size() : nullptr;
+  return EncodeElemData(plan.value, out) ? end : nullptr;
 }
 
 }  // namespace Ortholan

@@ -45,10 +45,9 @@ class NameAssembler {
     const AttributeRow* row;  // null: the identifier is in `oids_`
     size_t oid_offset;
     ValuePlan value;
+    uint64_t content;   // octets of identifier and value
     uint16_t oid_size;  // octets of the whole identifier element
     bool ends_rdn;
-
-    uint64_t content() const { return oid_size + value.size(); }
   };
 
   uint64_t RdnContent(const Plan* first, const Plan** next) const;

@@ -11,7 +11,6 @@ namespace {
 
 // Longer texts are refused before anything else.
 constexpr size_t kTypeTextLimit = 270;
-constexpr std::string_view kBarePrefix = "OID.";
 
 struct Keyword {
   std::string_view text;
@@ -106,7 +105,6 @@ bool ResolveWhole(std::basic_string_view<Char> text, const AttributeRow** row) {
   wchar_t key[kTypeTextLimit];
   if (text.empty() || text.size() >= kTypeTextLimit || !ToKey(text, key)) return false;
   char form[kTypeTextLimit];
-  if (text.size() == kBarePrefix.size() && ToForm(text, form) == kBarePrefix) return false;
   if (IsAsciiLetter(text.front())) {
     const CRYPT_OID_INFO* info = FindAttributeInfo(CRYPT_OID_INFO_NAME_KEY, key);
     if (info != nullptr && info->pszOID != nullptr) return MatchForm(info->pszOID, row);

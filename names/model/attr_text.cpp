@@ -77,7 +77,6 @@ void X509Name::MakeRDNAttr(const char* key, const char* value, RDNAttr& out) {
   CertNameInfoWrapper wrapper;
   if (!X500NameDecoder().Decode(name, wrapper)) ThrowUntyped(kNameFailure);
   const CERT_NAME_INFO& info = *static_cast<CERT_NAME_INFO*>(wrapper);
-  if (info.cRDN == 0 || info.rgRDN[0].cRDNAttr == 0) ThrowUntyped(ERROR_FUNCTION_FAILED);
   out.SetBy(info.rgRDN[0].rgRDNAttr[0]);
 }
 

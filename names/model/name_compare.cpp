@@ -80,22 +80,17 @@ void AppendKey(const DecodedAttribute& attribute, std::wstring* text) {
   }
 }
 
-// Whether two attributes have the same key, which most tell without making it.
+// Whether two attributes have the same key by what can be told without making it.
 bool HaveSameKey(const DecodedAttribute& a, const DecodedAttribute& b) {
   if (a.type().dotted() != b.type().dotted()) return false;
   if (a.is_ascii() && b.is_ascii()) return a.ascii() == b.ascii();
-  if (SameBytes(a.value().bytes, b.value().bytes)) return true;
-  std::wstring keys[2];
-  AppendKey(a, &keys[0]);
-  AppendKey(b, &keys[1]);
-  return keys[0] == keys[1];
+  return SameBytes(a.value().bytes, b.value().bytes);
 }
 
-// Any total order will do; this one is by the characters' bytes, then by length.
-int Order(std::wstring_view a, std::wstring_view b) {
-  const int order = std::memcmp(a.data(), b.data(), std::min(a.size(), b.size()) * sizeof(wchar_t));
-  if (order != 0 || a.size() == b.size()) return order;
-  return a.size() < b.size() ? -1 : 1;
+// Any total order will do; this one is by length, then by the characters' bytes.
+bool IsLess(std::wstring_view a, std::wstring_view b) {
+  if (a.size() != b.size()) return a.size() < b.size();
+  return std::memcmp(a.data(), b.data(), a.size() * sizeof(wchar_t)) < 0;
 }
 
 // What is left of a name, each attribute as its key.
@@ -117,13 +112,12 @@ class Keys {
 
   void Sort() {
     std::sort(spans_.begin(), spans_.end(),
-              [this](const Span& a, const Span& b) { return Order(View(a), View(b)) < 0; });
+              [this](const Span& a, const Span& b) { return IsLess(View(a), View(b)); });
   }
 
   friend bool operator==(const Keys& a, const Keys& b) {
-    return std::equal(
-        a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
-        [&](const Span& x, const Span& y) { return Order(a.View(x), b.View(y)) == 0; });
+    return std::equal(a.spans_.begin(), a.spans_.end(), b.spans_.begin(), b.spans_.end(),
+                      [&](const Span& x, const Span& y) { return a.View(x) == b.View(y); });
   }
 
  private:

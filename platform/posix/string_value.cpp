@@ -61,13 +61,13 @@ bool EncodeStringValue(DWORD valueType, const wchar_t* text, size_t count, BYTE*
 }
 
 bool StringValue::Decode(const BYTE* element, size_t size) {
-  if (size == 0) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
+  if (size == 0) return Fail<bool>(CRYPT_E_ASN1_CORRUPT);
   const BYTE tag = element[0];
   if (!IsEightBitTag(tag) && tag != kTagUtf8String && tag != kTagBmpString) {
-    return Fail(CRYPT_E_ASN1_BADTAG) != FALSE;
+    return Fail<bool>(CRYPT_E_ASN1_BADTAG);
   }
   posix::Element read;
-  if (!posix::ReadElement({element, size}, &read)) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
+  if (!posix::ReadElement({element, size}, &read)) return Fail<bool>(CRYPT_E_ASN1_CORRUPT);
   const ByteView content = read.content;
   // UTF-8 of ASCII alone is 8-bit text in every code page.
   is_utf16_ = tag == kTagBmpString || (tag == kTagUtf8String && !IsAscii(AsText(content)));
@@ -77,7 +77,7 @@ bool StringValue::Decode(const BYTE* element, size_t size) {
     return true;
   }
   const bool is_bmp = tag == kTagBmpString;
-  if (is_bmp && content.size % 2 != 0) return Fail(CRYPT_E_ASN1_CORRUPT) != FALSE;
+  if (is_bmp && content.size % 2 != 0) return Fail<bool>(CRYPT_E_ASN1_CORRUPT);
   BYTE* const units = Take(is_bmp ? content.size : 2 * content.size);
   data_ = units;
   size_ = posix::ReadUtf16Le(is_bmp ? CERT_RDN_BMP_STRING : CERT_RDN_UTF8_STRING, content, units);

@@ -3,7 +3,6 @@
 namespace Ortholan::strict {
 namespace {
 
-constexpr std::string_view kPassedOver = " \t\r\n\f\v";
 constexpr uint8_t kPadding = 64;
 constexpr uint8_t kBlank = 65;
 constexpr uint8_t kNone = 0xFF;
@@ -20,7 +19,7 @@ constexpr DigitTable MakeDigits() {
   for (size_t i = 0; i < kDigits.size(); ++i) {
     table.values[static_cast<uint8_t>(kDigits[i])] = static_cast<uint8_t>(i);
   }
-  for (const char c : kPassedOver) table.values[static_cast<uint8_t>(c)] = kBlank;
+  for (const char c : kBase64Blanks) table.values[static_cast<uint8_t>(c)] = kBlank;
   table.values[static_cast<uint8_t>('=')] = kPadding;
   return table;
 }

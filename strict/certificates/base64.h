@@ -11,6 +11,8 @@
 
 namespace Ortholan::strict {
 
+constexpr std::string_view kBase64Blanks = " \t\r\n\f\v";
+
 // Whether the text is base64; `*fault` is where it is not.
 bool CheckBase64(std::string_view base64, size_t* fault);
 

@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view kBegin = "-----BEGIN ";
 constexpr std::string_view kEnd = "-----END ";
 constexpr std::string_view kDashes = "-----";
-constexpr std::string_view kBlanks = " \t\r\n\f\v";
+
 // A line at `start` that is `front`, a label, five dashes and blanks.
 bool ReadBoundary(std::string_view text, size_t start, std::string_view front,
                   std::string_view* label, size_t* end) {
@@ -21,7 +21,7 @@ bool ReadBoundary(std::string_view text, size_t start, std::string_view front,
   const size_t dashes = line.find(kDashes);
   if (dashes == std::string_view::npos) return false;
   const std::string_view behind = line.substr(dashes + kDashes.size());
-  if (behind.find_first_not_of(kBlanks) != std::string_view::npos) return false;
+  if (behind.find_first_not_of(kBase64Blanks) != std::string_view::npos) return false;
   *label = line.substr(0, dashes);
   *end = line_end;
   return true;

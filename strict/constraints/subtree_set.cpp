@@ -13,22 +13,7 @@ constexpr int kWeights[] = {0, 2, 3, 1};  // kOutside, kOverlap, kInside, kUnkno
 // Which of two answers says more.
 constexpr int Weight(Holding holding) { return kWeights[static_cast<size_t>(holding)]; }
 
-// Asks `hold` about each subtree of the name's form.
-template <class Subtrees, class Hold>
-HoldingOfList Walk(const Subtrees& subtrees, const ConstrainedName& name, Budget* budget,
-                   Hold hold) {
-  HoldingOfList found;
-  for (const Subtree& subtree : subtrees) {
-    if (subtree.form != name.form) continue;
-    if (!budget->Take()) return {Holding::kUnknown, nullptr, ORTHOLAN_REASON_BUDGET};
-    ortholan_reason reason = ORTHOLAN_REASON_NONE;
-    const Holding holding = hold(subtree, &reason);
-    if (holding == Holding::kOutside) continue;
-    if (Weight(holding) > Weight(found.holding)) found = {holding, &subtree, reason};
-    if (holding == Holding::kInside) break;
-  }
-  return found;
-}
+constexpr HoldingOfList kOverBudget = {Holding::kUnknown, nullptr, ORTHOLAN_REASON_BUDGET};
 
 }  // namespace
 
@@ -62,17 +47,34 @@ HoldingOfList SubtreeSet::FindByIndex(const ConstrainedName& name, Budget* budge
   return FindByWalk(name, budget);
 }
 
-HoldingOfList SubtreeSet::FindByWalk(const ConstrainedName& name, Budget* budget) const {
-  if (name.form == NameForm::kDns || name.form == NameForm::kUri) return FindHost(name, budget);
-  return Walk(subtrees_, name, budget, [&name](const Subtree& subtree, ortholan_reason* reason) {
-    return Hold(subtree, name, reason);
-  });
+// Most names and subtrees are hosts, of which nothing is unknown.
+HoldingOfList SubtreeSet::FindHost(const ConstrainedName& name, Budget* budget) const {
+  const NameForm form = name.form;
+  const std::string_view host = name.host;
+  const Subtree* overlap = nullptr;
+  for (const Subtree& subtree : subtrees_) {
+    if (subtree.form != form) continue;
+    if (!budget->Take()) return kOverBudget;
+    if (!MayEndAlike(subtree.host, host)) continue;
+    const Holding holding = HoldHost(subtree, name);
+    if (holding == Holding::kInside) return {holding, &subtree};
+    if (holding == Holding::kOverlap && overlap == nullptr) overlap = &subtree;
+  }
+  return {overlap != nullptr ? Holding::kOverlap : Holding::kOutside, overlap};
 }
 
-HoldingOfList SubtreeSet::FindHost(const ConstrainedName& name, Budget* budget) const {
-  return Walk(subtrees_, name, budget, [&name](const Subtree& subtree, ortholan_reason*) {
-    return MayEndAlike(subtree.host, name.host) ? HoldHost(subtree, name) : Holding::kOutside;
-  });
+HoldingOfList SubtreeSet::FindOther(const ConstrainedName& name, Budget* budget) const {
+  HoldingOfList found;
+  for (const Subtree& subtree : subtrees_) {
+    if (subtree.form != name.form) continue;
+    if (!budget->Take()) return kOverBudget;
+    ortholan_reason reason = ORTHOLAN_REASON_NONE;
+    const Holding holding = Hold(subtree, name, &reason);
+    if (holding == Holding::kOutside) continue;
+    if (Weight(holding) > Weight(found.holding)) found = {holding, &subtree, reason};
+    if (holding == Holding::kInside) break;
+  }
+  return found;
 }
 
 }  // namespace Ortholan::strict

@@ -42,8 +42,12 @@ class SubtreeSet {
 
  private:
   HoldingOfList FindByIndex(const ConstrainedName& name, Budget* budget) const;
+  HoldingOfList FindByWalk(const ConstrainedName& name, Budget* budget) const {
+    const bool is_host = name.form == NameForm::kDns || name.form == NameForm::kUri;
+    return is_host ? FindHost(name, budget) : FindOther(name, budget);
+  }
   HoldingOfList FindHost(const ConstrainedName& name, Budget* budget) const;
-  HoldingOfList FindByWalk(const ConstrainedName& name, Budget* budget) const;
+  HoldingOfList FindOther(const ConstrainedName& name, Budget* budget) const;
 
   // Longer lists get tables.
   static constexpr size_t kShort = 32;

@@ -28,7 +28,9 @@ class Reader {
   bool Sees(uint8_t identifier) const { return !rest_.empty() && rest_[0] == identifier; }
 
   // The next element, whatever it is.
-  bool Read(Element* element) {
+  bool Read(Element* element) { return ReadInline(element); }
+  // The same within the caller, for the loops that read most: the compiler would call it there.
+  [[gnu::always_inline]] bool ReadInline(Element* element) {
     // One identifier octet and a length of one octet, all there: nearly every element.
     Extent extent = {2, 0};
     if (rest_.size >= 2 && (rest_[0] & kLongTag) != kLongTag && rest_[1] < 0x80 &&

@@ -1,4 +1,5 @@
 // Rules about a document as a whole, and about extensions that are missing.
+#include "strict/der/any_value.h"
 #include "strict/der/known_oids.h"
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
@@ -29,12 +30,36 @@ bool HasMailbox(ByteView names) {
   return has;
 }
 
+// An INTEGER as X.690 8.3.2 has it.
+bool TakeNumber(Reader* fields, Element* number) {
+  return fields->Read(kInteger, number) &&
+         CheckValue(*number, fields->leniency(), fields->refusal());
+}
+
+// The version and the serial number, which stand first and which reading takes as they are.
+bool AreNumbersInOrder(ByteView der, Refusal* refusal) {
+  Reader whole(ContentOf(der, kSequence), Leniency::kDer, refusal);
+  ByteView body, wrapped;
+  Element number;
+  if (!whole.Read(kSequence, &body)) return false;
+  Reader fields(body, Leniency::kDer, refusal);
+  if (fields.Sees(ContextConstructed(0))) {
+    if (!fields.Read(ContextConstructed(0), &wrapped)) return false;
+    Reader version(wrapped, Leniency::kDer, refusal);
+    if (!TakeNumber(&version, &number) || !version.End()) return false;
+    const bool is_default = number.content.size == 1 && number.content[0] == 0;
+    if (is_default) return version.RefuseAt(ORTHOLAN_REASON_DEFAULT, wrapped.data);
+  }
+  return !fields.Sees(kInteger) || TakeNumber(&fields, &number);
+}
+
 }  // namespace
 
 void Encoding(const CheckCase& at) {
-  const Refusal& refusal = at.document.refusal;
-  if (!refusal || !at.document.is_readable) return;
-  at.Fault(at.document.view.der(), refusal);
+  if (!at.document.is_readable) return;
+  Refusal refusal = at.document.refusal;
+  const ByteView der = at.document.view.der();
+  if (refusal || !AreNumbersInOrder(der, &refusal)) at.Fault(der, refusal);
 }
 
 // Where there is an empty list, nothing else can be told.

@@ -62,8 +62,10 @@ void EmptySubjectNotCritical(const CheckCase& at) {
   }
 }
 
+// A value that is no BIT STRING says nothing of bits.
 void NoUsage(const CheckCase& at) {
-  if (at.document.key_usage == 0) at.Fault(at.extension.bytes);
+  const bool is_read = !ContentOf(at.extension.value, kBitString).empty();
+  if (is_read && at.document.key_usage == 0) at.Fault(at.extension.bytes);
 }
 
 void CertSignWithoutAuthority(const CheckCase& at) {

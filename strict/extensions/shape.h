@@ -95,6 +95,49 @@ struct Field {
   uint8_t tag = 0;
 };
 
+// The identifier octet of a kind of which every value begins with the same; 0 for others.
+constexpr uint8_t IdentifierOf(ShapeKind kind) {
+  switch (kind) {
+    case ShapeKind::kBoolean:
+      return kBoolean;
+    case ShapeKind::kInteger:
+      return kInteger;
+    case ShapeKind::kEnumerated:
+      return kEnumerated;
+    case ShapeKind::kBits:
+      return kBitString;
+    case ShapeKind::kOctets:
+    case ShapeKind::kTlsOctets:
+      return kOctetString;
+    case ShapeKind::kNull:
+      return kNull;
+    case ShapeKind::kOid:
+      return kOid;
+    case ShapeKind::kUtcTime:
+      return kUtcTime;
+    case ShapeKind::kTime:
+      return kGeneralizedTime;
+    case ShapeKind::kSequence:
+    case ShapeKind::kSequenceOf:
+      return kSequence;
+    case ShapeKind::kSetOf:
+    case ShapeKind::kRdn:
+      return kSet;
+    default:
+      return 0;
+  }
+}
+
+// The same where the number of the shape tells more.
+constexpr uint8_t IdentifierOf(ShapeKind kind, uint32_t number) {
+  if (kind == ShapeKind::kAscii) return static_cast<uint8_t>(number);
+  if (kind != ShapeKind::kString) return IdentifierOf(kind);
+  for (uint8_t identifier = 0; identifier < 0x20; ++identifier) {
+    if (number == 1u << identifier) return identifier;
+  }
+  return 0;
+}
+
 struct Shape {
   ShapeKind kind;
   const char* words = "";  // what it is, for people, where it stands in a list
@@ -104,6 +147,8 @@ struct Shape {
   Rows<OpenType> types = {};
   // Identifiers of strings as bits; identifier of ASCII; octets of a TLS part.
   uint32_t number = 0;
+  // The identifier octet that a value begins with; 0 where several may. No table writes it.
+  uint8_t identifier = IdentifierOf(kind, number);
 };
 
 constexpr Shape Sequence(Rows<Field> fields, const char* words = "") {
@@ -136,58 +181,14 @@ constexpr Shape TlsInOctets(const Shape* structure) {
   return {ShapeKind::kTlsOctets, "", {}, structure};
 }
 
-// Whether octets inside the implicit tag of a shape hold elements.
-constexpr bool IsConstructed(ShapeKind kind) {
-  return kind == ShapeKind::kSequence || kind == ShapeKind::kSequenceOf ||
-         kind == ShapeKind::kSetOf || kind == ShapeKind::kRdn;
-}
+constexpr uint8_t IdentifierOf(const Shape& shape) { return shape.identifier; }
 
-// The identifier octet that a value of the shape begins with; 0 where several may.
-constexpr uint8_t IdentifierOf(const Shape& shape) {
-  switch (shape.kind) {
-    case ShapeKind::kBoolean:
-      return kBoolean;
-    case ShapeKind::kInteger:
-      return kInteger;
-    case ShapeKind::kEnumerated:
-      return kEnumerated;
-    case ShapeKind::kBits:
-      return kBitString;
-    case ShapeKind::kOctets:
-    case ShapeKind::kTlsOctets:
-      return kOctetString;
-    case ShapeKind::kAscii:
-      return static_cast<uint8_t>(shape.number);
-    case ShapeKind::kNull:
-      return kNull;
-    case ShapeKind::kOid:
-      return kOid;
-    case ShapeKind::kUtcTime:
-      return kUtcTime;
-    case ShapeKind::kTime:
-      return kGeneralizedTime;
-    case ShapeKind::kSequence:
-    case ShapeKind::kSequenceOf:
-      return kSequence;
-    case ShapeKind::kSetOf:
-    case ShapeKind::kRdn:
-      return kSet;
-    case ShapeKind::kString:
-      for (uint8_t identifier = 0; identifier < 0x20; ++identifier) {
-        if (shape.number == 1u << identifier) return identifier;
-      }
-      return 0;
-    default:
-      return 0;
-  }
-}
-
-// The same for a field with its tag.
+// The same for a field with its tag; an implicit one keeps the form.
 constexpr uint8_t IdentifierOf(const Field& field) {
-  if (field.tagging == Tagging::kNone) return IdentifierOf(*field.shape);
-  const bool is_constructed =
-      field.tagging == Tagging::kExplicit || IsConstructed(field.shape->kind);
-  return is_constructed ? ContextConstructed(field.tag) : Context(field.tag);
+  const uint8_t own = IdentifierOf(*field.shape);
+  if (field.tagging == Tagging::kNone) return own;
+  if (field.tagging == Tagging::kExplicit) return ContextConstructed(field.tag);
+  return static_cast<uint8_t>(Context(field.tag) | (own & kConstructedBit));
 }
 
 }  // namespace Ortholan::strict

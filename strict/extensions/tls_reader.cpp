@@ -13,21 +13,8 @@ class TlsWalk {
 
   // Takes one value from the front.
   bool Read(const Shape& shape, ByteView* in) {
-    ByteView part;
-    switch (shape.kind) {
-      case ShapeKind::kTlsList:
-        return TakeVector(in, &part) && ReadList(shape, part);
-      case ShapeKind::kTlsRecord:
-        return ReadRecord(shape, in);
-      case ShapeKind::kTlsVector:
-        return TakeVector(in, &part) && Tell(shape, part);
-      case ShapeKind::kTlsTime:
-        return Take(in, shape.number, &part) &&
-               (TlsNumber(part) <= kLastMillisecond || Fail(ORTHOLAN_REASON_TIME, part)) &&
-               Tell(shape, part);
-      default:
-        return Take(in, shape.number, &part) && Tell(shape, part);
-    }
+    const bool has_parts = shape.kind == ShapeKind::kTlsRecord || shape.kind == ShapeKind::kTlsList;
+    return has_parts ? ReadParts(shape, in) : ReadLeaf(shape, in);
   }
   // An element of a list, behind its size.
   bool ReadSized(const Shape& shape, ByteView* in, ByteView* bytes) {
@@ -48,6 +35,24 @@ class TlsWalk {
   }
   bool TakeVector(ByteView* in, ByteView* part) {
     return Take(in, kTlsSizeOctets, part) && Take(in, static_cast<size_t>(TlsNumber(*part)), part);
+  }
+
+  // Most values are leaves, which need no frame of their own.
+  [[gnu::noinline]] bool ReadParts(const Shape& shape, ByteView* in) {
+    if (shape.kind == ShapeKind::kTlsRecord) return ReadRecord(shape, in);
+    ByteView part;
+    return TakeVector(in, &part) && ReadList(shape, part);
+  }
+
+  bool ReadLeaf(const Shape& shape, ByteView* in) {
+    ByteView part;
+    const bool is_taken =
+        shape.kind == ShapeKind::kTlsVector ? TakeVector(in, &part) : Take(in, shape.number, &part);
+    if (!is_taken) return false;
+    if (shape.kind == ShapeKind::kTlsTime && TlsNumber(part) > kLastMillisecond) {
+      return Fail(ORTHOLAN_REASON_TIME, part);
+    }
+    return Tell(shape, part);
   }
 
   bool Tell(const Shape& shape, ByteView part) {

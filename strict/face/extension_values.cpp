@@ -26,13 +26,12 @@ ortholan_reason Read(const Shape& shape, ortholan_octets value, int32_t mode, Va
   if (out == nullptr) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
   *out = {};
   if (!IsGiven(value) || !IsMode(mode)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
-  Value read = {};
   Refusal found;
-  if (!ReadStruct(shape, View(value), static_cast<Leniency>(mode), &read, &found)) {
-    return Report(found, value.data, refusal);
+  if (ReadStruct(shape, View(value), static_cast<Leniency>(mode), out, &found)) {
+    return ORTHOLAN_REASON_NONE;
   }
-  *out = read;
-  return ORTHOLAN_REASON_NONE;
+  *out = {};
+  return Report(found, value.data, refusal);
 }
 
 // What of a list is still to come, where the arguments of a call are in order.

@@ -85,39 +85,52 @@ class HostChecker {
   Refusal* refusal_;
 };
 
-// Where in a label a host was read to; four apart, so that a class of characters can be added.
-enum : uint8_t { kLabelStart = 0, kInside = 4, kBehindHyphen = 8, kWrong = 12 };
+// Where in a label a host was read to. A state is how far a character's word of next states has to
+// be shifted, so that nothing but one shift waits for the state before.
+enum : uint32_t { kLabelStart = 0, kInside = 5, kBehindHyphen = 10, kWrong = 15 };
+constexpr uint32_t kStateMask = 31;
 
-enum : uint8_t { kInnerClass = 0, kHyphenClass = 1, kDotClass = 2, kOtherClass = 3 };
+// The states behind a character, by those in front of it.
+constexpr uint32_t NextStates(uint32_t label_start, uint32_t inside, uint32_t behind_hyphen) {
+  return label_start << kLabelStart | inside << kInside | behind_hyphen << kBehindHyphen |
+         kWrong << kWrong;
+}
 
-// The state behind a character of each class, in each state.
-constexpr uint8_t kNextState[] = {
-    kInside, kWrong,        kWrong,      kWrong,  // at the start of a label
-    kInside, kBehindHyphen, kLabelStart, kWrong,  // inside
-    kInside, kBehindHyphen, kWrong,      kWrong,  // behind a hyphen
-    kWrong,  kWrong,        kWrong,      kWrong,
+struct NextStateTable {
+  uint32_t words[256];
 };
 
-constexpr CharacterTable MakeClasses(bool hasUnderscores) {
-  CharacterTable table = {};
+constexpr NextStateTable MakeNextStates(bool has_underscores) {
+  NextStateTable table = {};
   for (int c = 0; c < 0x100; ++c) {
     const bool is_inner = c < 0x80 && (IsAsciiLetter(c) || IsAsciiDigit(c));
-    table.bits[c] = is_inner || (c == '_' && hasUnderscores) ? kInnerClass : kOtherClass;
+    table.words[c] = is_inner || (c == '_' && has_underscores)
+                         ? NextStates(kInside, kInside, kInside)
+                         : NextStates(kWrong, kWrong, kWrong);
   }
-  table.bits[static_cast<int>('-')] = kHyphenClass;
-  table.bits[static_cast<int>('.')] = kDotClass;
+  table.words[static_cast<int>('-')] = NextStates(kWrong, kBehindHyphen, kBehindHyphen);
+  table.words[static_cast<int>('.')] = NextStates(kWrong, kLabelStart, kWrong);
   return table;
 }
 
-constexpr CharacterTable kClasses[] = {MakeClasses(false), MakeClasses(true)};
+constexpr NextStateTable kNextStates[] = {MakeNextStates(false), MakeNextStates(true)};
 
 }  // namespace
 
 bool IsPlainlyHost(std::string_view host, uint32_t choices) {
-  const uint8_t* const classes = kClasses[(choices & kUnderscores) != 0 ? 1 : 0].bits;
-  uint8_t state = kLabelStart;
-  for (const char c : host) state = kNextState[state | classes[static_cast<uint8_t>(c)]];
-  return state == kInside && !IsAsciiDigit(host.back()) && host.size() <= kMaxLabelOctets;
+  const uint32_t* const next = kNextStates[(choices & kUnderscores) != 0 ? 1 : 0].words;
+  const auto behind = [next](uint32_t state, char c) {
+    return next[static_cast<uint8_t>(c)] >> (state & kStateMask);
+  };
+  uint32_t state = kLabelStart;
+  const char* at = host.data();
+  const char* const end = at + host.size();
+  for (; end - at >= 4; at += 4) {
+    state = behind(behind(behind(behind(state, at[0]), at[1]), at[2]), at[3]);
+  }
+  for (; at != end; ++at) state = behind(state, *at);
+  return (state & kStateMask) == kInside && !IsAsciiDigit(host.back()) &&
+         host.size() <= kMaxLabelOctets;
 }
 
 bool CheckHostClosely(std::string_view host, uint32_t choices, Refusal* refusal) {

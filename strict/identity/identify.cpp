@@ -109,10 +109,23 @@ ortholan_reason CompareNoHost(const GeneralNameView& name, const Reference& refe
 }
 
 // NONE for a match. A name that differs is not looked at closer.
-inline ortholan_reason Compare(const GeneralNameView& name, const Reference& reference) {
+ortholan_reason Compare(const GeneralNameView& name, const Reference& reference) {
   if (reference.kind != ReferenceKind::kHost) return CompareNoHost(name, reference);
   if (name.kind != GeneralNameKind::kDns) return ORTHOLAN_REASON_OTHER_KIND;
   return CompareHostNames(AsText(name.content), reference);
+}
+
+constexpr uint8_t kDnsName = kGeneralNameIdentifiers[static_cast<size_t>(GeneralNameKind::kDns)];
+
+// Whether an element is a name that answers. Hosts are asked for most, so theirs is the short way.
+inline bool Answers(const Element& element, const Reference& reference) {
+  if (reference.kind == ReferenceKind::kHost) {
+    return element.identifier == kDnsName &&
+           CompareHostNames(AsText(element.content), reference) == ORTHOLAN_REASON_NONE;
+  }
+  GeneralNameView name;
+  return GeneralNameView::FromElement(element, &name) &&
+         CompareNoHost(name, reference) == ORTHOLAN_REASON_NONE;
 }
 
 Identity CannotTell(const Refusal& found, Refusal* refusal) {
@@ -152,16 +165,16 @@ Identity IdentifyByNames(ByteView names, const Reference& reference, Refusal* re
   Reader list(identity.names, Leniency::kDer, &found);
   if (is_read && list.AtEnd()) is_read = list.RefuseHere(ORTHOLAN_REASON_EMPTY);
   Element element;
-  for (GeneralNameView name; is_read && !list.AtEnd(); ++identity.name_count) {
+  bool matches = false;
+  size_t count = 0;
+  for (; is_read && !list.AtEnd(); ++count) {
     is_read = list.Read(&element);
-    if (!is_read || !identity.match.bytes.empty()) continue;
-    if (!GeneralNameView::FromElement(element, &name)) continue;
-    if (Compare(name, reference) != ORTHOLAN_REASON_NONE) continue;
-    identity.match = name;
-    identity.index = identity.name_count;
+    if (matches || !is_read || !Answers(element, reference)) continue;
+    matches = GeneralNameView::FromElement(element, &identity.match);
+    identity.index = count;
   }
+  identity.name_count = count;
   if (!is_read) return CannotTell(found, refusal);
-  const bool matches = !identity.match.bytes.empty();
   identity.verdict = matches ? Verdict::kYes : Verdict::kNo;
   if (!matches) identity.reason = ORTHOLAN_REASON_NO_MATCH;
   return identity;

@@ -4,7 +4,6 @@
 
 #include "bytes/der_length.h"
 #include "strict/der/reader.h"
-#include "strict/names/plain_rdn.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -46,14 +45,7 @@ Attribute RdnView::At(size_t at) const {
   return attribute;
 }
 
-bool RdnWalk::Next(RdnView* rdn) {
-  if (ReadPlainRdn(rdns_, &rdn->content, &rdn->first.type, &rdn->first.value)) {
-    rdns_ = rdns_.From(static_cast<size_t>(rdn->content.end() - rdns_.data));
-    rdn->size = 1;
-    rdn->index = rdn_++;
-    rdn->first_attribute = attribute_++;
-    return true;
-  }
+bool RdnWalk::NextOther(RdnView* rdn) {
   Reader rdns(rdns_, Leniency::kLenient, nullptr);
   Element element;
   if (rdns.AtEnd() || !rdns.Read(&element)) return false;

@@ -12,6 +12,7 @@
 #include "bytes/small_buffer.h"
 #include "strict/matching/value_form.h"
 #include "strict/names/name_view.h"
+#include "strict/names/plain_rdn.h"
 
 namespace Ortholan::strict {
 
@@ -48,9 +49,21 @@ class RdnWalk {
  public:
   explicit RdnWalk(const NameView& name) : rdns_(name.rdns()) {}
   // False at the end.
-  bool Next(RdnView* rdn);
+  bool Next(RdnView* rdn) {
+    if (!ReadPlainRdn(rdns_, &rdn->content, &rdn->first.type, &rdn->first.value)) {
+      return NextOther(rdn);
+    }
+    rdns_ = rdns_.From(static_cast<size_t>(rdn->content.end() - rdns_.data));
+    rdn->size = 1;
+    rdn->index = rdn_++;
+    rdn->first_attribute = attribute_++;
+    return true;
+  }
 
  private:
+  // Of one that is not plain.
+  bool NextOther(RdnView* rdn);
+
   ByteView rdns_;
   size_t rdn_ = 0;
   size_t attribute_ = 0;

@@ -123,32 +123,39 @@ inline void Spoil(size_t* place) {
 }
 inline bool IsCleared(size_t* place) { return place == nullptr || *place == 0; }
 
-template <size_t kIndex, class Function, class Arguments>
-int RefuseNull(const Function& function, Arguments arguments) {
-  if (!MakeNull(&std::get<kIndex>(arguments))) return 0;
-  return std::apply(
-      [&](const auto&... each) {
-        (Spoil(Passed(each)), ...);
-        EXPECT_EQ(function(Passed(each)...), ORTHOLAN_ERROR_ARGUMENT) << "argument " << kIndex;
-        EXPECT_TRUE((IsCleared(Passed(each)) && ...)) << "argument " << kIndex;
-        return 1;
-      },
-      arguments);
+// The argument, null if none of those before it were left to pass by.
+template <class T>
+T NullAfter(size_t* before, T argument, bool* made) {
+  if ((*before)-- == 0) *made = MakeNull(&argument);
+  return argument;
 }
 
-template <class Function, class Arguments, size_t... kIndices>
-int RefuseEachNull(const Function& function, const Arguments& arguments,
-                   std::index_sequence<kIndices...>) {
-  return (RefuseNull<kIndices>(function, arguments) + ... + 0);
+void ExpectRefused(size_t index, int result, bool is_cleared) {
+  EXPECT_EQ(result, ORTHOLAN_ERROR_ARGUMENT) << "argument " << index;
+  EXPECT_TRUE(is_cleared) << "argument " << index;
 }
 
 // Calls the function with each of its pointers null in turn.
 template <class Function, class... Arguments>
 void ExpectNoNulls(const char* name, const Function& function, Arguments... arguments) {
   SCOPED_TRACE(name);
-  EXPECT_GT(RefuseEachNull(function, std::make_tuple(arguments...),
-                           std::index_sequence_for<Arguments...>()),
-            0);
+  size_t refused = 0;
+  for (size_t index = 0; index < sizeof...(Arguments); ++index) {
+    size_t before = index;
+    bool made = false;
+    // The braces have the arguments taken in their order.
+    const std::tuple<Arguments...> tried{NullAfter(&before, arguments, &made)...};
+    if (!made) continue;
+    ++refused;
+    std::apply(
+        [&](const auto&... each) {
+          (Spoil(Passed(each)), ...);
+          const int result = function(Passed(each)...);
+          ExpectRefused(index, result, (IsCleared(Passed(each)) && ...));
+        },
+        tried);
+  }
+  EXPECT_GT(refused, 0u);
 }
 #define EXPECT_NO_NULLS(function, ...) ExpectNoNulls(#function, function, __VA_ARGS__)
 

@@ -5,28 +5,31 @@
 digits() {
   sed '/^-----/d' "$1" | base64 -d | od -An -v -tx1 | tr -d ' \n' | tr a-f A-F
 }
-block() {
-  echo '-----BEGIN CERTIFICATE-----'
-  octets <<<"$1" | base64
-  echo '-----END CERTIFICATE-----'
-}
 
 # A small certificate: serial number, algorithm, issuer and validity empty, subject CN = "a", key
 # empty, and alternative names, a DNS name "a" and the address 127.0.0.1.
 whole=30383031020101300030003000300C310A300806035504030C01613000A316301430120603551D11040B300982016187047F0000013000030100
 size=$((${#whole} / 2))
 
-# One bundle in place of a process each; behind the broken ones stands a whole one.
-for ((i = 0; i < size; ++i)); do block "${whole:0:2*i}"; done >cut.pem
-block "$whole" >>cut.pem
+# bundle OCTET >FILE: a block for each octet of it, which is another there or, without OCTET, the end; and
+# behind the broken ones a whole one.
+bundle() {
+  python3 - "$whole" "$1" <<'PYTHON'
+import base64, sys
+whole, octet = map(bytes.fromhex, sys.argv[1:])
+broken = [whole[:i] + octet + whole[i + 1:] if octet else whole[:i] for i in range(len(whole))]
+for der in [*broken, whole]:
+    text = base64.encodebytes(der).decode()
+    print(f"-----BEGIN CERTIFICATE-----\n{text}-----END CERTIFICATE-----")
+PYTHON
+}
+
+bundle "" >cut.pem
 row "cut short after each octet" 1 "~certificate $((size + 1))" \
   "$size:x509name: show: cut\.pem: certificate $size: the octets are cut short, or no DER" show cut.pem
 
 for octet in 00 1F 30 7F 80 84 89 FF; do
-  for ((i = 0; i < size; ++i)); do
-    block "${whole:0:2*i}$octet${whole:2*i+2}"
-  done >spoiled.pem
-  block "$whole" >>spoiled.pem
+  bundle "$octet" >spoiled.pem
   row "each octet replaced by $octet" 1 "~certificate $((size + 1))" '*:' show spoiled.pem
   row "the same, counted" 0 '~certificates +[0-9]+' "" survey spoiled.pem
 done

@@ -11,6 +11,7 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 
 import vectors  # noqa: E402
+from der import element, identifier  # noqa: E402
 
 program = sys.argv[2:]
 failures = []
@@ -24,24 +25,6 @@ def ask(row, what, expected, arguments, stdin=""):
     actual = done.stdout.rstrip("\n") if done.returncode == 0 else None
     if actual != expected or not said:
         failures.append(f"{row['where']}: {what}: {actual!r}, not {expected!r}: {done.stderr}")
-
-
-def element(tag, content):
-    size = len(content)
-    octets = size.to_bytes((size.bit_length() + 7) // 8, "big")
-    return bytes([tag]) + (bytes([size]) if size < 128 else
-                           bytes([0x80 | len(octets)]) + octets) + content
-
-
-def identifier(dotted):
-    arcs = [int(arc) for arc in dotted.split(".")]
-    content = b""
-    for arc in [arcs[0] * 40 + arcs[1], *arcs[2:]]:
-        septets = [arc & 0x7F]
-        while arc := arc >> 7:
-            septets.append(0x80 | arc & 0x7F)
-        content += bytes(reversed(septets))
-    return element(6, content)
 
 
 def record(row):

@@ -1,4 +1,4 @@
-# What debuggers show.
+# What GDB shows.
 set(debug "${CMAKE_CURRENT_SOURCE_DIR}/debug")
 add_executable(printed "${debug}/printed.cpp")
 target_link_libraries(printed PRIVATE Ortholan::ortholan)
@@ -12,7 +12,3 @@ add_test(NAME gdb_printers COMMAND python3 "${debug}/printers_test.py" "${ORTHOL
   "${CMAKE_CURRENT_SOURCE_DIR}/data/names.txt" $<TARGET_FILE:ortholan> $<TARGET_FILE:x509name>
   "${CMAKE_COMMAND}" "${PROJECT_BINARY_DIR}")
 set_tests_properties(gdb_printers PROPERTIES TIMEOUT 600)
-
-add_test(NAME natvis COMMAND python3 "${debug}/natvis_test.py"
-  "${PROJECT_SOURCE_DIR}/packaging/debug/ortholan.natvis" "${PROJECT_SOURCE_DIR}")
-set_tests_properties(natvis PROPERTIES TIMEOUT 600)

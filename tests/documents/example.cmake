@@ -36,7 +36,8 @@ endfunction()
 # A test for each C or C++ block of `document`: a whole program, which gets the path of a certificate,
 # of a directory of them where it walks through one, and has to print what the text block behind it
 # holds, or to return 0 where there is none. What is for the other platform goes by the calls in it;
-# what is the same everywhere is tried once, C also where other compilers' tools come in.
+# what is the same everywhere is tried once, C also where other compilers' tools come in, and C++ also
+# where nothing is precompiled, which tells whether a block includes what it uses.
 function(ortholan_document_programs document)
   set(page "${PROJECT_SOURCE_DIR}/${document}")
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${page}")
@@ -69,7 +70,8 @@ function(ortholan_document_programs document)
       if(is_platforms AND NOT WIN32)
         continue()
       endif()
-      if(NOT is_platforms AND NOT language STREQUAL "c" AND NOT ORTHOLAN_CHECK_SOURCES)
+      if(NOT is_platforms AND NOT language STREQUAL "c" AND NOT ORTHOLAN_CHECK_SOURCES
+         AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
         continue()
       endif()
 
@@ -86,6 +88,7 @@ function(ortholan_document_programs document)
         add_dependencies(${name} ortholan)
       else()
         target_link_libraries(${name} PRIVATE Ortholan::ortholan)
+        ortholan_precompile(${name} Ortholan::ortholan)
       endif()
       if(code MATCHES "openssl/")
         target_link_libraries(${name} PRIVATE OpenSSL::Crypto)

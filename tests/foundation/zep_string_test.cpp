@@ -82,6 +82,9 @@ TEST(CZEPString, Appends) {
   EXPECT_LT(moves, 100);
 }
 
+// Lengths have 31 bits, the terminator included: what is longer is not read.
+TEST(CZEPString, RefusesLongTextByItsLength) { EXPECT_EQ(Text(CZEPString("a", 0x7FFFFFFF)), ""); }
+
 // Formats and comparisons are the fuzz target's; here what it does not reach.
 TEST(CZEPString, FormatsLongTexts) {
   CZEPString text('o');

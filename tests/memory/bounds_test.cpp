@@ -16,7 +16,7 @@ namespace Ortholan::testing {
 namespace {
 
 // Sanitizers and emulation take a smaller share.
-constexpr std::size_t kScale = 4 * ORTHOLAN_TEST_SCALE;
+constexpr std::size_t kScale = 8 * ORTHOLAN_TEST_SCALE;
 
 constexpr std::size_t kMiB = std::size_t{1} << 20;
 

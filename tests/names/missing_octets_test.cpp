@@ -80,6 +80,9 @@ TEST(Format, KnowsTheSizePrefixesOfWindows) {
   text.Format("%I64d|%-5I64X|%Fs|%4Nd|%hs|%%Fs|%.1F|%F", int64_t{1} << 40, uint64_t{0xAB}, "far", 7,
               "h", 1.25, 2.5);
   EXPECT_STREQ(text.c_str(), "1099511627776|AB   |far|   7|h|%Fs|1.2|2.500000");
+  // One prefix alone leaves the least room.
+  text.Format("%I64d", int64_t{1});
+  EXPECT_STREQ(text.c_str(), "1");
 }
 
 TEST(GeneralNameText, OfAnIdentifierIsInTheHostsCodePage) {

@@ -3,6 +3,8 @@
 #include <cstring>
 #include <set>
 
+#include "names/attribute_table.h"
+#include "names/encoder/remembered_types.h"
 #include "tests/names/name_answers.h"
 
 namespace Ortholan::testing {
@@ -23,6 +25,33 @@ std::string TagOf(const std::wstring& type, wchar_t c) {
   const std::string octets = Octets(der);
   // SEQUENCE, SET, SEQUENCE, OBJECT IDENTIFIER, each with a short length.
   return der.front() == '3' ? Hex(octets.substr(8 + static_cast<size_t>(octets[7]), 1)) : der;
+}
+
+TEST(AttributeTable, FindsEachRowByTextAndOctets) {
+  for (const AttributeRow& row : kAttributes) {
+    EXPECT_EQ(FindAttribute(row.oid), &row);
+    EXPECT_EQ(FindAttributeByDer(row.oid_content()), &row);
+  }
+}
+
+TEST(RememberedTypes, AreThoseOfFewAsciiCharacters) {
+  RememberedTypes types;
+  const auto key = [](std::string_view text, uint16_t version) {
+    const std::basic_string<unsigned char> octets(text.begin(), text.end());
+    const std::wstring wide(octets.begin(), octets.end());
+    const RememberedText narrow = RememberedText::Of(text, version);
+    EXPECT_EQ(RememberedText::Of(std::wstring_view(wide), version).word(), narrow.word());
+    return narrow;
+  };
+  for (const std::string_view text : {"C", "CN", "\1", "\x7F", "TITLE"}) {
+    const auto place = static_cast<uint8_t>(text.size());
+    types.Keep(key(text, 7), place);
+    EXPECT_EQ(types.Find(key(text, 7)), place) << text;
+    EXPECT_EQ(types.Find(key(text, 8)), RememberedTypes::kNone) << text;
+  }
+  const std::string_view without_key[] = {"", "TITLES", "\x80", "\xFF", {"\0C", 2}};
+  for (const std::string_view text : without_key) EXPECT_FALSE(key(text, 7).has_text()) << text;
+  EXPECT_EQ(types.Find({}), RememberedTypes::kNone);
 }
 
 TEST(Alphabets, DecideTheStringType) {
@@ -152,7 +181,7 @@ TEST(Quoting, GoesByCharacter) {
   std::set<unsigned> space = {0x20, 0xA0, 0x1680, 0x2028, 0x2029, 0x202F, 0x205F, 0x3000};
   for (unsigned unit = 0x09; unit <= 0x0D; ++unit) space.insert(unit);
   for (unsigned unit = 0x2000; unit <= 0x200A; ++unit) space.insert(unit);
-  for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+  for (unsigned unit = 0; unit <= 0xFFFF; unit += ORTHOLAN_TEST_SCALE) {
     const bool symbol = unit != 0 && unit < 0x80 &&
                         std::strchr("#;,+\"\\=<>\n\r'", static_cast<int>(unit)) != nullptr;
     const bool any = symbol || space.count(unit) != 0;

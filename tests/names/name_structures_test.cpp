@@ -60,6 +60,28 @@ TEST(EncodeRdnLists, WritesOrRefuses) {
   for (const auto& [form, der] : rows) EXPECT_EQ(Written(form), der);
 }
 
+// Their copies fill blocks of their own.
+TEST(EncodeRdnLists, WritesLongValues) {
+  const auto repeated = [](const char* unit) {
+    std::string octets;
+    for (int i = 0; i < 4104; ++i) octets += Octets(unit);
+    return octets;
+  };
+  const struct {
+    DWORD type;
+    const char* unit;
+    unsigned tag;
+    const char* written;
+  } rows[] = {{CERT_RDN_BMP_STRING, "61 00", 0x13, "61"},
+              {CERT_RDN_BMP_STRING, "36 04", 0x1E, "04 36"},
+              {CERT_RDN_UTF8_STRING, "D0 B6", 0x1E, "04 36"}};
+  for (const auto& row : rows) {
+    const Rdns rdns = {{RDNAttr("2.5.4.3", row.type, ExactCopy(repeated(row.unit)))}};
+    const std::string value = Tlv(row.tag, repeated(row.written));
+    EXPECT_EQ(Octets(Written(rdns)), NameOf(Octets("06 03 55 04 03") + value));
+  }
+}
+
 TEST(EncodeNameInfo, WritesOrRefuses) {
   char cn[] = "2.5.4.3";
   char o[] = "2.5.4.10";

@@ -190,7 +190,15 @@ TEST(EncodeIdentifiers, ByTheirArcs) {
       {"1.2.268435455", {{"300706052AFFFFFF7F"}}},
       {"1.2.4294967295",
        {{"300806062A8FFFFFFF7F"}, {{kWine, kAnyEncoding, "goes wrong above 28 bits"}}}},
+      {"1.2.00000000004294967295",
+       {{"300806062A8FFFFFFF7F"}, {{kWine, kAnyEncoding, "goes wrong above 28 bits"}}}},
+      {"2.4294967295",
+       {{"30070605908080804F"}, {{kWine, kAnyEncoding, "goes wrong above 28 bits"}}}},
       {"1.2.4294967296", kRefusedElsewhere},
+      {"1.2.10000000000", kRefusedElsewhere},
+      {"0.40", kRefusedElsewhere},
+      {"1.2./", kRefusedElsewhere},
+      {"1.2.:", kRefusedElsewhere},
       {"1.2.100000000000000000000", kRefusedElsewhere},
       {"1.40", kRefusedElsewhere},
       {"3.1.2", kRefusedElsewhere},
@@ -335,6 +343,13 @@ TEST(ExtensionCodecs, CountsWithoutArraysAreRefused) {
     info[row.count] = 3;
     ExpectEncoding(FindStructureKind(row.structure)->type, info, {{"", ERROR_INVALID_PARAMETER}});
   }
+  const Decoded none = Decode(*FindStructureKind("X509_ENHANCED_KEY_USAGE"),
+                              X509_ENHANCED_KEY_USAGE, Octets("30 00"));
+  CERT_ENHKEY_USAGE empty;
+  std::memcpy(&empty, none.room.data(), sizeof empty);
+  EXPECT_EQ(empty.rgpszUsageIdentifier, nullptr);
+  // The last number that is not read as the address of an identifier.
+  ExpectEncoding(reinterpret_cast<LPCSTR>(0xFFFF), "", {{"", kNoCodec}});
   LPSTR usages[] = {nullptr};
   const CERT_ENHKEY_USAGE usage = {1, usages};
   ExpectEncoding(X509_ENHANCED_KEY_USAGE, &usage, {{"", kNoIdentifier}});

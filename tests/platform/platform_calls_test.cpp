@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "platform/calls.h"
+#include "platform/string_value.h"
 #include "tests/platform/contract.h"
 #include "tests/support/calls.h"
 
@@ -120,7 +121,26 @@ std::string DecodedText(const VectorRow& row, LPCSTR structure) {
   }
   return std::to_string(value.dwValueType) + ": " + Hex(rest.substr(0, value.Value.cbData));
 }
-std::string DecodedValue(const VectorRow& row) { return DecodedText(row, X509_NAME_VALUE); }
+
+// The same value by the call for single strings, which leaves UTF-8 of ASCII as it is.
+std::string SingleString(const VectorRow& row) {
+  auto der = ExactBlock<char>::CopyOf(row.octets("in"));
+  StringValue value;
+  if (!value.Decode(AsBytes(der.data()), der.size())) return Error("error 0x%08X", GetLastError());
+  std::string octets;
+  for (size_t i = 0; i < value.size(); ++i) {
+    octets += static_cast<char>(value.data()[i]);
+    if (der[0] == 0x0C && !value.is_utf16()) octets += '\0';
+  }
+  return Hex(octets);
+}
+std::string DecodedValue(const VectorRow& row) {
+  const std::string answer = DecodedText(row, X509_NAME_VALUE);
+  if (ThisRealisation() == kNative) {
+    EXPECT_EQ(SingleString(row), answer.substr(answer[0] == 'e' ? 0 : answer.find(' ') + 1));
+  }
+  return answer;
+}
 std::string DecodedText(const VectorRow& row) { return DecodedText(row, X509_UNICODE_NAME_VALUE); }
 
 // The text without its terminator, which the size counts; "none" where there is not even that.

@@ -42,8 +42,6 @@ STAND_IN(BOOL, FileTimeToSystemTime,
 STAND_IN(BOOL, SystemTimeToFileTime,
          "_ZN8Ortholan20SystemTimeToFileTimeEPKNS_10SYSTEMTIMEEPNS_8FILETIMEE",
          (const SYSTEMTIME* in, FILETIME* out), (in, out))
-STAND_IN(int, LoadStringA, "_ZN8Ortholan11LoadStringAEPvjPci",
-         (HINSTANCE module, UINT id, LPSTR out, int size), (module, id, out, size))
 STAND_IN(const CRYPT_OID_INFO*, FindAttributeInfo, "_ZN8Ortholan17FindAttributeInfoEjPKv",
          (DWORD keyType, const void* key), (keyType, key))
 STAND_IN(bool, EncodeStringValue, "_ZN8Ortholan17EncodeStringValueEjPKcmPhm",

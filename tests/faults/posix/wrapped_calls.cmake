@@ -1,4 +1,4 @@
-# The calls that stand_ins.cpp stands in for, as the linker knows them.
+# The calls that stand_ins.cpp and modules_test.cpp stand in for, as the linker knows them.
 set(ORTHOLAN_WRAPPED_CALLS
   _ZN8Ortholan19MultiByteToWideCharEjjPKciPwi
   _ZN8Ortholan19WideCharToMultiByteEjjPKwiPciPKcPi
@@ -8,6 +8,10 @@ set(ORTHOLAN_WRAPPED_CALLS
   _ZN8Ortholan18CertRDNValueToStrWEjPNS_15_CRYPTOAPI_BLOBEPwj
   _ZN8Ortholan20FileTimeToSystemTimeEPKNS_8FILETIMEEPNS_10SYSTEMTIMEE
   _ZN8Ortholan20SystemTimeToFileTimeEPKNS_10SYSTEMTIMEEPNS_8FILETIMEE
+  _ZN8Ortholan18GetModuleFileNameAEPvPcj
+  _ZN8Ortholan16GetModuleHandleAEPKc
+  _ZN8Ortholan12LoadLibraryAEPKc
+  _ZN8Ortholan11FreeLibraryEPv
   _ZN8Ortholan11LoadStringAEPvjPci
   _ZN8Ortholan17FindAttributeInfoEjPKv
   _ZN8Ortholan17EncodeStringValueEjPKcmPhm
