@@ -8,6 +8,7 @@
 
 #include "bytes/small_buffer.h"
 #include "strict/constraints/budget.h"
+#include "strict/constraints/constrained_name.h"
 #include "strict/constraints/subtree.h"
 #include "strict/constraints/within_subtree.h"
 
