@@ -44,7 +44,7 @@ void Expect(bool right, const char* name) {
   std::exit(1);
 }
 
-void AddText(const std::string& what, const Attributes& attributes, char tag,
+void AddText(const std::string& what, const Attributes& attributes, unsigned tag,
              std::vector<Operation>* operations) {
   const std::string text = ToText(attributes, {"=", ", "});
   const std::wstring wide = Widen(text);

@@ -103,10 +103,10 @@ Attributes CyrillicInCapitals() {
   return attributes;
 }
 
-std::string ToDer(const Attributes& attributes, char tag) {
+std::string ToDer(const Attributes& attributes, unsigned tag) {
   std::string rdns;
   for (const Attribute& attribute : attributes) {
-    const char value_tag = attribute.oid == kCountryOid ? kPrintableString : tag;
+    const unsigned value_tag = attribute.oid == kCountryOid ? kPrintableString : tag;
     const std::string pair = OidElement(attribute.oid) + Tlv(value_tag, attribute.value);
     rdns += Tlv(0x31, Tlv(0x30, pair));
   }

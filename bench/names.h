@@ -38,11 +38,11 @@ Attributes LargeValue(size_t size);
 Attributes LargeCyrillicValue(size_t size);
 
 // Universal tags of values.
-inline constexpr char kUtf8String = 12;
-inline constexpr char kPrintableString = 19;
+inline constexpr unsigned kUtf8String = 12;
+inline constexpr unsigned kPrintableString = 19;
 
 // The Name with one attribute an RDN; countries are PrintableStrings whatever `tag`.
-std::string ToDer(const Attributes& attributes, char tag = kPrintableString);
+std::string ToDer(const Attributes& attributes, unsigned tag = kPrintableString);
 
 struct TextForm {
   std::string_view equals = "=";
