@@ -1,5 +1,6 @@
 #include "strict/der/any_value.h"
 
+#include "strict/der/bit_string.h"
 #include "strict/der/integer.h"
 #include "strict/der/oid.h"
 #include "strict/der/reader.h"
@@ -23,13 +24,7 @@ bool HasItsForm(uint8_t identifier) {
   return (type & kNoTypes) == 0 && constructed == ((type & kConstructedTypes) != 0);
 }
 
-// 8.6.2, 11.2.1
-bool IsBitString(ByteView content) {
-  if (content.empty() || content[0] > 7) return false;
-  const uint8_t unused = static_cast<uint8_t>((1u << content[0]) - 1);
-  if (content.size == 1) return unused == 0;
-  return (content[content.size - 1] & unused) == 0;
-}
+bool IsBitsInDer(ByteView content) { return IsBitString(content) && AreUnusedZero(content); }
 
 bool IsBoolean(ByteView content) {
   return content.size == 1 && (content[0] == 0x00 || content[0] == 0xFF);
@@ -47,7 +42,7 @@ struct ContentRule {
 constexpr ContentRule kContents[] = {
     {kBoolean, IsBoolean, ORTHOLAN_REASON_BOOLEAN},
     {kInteger, IsMinimalInteger, ORTHOLAN_REASON_INTEGER},
-    {kBitString, IsBitString, ORTHOLAN_REASON_BIT_STRING},
+    {kBitString, IsBitsInDer, ORTHOLAN_REASON_BIT_STRING},
     {kNull, IsNull, ORTHOLAN_REASON_NULL},
     {kOid, IsIdentifier, ORTHOLAN_REASON_OID},
     {kEnumerated, IsMinimalInteger, ORTHOLAN_REASON_INTEGER},

@@ -2,6 +2,8 @@
 
 #include "strict/certificates/time_text.h"
 #include "strict/der/any_value.h"
+#include "strict/der/bit_string.h"
+#include "strict/der/integer.h"
 #include "strict/der/oid.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/names/name_view.h"
@@ -18,18 +20,12 @@ bool IsBoolean(ByteView content, Leniency leniency) {
          (content[0] == 0 || content[0] == 0xFF || leniency == Leniency::kLenient);
 }
 
-bool IsMinimal(ByteView content, Leniency leniency) {
-  if (content.size < 2 || leniency == Leniency::kLenient) return !content.empty();
-  return content[0] != (content[1] >= 0x80 ? 0xFF : 0x00);
+bool IsInteger(ByteView content, Leniency leniency) {
+  return leniency == Leniency::kLenient ? !content.empty() : IsMinimalInteger(content);
 }
 
-// X.690 11.2: zeros behind the last bit that is set are no DER, as the bits have names.
 bool AreBits(ByteView content, Leniency leniency) {
-  if (content.empty() || content[0] > 7 || (content.size == 1 && content[0] != 0)) return false;
-  if (content.size == 1 || leniency != Leniency::kDer) return true;
-  const uint8_t last = content[content.size - 1];
-  const unsigned unused = content[0];
-  return (last & ((2u << unused) - 1)) == 1u << unused;
+  return IsBitString(content) && (leniency != Leniency::kDer || AreNamedBits(content));
 }
 
 bool IsTime(uint8_t identifier, ByteView content) {
@@ -63,7 +59,7 @@ bool CheckLeaf(const Shape& shape, const Element& element, Leniency leniency, Re
       return IsBoolean(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BOOLEAN, content);
     case ShapeKind::kInteger:
     case ShapeKind::kEnumerated:
-      return IsMinimal(content, leniency) || Fail(refusal, ORTHOLAN_REASON_INTEGER, content);
+      return IsInteger(content, leniency) || Fail(refusal, ORTHOLAN_REASON_INTEGER, content);
     case ShapeKind::kBits:
       return AreBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
     case ShapeKind::kNull:
