@@ -53,6 +53,13 @@ TEST(MissingOctets, AreNotNone) {
   EXPECT_EQ(Failure([&] { (void)(X509Name() == name); }), kUntyped);
   EXPECT_EQ(Failure([&] { (void)(name == X509Name()); }), kUntyped);
 
+  std::string text = "before";
+  EXPECT_FALSE(name.TryGetX500String(text, 3));
+  EXPECT_EQ(text, "before");
+  CZEPString value("before");
+  X509Name::GetRDNAttrValueString(CERT_RDN_ATTR{nullptr, CERT_RDN_IA5_STRING, {2, nullptr}}, value);
+  EXPECT_STREQ(value.c_str(), "before");
+
   EXPECT_EQ(CZEPString(nullptr, 5).GetLength(), 0);
   for (const bool constructed : {false, true}) {
     DWORD status = 0;
