@@ -167,6 +167,17 @@ TEST(CInterface, TakesNoOctetsFromNowhere) {
   EXPECT_NE(kind, 0u);
 }
 
+TEST(CInterface, RefusesOctetsBehindAList) {
+  const uint8_t octets[] = {0x30, 0x00, 0x00};
+  ortholan_result result = ORTHOLAN_OK;
+  for (const size_t size : {size_t{2}, size_t{3}}) {
+    const auto list = Made<ortholan_extensions>(&result, [&](ortholan_extensions** made) {
+      return ortholan_extensions_from_der(octets, size, made);
+    });
+    EXPECT_EQ(result, size == 2 ? ORTHOLAN_OK : ORTHOLAN_ERROR_DER);
+  }
+}
+
 TEST(CInterface, RefusesNulls) {
   const uint8_t octets[] = {0x30, 0x00};
   const uint8_t* const der = octets;
