@@ -97,10 +97,8 @@ Outcome RefusedByLastError(ortholan_result result, Status status, const char* de
 }
 
 const char* KeptDetail(std::string_view detail) {
-  size_t size = std::min(detail.size(), kDetailSize - 1);
-  const auto continues = [detail](size_t at) { return (detail[at] & 0xC0) == 0x80; };
-  while (size != 0 && size < detail.size() && continues(size)) --size;
-  *std::copy_n(detail.data(), size, kept_detail) = '\0';
+  // None is as long: of what the caller wrote at most 40 characters are shown.
+  kept_detail[detail.copy(kept_detail, kDetailSize - 1)] = '\0';
   return kept_detail;
 }
 

@@ -31,8 +31,7 @@ Outcome Refused(ortholan_result result, Status status, const char* detail = null
 // A refusal that left its cause in the thread's last error; `status` where it left none. Out of
 // memory is told apart.
 Outcome RefusedByLastError(ortholan_result result, Status status, const char* detail = nullptr);
-// A copy of `detail` that stays until the next one in this thread, cut between characters where it
-// is too long.
+// A copy of `detail` that stays until the next one in this thread.
 const char* KeptDetail(std::string_view detail);
 // The exception in flight.
 Outcome FromException();

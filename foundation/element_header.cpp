@@ -54,9 +54,8 @@ Status FillLength(ByteView in, size_t position, ElementHeader* header) {
   return Status::kOk;
 }
 
-bool StartsWithZeroPair(ByteView bytes) {
-  return bytes.size >= 2 && bytes[0] == 0 && bytes[1] == 0;
-}
+// Whether the zero at the front is the first of a pair.
+bool IsPair(ByteView zero) { return zero.size >= 2 && zero[1] == 0; }
 
 Fault MeasurePrimitive(ByteView rest, size_t* length) {
   const void* zero = rest.empty() ? nullptr : std::memchr(rest.data, 0, rest.size);
@@ -65,7 +64,7 @@ Fault MeasurePrimitive(ByteView rest, size_t* length) {
     return {};
   }
   const size_t position = static_cast<size_t>(static_cast<const uint8_t*>(zero) - rest.data);
-  if (!StartsWithZeroPair(rest.From(position))) return {Status::kCorrupt, kMeasureFault};
+  if (!IsPair(rest.From(position))) return {Status::kCorrupt, kMeasureFault};
   *length = position + 2;
   return {};
 }
@@ -113,7 +112,7 @@ Fault MeasureIndefinite(ByteView rest, bool constructed, size_t* length) {
   while (position < rest.size) {
     const ByteView left = rest.From(position);
     if (left[0] == 0) {
-      if (!StartsWithZeroPair(left)) return {Status::kCorrupt, kMeasureFault};
+      if (!IsPair(left)) return {Status::kCorrupt, kMeasureFault};
       position += 2;
       if (depth == 0) break;
       --depth;

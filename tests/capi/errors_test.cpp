@@ -159,6 +159,32 @@ void ExpectNoNulls(const char* name, const Function& function, Arguments... argu
 }
 #define EXPECT_NO_NULLS(function, ...) ExpectNoNulls(#function, function, __VA_ARGS__)
 
+TEST(CInterface, TakesNoOctetsFromNowhere) {
+  ortholan_result result = ORTHOLAN_OK;
+  const auto none = Made<ortholan_name>(&result, [](ortholan_name** made) {
+    return ortholan_name_from_text_n(nullptr, 0, 0, 0, made);
+  });
+  EXPECT_EQ(result, ORTHOLAN_ERROR_NAME_TEXT);
+  const auto name = Made<ortholan_name>(&result, ortholan_name_new);
+  EXPECT_EQ(ortholan_name_add_n(name.get(), "CN", nullptr, 0, 0), ORTHOLAN_ERROR_VALUE);
+  EXPECT_EQ(ortholan_name_set_n(name.get(), "CN", nullptr, 0, 0), ORTHOLAN_ERROR_VALUE);
+  uint32_t kind = 0;
+  size_t place = 0;
+  EXPECT_EQ(ortholan_name_text_error_n(nullptr, 0, 0, &kind, &place, &place, nullptr), ORTHOLAN_OK);
+  EXPECT_NE(kind, 0u);
+}
+
+TEST(CInterface, RefusesOctetsBehindAList) {
+  const uint8_t octets[] = {0x30, 0x00, 0x00};
+  ortholan_result result = ORTHOLAN_OK;
+  for (const size_t size : {size_t{2}, size_t{3}}) {
+    const auto list = Made<ortholan_extensions>(&result, [&](ortholan_extensions** made) {
+      return ortholan_extensions_from_der(octets, size, made);
+    });
+    EXPECT_EQ(result, size == 2 ? ORTHOLAN_OK : ORTHOLAN_ERROR_DER);
+  }
+}
+
 TEST(CInterface, RefusesNulls) {
   const uint8_t octets[] = {0x30, 0x00};
   const uint8_t* const der = octets;

@@ -206,6 +206,14 @@ const Row kRows[] = {
        return told + (file.IsOpen() ? " open" : " closed");
      },
      "false 1114 closed"},
+    {"FileClose", 0, "Open where another file is open",
+     [] {
+       CZEPFile file;
+       file.Open(kFile, CZEPFile::kCreate);
+       const std::string told = Told(file.Open(kFile, CZEPFile::kCreate));
+       return told + (file.IsOpen() ? " open" : " closed");
+     },
+     "false 1114 closed"},
     {"FileWrite", 0, "WriteData",
      [] {
        CZEPFile file;

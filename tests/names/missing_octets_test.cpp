@@ -32,6 +32,10 @@ TEST(MissingOctets, AreWrittenAsZeros) {
   EXPECT_EQ(Hex(der), "30 0F 31 0D 30 0B 06 03 55 04 03 1E 04 00 00 00 00");
 
   EXPECT_EQ(Hex(DerHelper::EncodeOctetString(Lacking<IdentObj>(2))), "04 02 00 00");
+  IdentObj shrunk;
+  shrunk.cbData = 2;
+  shrunk.Resize(1);
+  EXPECT_EQ(Hex(shrunk), "00");
   CertExtension extension;
   extension.oid = "1.2";
   extension.value.cbData = 2;
@@ -53,12 +57,30 @@ TEST(MissingOctets, AreNotNone) {
   EXPECT_EQ(Failure([&] { (void)(X509Name() == name); }), kUntyped);
   EXPECT_EQ(Failure([&] { (void)(name == X509Name()); }), kUntyped);
 
+  std::string text = "before";
+  EXPECT_FALSE(name.TryGetX500String(text, 3));
+  EXPECT_EQ(text, "before");
+  CZEPString value("before");
+  X509Name::GetRDNAttrValueString(CERT_RDN_ATTR{nullptr, CERT_RDN_IA5_STRING, {2, nullptr}}, value);
+  EXPECT_STREQ(value.c_str(), "before");
+
   EXPECT_EQ(CZEPString(nullptr, 5).GetLength(), 0);
   for (const bool constructed : {false, true}) {
     DWORD status = 0;
     EXPECT_EQ(ASNTGetIndefiniteLength(nullptr, 5, constructed, &status), 0u);
     EXPECT_EQ(status, 206u);
+    EXPECT_EQ(ASNTGetIndefiniteLength(nullptr, 0, constructed, &status), 0u);
+    EXPECT_EQ(status, 0u);
   }
+}
+
+TEST(MissingOctets, AreNoElements) {
+  std::list<IdentObj> elements = {Blob("05 00")};
+  EXPECT_EQ(ASNTSplitElements(elements, nullptr, 2), 206u);
+  EXPECT_TRUE(elements.empty());
+  elements = {Blob("05 00")};
+  EXPECT_EQ(ASNTSplitElements(elements, nullptr, 0), 0u);
+  EXPECT_TRUE(elements.empty());
 }
 
 TEST(LongTexts, AreRefusedByTheirLengthAlone) {

@@ -11,8 +11,9 @@ namespace {
 
 constexpr BYTE kSignBit = 0x80;
 
-DWORD WriteFlag(const Field& /*field*/, const BYTE* value, DerWriter* out) {
-  out->PutOctet(Load<BOOL>(value) != FALSE ? 0xFF : 0x00);
+// A flag that is not set is its default and is left out.
+DWORD WriteFlag(const Field& /*field*/, const BYTE* /*value*/, DerWriter* out) {
+  out->PutOctet(0xFF);
   return ERROR_SUCCESS;
 }
 

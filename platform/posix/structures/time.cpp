@@ -66,7 +66,11 @@ class TimeText {
     }
     return number;
   }
-  bool TakeIf(BYTE octet) { return !empty() && text_[0] == octet && TakeAny() == octet; }
+  bool TakeIf(BYTE octet) {
+    if (empty() || text_[0] != octet) return false;
+    TakeAny();
+    return true;
+  }
   // 0 at the end.
   BYTE TakeAny() {
     if (empty()) return 0;
