@@ -110,6 +110,14 @@ constexpr bool IsScalar(uint32_t value) {
   return value < 0xD800 || (value >= 0xE000 && value <= 0x10FFFF);
 }
 
+// Out of line, so that what nearly every value passes needs no frame.
+[[gnu::noinline]] bool CheckClosely(const Element& value, bool checks_alphabet, Refusal* refusal) {
+  const StringFault fault = FindStringFault(value.identifier, value.content, checks_alphabet);
+  if (fault.reason == ORTHOLAN_REASON_NONE) return true;
+  return Refuse(refusal, fault.reason, value.content.data + fault.offset,
+                value.content.size - fault.offset, value.identifier);
+}
+
 }  // namespace
 
 bool IsInAlphabet(uint8_t identifier, ByteView content) {
@@ -129,11 +137,8 @@ StringFault FindStringFault(uint8_t identifier, ByteView content, bool checksAlp
 }
 
 bool CheckCharacters(const Element& value, bool checks_alphabet, Refusal* refusal) {
-  if (IsAsciiString(value.identifier) && IsInAlphabet(value.identifier, value.content)) return true;
-  const StringFault fault = FindStringFault(value.identifier, value.content, checks_alphabet);
-  if (fault.reason == ORTHOLAN_REASON_NONE) return true;
-  return Refuse(refusal, fault.reason, value.content.data + fault.offset,
-                value.content.size - fault.offset, value.identifier);
+  return (IsAsciiString(value.identifier) && IsInAlphabet(value.identifier, value.content)) ||
+         CheckClosely(value, checks_alphabet, refusal);
 }
 
 ScalarReader::ScalarReader(uint8_t identifier, ByteView content)
