@@ -32,6 +32,12 @@ Match MatchOf(const RdnView& a, const RdnView& b, const RdnComparison& result) {
   return match;
 }
 
+// Whether two RDNs of one attribute each are plainly the same; false tells nothing.
+bool AreSameAtAGlance(const RdnView& a, const RdnView& b, MatchRule rule) {
+  return a.size == 1 && b.size == 1 && SameBytes(a.first.type, b.first.type) &&
+         ArePlainlySame(a.first.type, a.first.value, b.first.value, rule);
+}
+
 // Compares as many RDNs, which both names have. What is different decides, wherever it stands.
 Match MatchInOrder(const NameView& first, const NameView& second, size_t count, MatchRule rule) {
   Match doubt = MakeMatch(Verdict::kYes, ORTHOLAN_REASON_NONE);
@@ -40,6 +46,7 @@ Match MatchInOrder(const NameView& first, const NameView& second, size_t count, 
   RdnView a;
   RdnView b;
   for (size_t i = 0; i < count && walk_a.Next(&a) && walk_b.Next(&b); ++i) {
+    if (AreSameAtAGlance(a, b, rule)) continue;
     const RdnComparison result = CompareRdns(a, b, rule);
     if (result.found.is_same()) continue;
     if (result.found.is_different()) return MatchOf(a, b, result);

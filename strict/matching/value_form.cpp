@@ -110,12 +110,15 @@ Comparison CompareForms(const ValueForm& a, const ValueForm& b, bool same_octets
   return {ORTHOLAN_REASON_VALUE_TELETEX, a.kind == ValueForm::kTeletex ? 1 : 2};
 }
 
+bool ArePlainlySame(ByteView type, const Element& a, const Element& b, MatchRule rule) {
+  if (SameBytes(a.bytes, b.bytes)) return true;
+  if (rule == MatchRule::kAsciiCase) return MatchAscii(a, b, kPlainAscii);
+  return rule == MatchRule::kRfc5280 && !IsCaseOnly(type) && MatchAscii(a, b, kPreparedAscii);
+}
+
 Comparison CompareValues(ByteView type, const Element& a, const Element& b, MatchRule rule) {
-  if (SameBytes(a.bytes, b.bytes)) return {};
+  if (ArePlainlySame(type, a, b, rule)) return {};
   if (rule == MatchRule::kOctets) return {ORTHOLAN_REASON_VALUE, 0};
-  if (rule == MatchRule::kAsciiCase || !IsCaseOnly(type)) {
-    if (MatchAscii(a, b, rule == MatchRule::kRfc5280 ? kPreparedAscii : kPlainAscii)) return {};
-  }
   PreparedText x;
   PreparedText y;
   const ValueForm form_a = PutForm(type, a, rule, &x);

@@ -42,6 +42,10 @@ struct Comparison {
 };
 Comparison CompareForms(const ValueForm& a, const ValueForm& b, bool same_octets);
 
+// True for values with the same octets, and for nearly all that are the same text of ASCII; false
+// tells nothing.
+bool ArePlainlySame(ByteView type, const Element& a, const Element& b, MatchRule rule);
+
 // Compares two values of the type, without an allocation where their text is not long.
 Comparison CompareValues(ByteView type, const Element& a, const Element& b, MatchRule rule);
 
