@@ -7,6 +7,7 @@
 
 #include "examples/der.h"
 #include "examples/failure.h"
+#include "examples/pasted.h"
 #include "examples/sha256.h"
 #include "examples/text.h"
 
@@ -149,8 +150,10 @@ std::string_view FirstElement(std::string_view octets) {
 }
 
 Document ReadDocument(std::string_view der) {
+  const std::size_t size = der.size();
   der = FirstElement(der);
   Document document;
+  if (size != der.size()) document.faults.push_back(LeftOver(size - der.size(), der.size()));
   const Kind kind = KindOf(der);
   if (!IsDocument(kind)) RefuseOther(der, Kind::kCertificate);
   if (IsDocument(kind)) document.kind = kind;

@@ -13,10 +13,11 @@
 namespace Example {
 namespace {
 
+constexpr std::string_view kTrusted = "TRUSTED CERTIFICATE";
 constexpr std::string_view kLabels[] = {
     "CERTIFICATE",
     "X509 CERTIFICATE",
-    "TRUSTED CERTIFICATE",
+    kTrusted,
     "CERTIFICATE REQUEST",
     "NEW CERTIFICATE REQUEST",
     "X509 CRL",
@@ -83,13 +84,21 @@ void WalkDer(std::string_view file, Walk& walk) {
   }
 }
 
+// A trusted certificate has behind it whom it is trusted for.
+std::string_view DocumentOf(const PemBlock& block) {
+  std::string_view rest = block.octets;
+  Der document;
+  const bool isFirst = block.label == kTrusted && TakeElement(rest, document);
+  return isFirst ? document.whole : block.octets;
+}
+
 void WalkPem(std::string_view file, Walk& walk) {
   ForEachPemBlock(file, [&walk](const PemBlock& block) {
     if (!IsDocumentLabel(block.label)) return;
     if (block.fault != nullptr) {
       walk.Bad(block.fault);
     } else {
-      walk.Found(block.octets, block.end);
+      walk.Found(DocumentOf(block), block.end);
     }
   });
 }

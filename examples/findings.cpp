@@ -8,6 +8,7 @@
 #include "examples/document.h"
 #include "examples/failure.h"
 #include "examples/json.h"
+#include "examples/pasted.h"
 #include "examples/show_json.h"
 #include "examples/show_text.h"
 #include "examples/text.h"
@@ -49,6 +50,7 @@ std::string FindingJson(const Finding& finding) {
 }  // namespace
 
 Findings ReadFindings(std::string_view der) {
+  RequireOne(der);
   der = FirstElement(der);
   Findings findings;
   const Kind kind = KindOf(der);

@@ -33,6 +33,9 @@ std::string ReadStream(std::istream& stream, const std::string& name) {
     }
   }
   if (stream.bad()) Fail(ERROR_READ_FAULT, "cannot read " + name);
+  // The mark that editors put in front of UTF-8; no encoding begins like it.
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (bytes.compare(0, kMark.size(), kMark) == 0) bytes.erase(0, kMark.size());
   return bytes;
 }
 

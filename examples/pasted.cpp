@@ -110,8 +110,12 @@ void RequireOne(std::string_view octets) {
   if (elements.empty() || (isWhole && elements.size() == 1)) return;
   if (isWhole) RefuseSeveral(elements.size());
   const std::size_t first = elements[0].whole.size();
-  Refuse(std::to_string(octets.size() - first) + " octets are left over behind the encoding of " +
-         std::to_string(first));
+  Refuse(LeftOver(octets.size() - first, first));
+}
+
+std::string LeftOver(std::size_t count, std::size_t size) {
+  return std::to_string(count) + (count == 1 ? " octet is" : " octets are") +
+         " left over behind the encoding of " + std::to_string(size);
 }
 
 }  // namespace Example

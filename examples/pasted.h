@@ -29,6 +29,9 @@ std::string FromPasted(const std::string& content);
 // say why. Throws Failure for octets that are left over behind it, and for several encodings.
 void RequireOne(std::string_view octets);
 
+// Says that there are `count` octets behind an encoding of `size`.
+std::string LeftOver(std::size_t count, std::size_t size);
+
 }  // namespace Example
 
 #endif  // ORTHOLAN_EXAMPLES_PASTED_H_

@@ -10,11 +10,12 @@ namespace {
 constexpr std::string_view kBegin = "-----BEGIN ";
 constexpr std::string_view kEnd = "-----END ";
 constexpr std::string_view kDashes = "-----";
+constexpr std::string_view kLineEnds = "\r\n";  // either or both
 
 // A line at `start` that is `front`, a label, five dashes and blanks.
 bool ReadBoundary(std::string_view text, size_t start, std::string_view front,
                   std::string_view* label, size_t* end) {
-  const size_t line_end = std::min(text.find('\n', start), text.size());
+  const size_t line_end = std::min(text.find_first_of(kLineEnds, start), text.size());
   std::string_view line = text.substr(start, line_end - start);
   if (line.substr(0, front.size()) != front) return false;
   line.remove_prefix(front.size());
@@ -31,7 +32,8 @@ bool ReadBoundary(std::string_view text, size_t start, std::string_view front,
 size_t FindLine(std::string_view text, size_t from, std::string_view front) {
   for (;;) {
     const size_t at = text.find(front, from);
-    if (at == std::string_view::npos || at == 0 || text[at - 1] == '\n') return at;
+    if (at == std::string_view::npos || at == 0) return at;
+    if (kLineEnds.find(text[at - 1]) != std::string_view::npos) return at;
     from = at + 1;
   }
 }

@@ -33,6 +33,8 @@ cat printable.der printable.der >two.der
 tr -d '\n' <printable.pem | sed 's/CERTIFICATE-----/&\r\n/; s/-----END/\r\n&/' >long_line.pem
 
 row "PEM" 0 "$printable" "" show printable.pem
+printf '\xEF\xBB\xBF' | cat - printable.pem >marked.pem
+row "PEM behind the mark of UTF-8" 0 "$printable" "" show marked.pem
 row "PEM in one line, ended by CR LF" 0 "$printable" "" show long_line.pem
 row "DER" 0 "$printable" "" show printable.der
 body printable.pem >printable.base64
@@ -125,6 +127,13 @@ block "BAA=" | between
 row "no sequence" 1 '~certificate 3' "${prefix}the fields are not those of a certificate: at offset 0: .*" show bundle.pem
 echo '-----BEGIN CERTIFICATE-----' | between
 row "no end" 1 '~certificate 3' "${prefix}a PEM block without an end" show bundle.pem
+block "$(base64 -w 0 <(cat printable.der && printf 'x'))" | between
+row "octets behind one" 1 '~certificate 3' "${prefix}1 octet is left over behind the encoding of .*" \
+  show bundle.pem
+row "octets behind one, checked" 1 '~certificate 3.*' "${prefix}1 octet is left over .*" \
+  show --check bundle.pem
+sed 's/CERTIFICATE/TRUSTED &/' bundle.pem >trusted.pem
+row "what a trusted certificate has behind it" 0 '~certificate 3' "" show trusted.pem
 printf -- '-----BEGIN X-----\nMAA=\n-----END X-----\ntext\n' | between
 row "other blocks and text between" 0 '~certificate 2' "" show bundle.pem
 { cat printable.der && printf '\x30\x82'; } >bundle.pem

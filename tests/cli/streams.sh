@@ -23,7 +23,7 @@ row "refusals between results" 1 "CN=Alpha
 row "refusals as JSON" 1 \
   '~\{"error":"at offset 18: octets are left over behind the element","code":21\}' \
   "$(refused key 6 7)" key --json --lines
-row "the older text form" 1 '~!0 1 octets are left over behind the encoding of 18' \
+row "the older text form" 1 '~!0 1 octet is left over behind the encoding of 18' \
   "$(refused decode 5 7)" decode --lines
 # A value may be anything: a line end, or what a refusal begins with.
 printf '%s\n' 300E310C300A06035504030C03610A62 300E310C300A06035504030C03216162 >items

@@ -161,6 +161,7 @@ TEST(Pem, IsReadBlockByBlock) {
       {"before\n" + a + "between\r\n" + a + "behind", "A=ab;A=ab;"},
       {"-----BEGIN X Y-----\r\nYW\r\n Jj \r\n-----END X Y-----", "X Y=abc;"},
       {"-----BEGIN A-----\n-----END A-----", "A=;"},
+      {"before\r-----BEGIN A-----\rYWI=\r-----END A-----\rbehind", "A=ab;"},
       {a + "-----BEGIN A-----\nYWI=\n", "A=ab;PEM_END@62"},
       {"-----BEGIN A-----\nYWI=\n-----END B-----\n", "PEM_LABEL@32"},
       {"-----BEGIN A-----\nYWI=\n-----BEGIN A-----\n", "PEM_END@23"},
