@@ -55,6 +55,12 @@ Arguments::Arguments(const std::vector<std::string>& all, std::size_t first,
 
 bool Arguments::Has(const char* option) const { return values_.count(option) != 0; }
 
+void Arguments::RequireNone(std::initializer_list<const char*> others, const char* option) const {
+  for (const char* const other : others) {
+    if (Has(other)) throw UsageError{std::string(other) + " does not go with " + option};
+  }
+}
+
 std::optional<std::string> Arguments::Value(const char* option) const {
   const auto found = values_.find(option);
   if (found == values_.end()) return std::nullopt;

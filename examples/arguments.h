@@ -5,6 +5,7 @@
 #include <ortholan/platform.h>
 
 #include <cstddef>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string>
@@ -32,6 +33,8 @@ class Arguments {
             const std::vector<Option>& options);
 
   bool Has(const char* option) const;
+  // Throws UsageError where one of `others` is given, which say nothing of what `option` asks for.
+  void RequireNone(std::initializer_list<const char*> others, const char* option) const;
   std::optional<std::string> Value(const char* option) const;
   // The option's number in C notation; throws UsageError for anything else.
   Ortholan::DWORD Number(const char* option, Ortholan::DWORD byDefault) const;

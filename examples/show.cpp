@@ -140,9 +140,11 @@ std::string CheckedLine(std::string_view der, bool isJson) {
 }
 
 ItemWork ShowLines(const Arguments& arguments) {
-  if (arguments.Has("--diff")) throw UsageError{"--diff does not go with --lines"};
+  arguments.RequireNone({"--diff"}, "--lines");
+  const bool isCheck = arguments.Has("--check");
+  if (isCheck) arguments.RequireNone({"--library-text"}, "--check");
   SetLibraryText(arguments.Has("--library-text"));
-  const auto line = arguments.Has("--check") ? CheckedLine : ShownLine;
+  const auto line = isCheck ? CheckedLine : ShownLine;
   return [line, buffer = std::string()](const Item& item, Answers& answers) mutable {
     const ortholan_octets octets = OctetsOf(item, buffer);
     const std::string_view der(reinterpret_cast<const char*>(octets.data), octets.size);
@@ -158,7 +160,10 @@ int RunShow(const Arguments& arguments) {
   return ShowFiles(arguments, ShowDocument);
 }
 
-int RunCheck(const Arguments& arguments) { return ShowFiles(arguments, CheckDocument); }
+int RunCheck(const Arguments& arguments) {
+  arguments.RequireNone({"--diff", "--library-text"}, "--check");
+  return ShowFiles(arguments, CheckDocument);
+}
 
 }  // namespace
 
@@ -173,10 +178,11 @@ const Command kShowCommand = {
     "with\n"
     "anything between them, or in DER. Names are shown as text and as a tree; what cannot be read\n"
     "is told on standard error, and the others follow.\n"
-    "--check tells what RFC 5280 forbids in names and extensions, with its section; the exit "
-    "status\n"
-    "is 1 where there is anything. --diff tells what differs between the names and extensions of\n"
-    "two documents; the exit status is that of equal.\n",
+    "--check tells what RFC 5280 forbids in names and extensions, with its section; without "
+    "--lines\n"
+    "the exit status is 1 where there is anything. --diff tells what differs between the names "
+    "and\n"
+    "extensions of two documents; the exit status is that of equal.\n",
     "x509name show server.pem\n"
     "x509name show --json bundle.pem | jq -r '.[].subject.text'\n"
     "x509name show --check server.pem\n"

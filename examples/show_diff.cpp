@@ -115,6 +115,7 @@ std::string DiffJson(const Side& first, const Side& second, const std::vector<Di
 }  // namespace
 
 int RunShowDiff(const Arguments& arguments) {
+  arguments.RequireNone({"--library-text"}, "--diff");
   const std::list<Side> sides = ReadSides(arguments.operands);
   const Side& first = sides.front();
   const Side& second = sides.back();

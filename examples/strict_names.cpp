@@ -1,6 +1,5 @@
 #include "examples/strict_names.h"
 
-#include <initializer_list>
 #include <ortholan/strict.hpp>
 #include <string>
 
@@ -14,15 +13,6 @@
 namespace Example {
 namespace {
 
-// Options of the other text form mean nothing here.
-void RefuseOptions(const Arguments& arguments, std::initializer_list<const char*> options) {
-  for (const char* const option : options) {
-    if (arguments.Has(option)) {
-      throw UsageError{std::string(option) + " does not go with --rfc4514"};
-    }
-  }
-}
-
 ortholan::Rfc4514 TextOptions(const Arguments& arguments) {
   ortholan::Rfc4514 options;
   if (arguments.Has("--utf8-always")) options.strings = ortholan::StringPolicy::kUtf8;
@@ -32,12 +22,12 @@ ortholan::Rfc4514 TextOptions(const Arguments& arguments) {
 }
 
 ortholan::Rfc4514 EncodeOptions(const Arguments& arguments) {
-  RefuseOptions(arguments, {"--utf8", "--separator", "--options", "--sort"});
+  arguments.RequireNone({"--utf8", "--separator", "--options", "--sort"}, "--rfc4514");
   return TextOptions(arguments);
 }
 
 ortholan::Rfc4514 DecodeOptions(const Arguments& arguments) {
-  RefuseOptions(arguments, {"--style", "--separator", "--options"});
+  arguments.RequireNone({"--style", "--separator", "--options"}, "--rfc4514");
   return TextOptions(arguments);
 }
 
@@ -83,7 +73,7 @@ int RunEncodeRfc4514(const Arguments& arguments) {
 }
 
 int RunDecodeRfc4514(const Arguments& arguments) {
-  RefuseOptions(arguments, {"--json"});
+  arguments.RequireNone({"--json"}, "--rfc4514");
   const ortholan::Rfc4514 options = DecodeOptions(arguments);
   Print(Decode(ReadElement(arguments.operands[0], Kind::kName), options) + "\n");
   return 0;

@@ -159,6 +159,10 @@ row "checked by lines" 0 $'certificate: nothing found\n' "" show --check --lines
 row "checked by lines, as JSON" 0 '~\{"kind":"revocationList","findings":\[\{"rule":"list-authority-key-id-missing".*' "" \
   show --check --lines --json list.pem
 row "compared by lines" 2 "" "x509name: --diff does not go with --lines" show --diff --lines bmp.pem
+row "checked and compared" 2 "" "x509name: --diff does not go with --check" \
+  show --check --diff printable.pem bmp.pem
+row "the library's text of findings" 2 "" "x509name: --library-text does not go with --check" \
+  show --check --library-text bmp.pem
 row "nothing differs" 0 "" "" show --diff printable.pem printable.der
 row "three to compare" 2 "" "x509name: --diff takes two documents, and there are 3 in the files" \
   show --diff pkcs7.pem
