@@ -77,7 +77,7 @@ struct OpenType {
 enum class Presence : uint8_t {
   kRequired,
   kOptional,
-  kDefault,      // false or 0 where it is not there
+  kDefault,      // `fallback` where it is not there
   kToldDefault,  // the same, and people are told
 };
 enum class Tagging : uint8_t { kNone, kImplicit, kExplicit };
@@ -93,6 +93,7 @@ struct Field {
   Presence presence = Presence::kRequired;
   Tagging tagging = Tagging::kNone;
   uint8_t tag = 0;
+  uint8_t fallback = 0;  // content of a default: false, or a number
 };
 
 // The identifier octet of a kind of which every value begins with the same; 0 for others.

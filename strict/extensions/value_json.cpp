@@ -29,7 +29,7 @@ class JsonVisitor final : public ShapeVisitor {
   }
   void Default(const Field& field) override {
     json_.Member(field.name);
-    json_.Literal(field.shape->kind == ShapeKind::kBoolean ? "false" : "0");
+    Leaf(*field.shape, DefaultOf(field));
   }
   void Leaf(const Shape& shape, const Element& element) override;
 

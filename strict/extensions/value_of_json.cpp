@@ -106,7 +106,7 @@ class Writer {
   }
 
   bool PutField(const Field& field, const JsonValue& json) {
-    if (field.presence >= Presence::kDefault && IsDefault(*field.shape, json)) return true;
+    if (field.presence >= Presence::kDefault && IsDefault(field, json)) return true;
     if (field.tagging == Tagging::kNone) return Put(*field.shape, json);
     if (field.tagging == Tagging::kImplicit) return Put(*field.shape, json, IdentifierOf(field));
     const size_t end = out_->size();
@@ -116,10 +116,9 @@ class Writer {
   }
 
   // X.690 11.5: a default value is left out.
-  static bool IsDefault(const Shape& shape, const JsonValue& json) {
-    int64_t number = 0;
-    return shape.kind == ShapeKind::kBoolean ? json.form == JsonForm::kFalse
-                                             : json.IsInteger(&number) && number == 0;
+  bool IsDefault(const Field& field, const JsonValue& json) {
+    return LeafOfJson(*field.shape, json, &leaf_, nullptr) && leaf_.size() == 1 &&
+           static_cast<uint8_t>(leaf_[0]) == field.fallback;
   }
 
   bool PutChoice(const Shape& shape, const JsonValue& json) {

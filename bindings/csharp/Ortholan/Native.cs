@@ -522,6 +522,99 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Algorithm
+    {
+        public Octets oid;
+        public Octets parameters;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Hash
+    {
+        public Algorithm algorithm;
+        public Octets value;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Logotype
+    {
+        public List images;
+        public List audio;
+        public List reference_hashes;
+        public List reference_uris;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Logotypes
+    {
+        public List communities;
+        public Logotype issuer;
+        public Logotype subject;
+        public List others;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct OtherLogotype
+    {
+        public Octets type;
+        public Logotype logotype;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeFile
+    {
+        public String media_type;
+        public List hashes;
+        public List uris;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeImageInformation
+    {
+        public Integer type;
+        public Integer file_size;
+        public Integer width;
+        public Integer height;
+        public Integer bits;
+        public Integer table_size;
+        public String language;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeImage
+    {
+        public LogotypeFile file;
+        public LogotypeImageInformation information;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeAudioInformation
+    {
+        public Integer file_size;
+        public Integer play_time;
+        public Integer channels;
+        public Integer sample_rate;
+        public String language;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeAudio
+    {
+        public LogotypeFile file;
+        public LogotypeAudioInformation information;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct BiometricData
+    {
+        public Integer type;
+        public Octets oid;
+        public Algorithm hash_algorithm;
+        public Octets hash;
+        public String uri;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct ExtensionType
     {
         public Octets oid;
@@ -1107,6 +1200,30 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_capability_next(List* capabilities, UIntPtr* offset, Capability* capability);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotypes_read(Octets value, int mode, Logotypes* logotypes, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotype_next(List* logotypes, UIntPtr* offset, Logotype* logotype);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_other_logotype_next(List* logotypes, UIntPtr* offset, OtherLogotype* logotype);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotype_image_next(List* images, UIntPtr* offset, LogotypeImage* image);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotype_audio_next(List* audio, UIntPtr* offset, LogotypeAudio* recording);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_hash_next(List* hashes, UIntPtr* offset, Hash* hash);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_biometric_information_read(Octets value, int mode, List* data, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_biometric_data_next(List* list, UIntPtr* offset, BiometricData* data);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_extension_type_at(UIntPtr index, ExtensionType* type);

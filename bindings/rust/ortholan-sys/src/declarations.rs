@@ -730,6 +730,99 @@ pub struct ortholan_capability {
 
 #[repr(C)]
 #[derive(Clone, Copy, Debug)]
+pub struct ortholan_algorithm {
+    pub oid: ortholan_octets,
+    pub parameters: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_hash {
+    pub algorithm: ortholan_algorithm,
+    pub value: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype {
+    pub images: ortholan_list,
+    pub audio: ortholan_list,
+    pub reference_hashes: ortholan_list,
+    pub reference_uris: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotypes {
+    pub communities: ortholan_list,
+    pub issuer: ortholan_logotype,
+    pub subject: ortholan_logotype,
+    pub others: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_other_logotype {
+    pub r#type: ortholan_octets,
+    pub logotype: ortholan_logotype,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_file {
+    pub media_type: ortholan_string,
+    pub hashes: ortholan_list,
+    pub uris: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_image_information {
+    pub r#type: ortholan_integer,
+    pub file_size: ortholan_integer,
+    pub width: ortholan_integer,
+    pub height: ortholan_integer,
+    pub bits: ortholan_integer,
+    pub table_size: ortholan_integer,
+    pub language: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_image {
+    pub file: ortholan_logotype_file,
+    pub information: ortholan_logotype_image_information,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_audio_information {
+    pub file_size: ortholan_integer,
+    pub play_time: ortholan_integer,
+    pub channels: ortholan_integer,
+    pub sample_rate: ortholan_integer,
+    pub language: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_audio {
+    pub file: ortholan_logotype_file,
+    pub information: ortholan_logotype_audio_information,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_biometric_data {
+    pub r#type: ortholan_integer,
+    pub oid: ortholan_octets,
+    pub hash_algorithm: ortholan_algorithm,
+    pub hash: ortholan_octets,
+    pub uri: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
 pub struct ortholan_extension_type {
     pub oid: ortholan_octets,
     pub name: *const c_char,
@@ -1409,6 +1502,48 @@ extern "C" {
         capabilities: *const ortholan_list,
         offset: *mut usize,
         capability: *mut ortholan_capability,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotypes_read(
+        value: ortholan_octets,
+        mode: i32,
+        logotypes: *mut ortholan_logotypes,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotype_next(
+        logotypes: *const ortholan_list,
+        offset: *mut usize,
+        logotype: *mut ortholan_logotype,
+    ) -> ortholan_reason;
+    pub fn ortholan_other_logotype_next(
+        logotypes: *const ortholan_list,
+        offset: *mut usize,
+        logotype: *mut ortholan_other_logotype,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotype_image_next(
+        images: *const ortholan_list,
+        offset: *mut usize,
+        image: *mut ortholan_logotype_image,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotype_audio_next(
+        audio: *const ortholan_list,
+        offset: *mut usize,
+        recording: *mut ortholan_logotype_audio,
+    ) -> ortholan_reason;
+    pub fn ortholan_hash_next(
+        hashes: *const ortholan_list,
+        offset: *mut usize,
+        hash: *mut ortholan_hash,
+    ) -> ortholan_reason;
+    pub fn ortholan_biometric_information_read(
+        value: ortholan_octets,
+        mode: i32,
+        data: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_biometric_data_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        data: *mut ortholan_biometric_data,
     ) -> ortholan_reason;
     pub fn ortholan_extension_type_at(
         index: usize,
