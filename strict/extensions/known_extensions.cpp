@@ -5,6 +5,7 @@
 #include "strict/extensions/common_shapes.h"
 #include "strict/extensions/media_shapes.h"
 #include "strict/extensions/qualified_shapes.h"
+#include "strict/extensions/resource_shapes.h"
 #include "strict/extensions/rfc5280_shapes.h"
 #include "strict/extensions/tls_shapes.h"
 #include "strict/extensions/vendor_shapes.h"
@@ -52,6 +53,8 @@ constexpr KnownExtension kKnown[] = {
     {"1.3.6.1.5.5.7.1.2", "biometricInfo", "Biometric Information", &kBiometricInformationShape},
     {"1.3.6.1.5.5.7.1.3", "qcStatements", "Qualified Certificate Statements",
      &kQualifiedStatementsShape},
+    {"1.3.6.1.5.5.7.1.7", "ipAddrBlocks", "IP Address Blocks", &kAddressBlocksShape},
+    {"1.3.6.1.5.5.7.1.8", "autonomousSysIds", "Autonomous Systems", &kAutonomousSystemsShape},
     {"1.3.6.1.5.5.7.1.11", "subjectInfoAccess", "Subject Information Access",
      &kInformationAccessShape},
     {"1.3.6.1.5.5.7.1.12", "logotype", "Logotypes", &kLogotypesShape},

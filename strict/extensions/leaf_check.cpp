@@ -3,6 +3,7 @@
 #include "strict/certificates/time_text.h"
 #include "strict/der/any_value.h"
 #include "strict/der/oid.h"
+#include "strict/extensions/resource_text.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/names/name_view.h"
 
@@ -23,9 +24,16 @@ bool IsMinimal(ByteView content, Leniency leniency) {
   return content[0] != (content[1] >= 0x80 ? 0xFF : 0x00);
 }
 
-// X.690 11.2: zeros behind the last bit that is set are no DER, as the bits have names.
+// X.690 11.2.1: bits that are not used are zeros.
+bool IsUnusedZero(ByteView content, Leniency leniency) {
+  if (!IsBitString(content)) return false;
+  if (content.size == 1 || leniency != Leniency::kDer) return true;
+  return (content[content.size - 1] & ((1u << content[0]) - 1)) == 0;
+}
+
+// X.690 11.2.2: zeros behind the last bit that is set are no DER, as the bits have names.
 bool AreBits(ByteView content, Leniency leniency) {
-  if (content.empty() || content[0] > 7 || (content.size == 1 && content[0] != 0)) return false;
+  if (!IsBitString(content)) return false;
   if (content.size == 1 || leniency != Leniency::kDer) return true;
   const uint8_t last = content[content.size - 1];
   const unsigned unused = content[0];
@@ -66,6 +74,8 @@ bool CheckLeaf(const Shape& shape, const Element& element, Leniency leniency, Re
       return IsMinimal(content, leniency) || Fail(refusal, ORTHOLAN_REASON_INTEGER, content);
     case ShapeKind::kBits:
       return AreBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
+    case ShapeKind::kAddress:
+      return IsUnusedZero(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
     case ShapeKind::kNull:
       return content.empty() || Fail(refusal, ORTHOLAN_REASON_NULL, content);
     case ShapeKind::kOid:

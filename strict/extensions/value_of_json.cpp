@@ -29,6 +29,9 @@ class Writer {
         return PutOpen(shape, json);
       case ShapeKind::kAny:
         return PutAny(json);
+      case ShapeKind::kAddress:
+        if (IsOctetsAlone(json)) return PutOctets(shape, json);
+        break;
       case ShapeKind::kGeneralName:
       case ShapeKind::kSubtreeBase:
         return PutElement(NameOfJson(shape, json, &leaf_, refusal_));
@@ -66,6 +69,8 @@ class Writer {
         return PutList(shape, json);
       case ShapeKind::kTlsOctets:
         return PutTls(*shape.element, json);
+      case ShapeKind::kAddress:
+        return PutElement(AddressOfJson(shape, family_, json, &leaf_, refusal_));
       default:
         return PutElement(LeafOfJson(shape, json, &leaf_, refusal_));
     }
@@ -73,7 +78,7 @@ class Writer {
 
   bool PutFields(const Shape& shape, const JsonValue& json) {
     std::vector<const JsonValue*> values(shape.fields.count);
-    if (!Take(shape, json, &values) || !FindOid(shape, values)) return false;
+    if (!Take(shape, json, &values) || !FindKeys(shape, values)) return false;
     const std::string oid = last_oid_;
     for (size_t i = shape.fields.count; i-- != 0;) {
       const Field& field = shape.fields.first[i];
@@ -89,12 +94,15 @@ class Writer {
     return TakeMembers(json, names.data(), names.size(), values->data(), refusal_);
   }
 
-  // Which type stands in an open field is told by the identifier beside it.
-  bool FindOid(const Shape& shape, const std::vector<const JsonValue*>& values) {
+  // Which type stands in an open field is told by the identifier beside it, what addresses are by
+  // their family.
+  bool FindKeys(const Shape& shape, const std::vector<const JsonValue*>& values) {
     for (size_t i = 0; i < values.size(); ++i) {
       const Shape& part = *shape.fields.first[i].shape;
-      if (part.kind == ShapeKind::kOid && values[i] != nullptr &&
-          !LeafOfJson(part, *values[i], &last_oid_, refusal_)) {
+      std::string* const key = part.kind == ShapeKind::kOid             ? &last_oid_
+                               : part.kind == ShapeKind::kAddressFamily ? &family_
+                                                                        : nullptr;
+      if (key != nullptr && values[i] != nullptr && !LeafOfJson(part, *values[i], key, refusal_)) {
         return false;
       }
     }
@@ -228,6 +236,7 @@ class Writer {
   Refusal* refusal_;
   std::string leaf_;
   std::string last_oid_;
+  std::string family_;
 };
 
 }  // namespace

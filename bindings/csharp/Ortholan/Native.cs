@@ -615,6 +615,43 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AddressFamily
+    {
+        public Octets family;
+        public List ranges;
+        public int is_inherited;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AddressRange
+    {
+        public Octets prefix;
+        public Octets first;
+        public Octets last;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AutonomousSystemList
+    {
+        public List systems;
+        public int is_inherited;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AutonomousSystems
+    {
+        public AutonomousSystemList numbers;
+        public AutonomousSystemList routing_domains;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AutonomousSystem
+    {
+        public Integer first;
+        public Integer last;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct ExtensionType
     {
         public Octets oid;
@@ -1224,6 +1261,24 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_biometric_data_next(List* list, UIntPtr* offset, BiometricData* data);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_families_read(Octets value, int mode, List* families, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_family_next(List* families, UIntPtr* offset, AddressFamily* family);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_range_next(List* ranges, UIntPtr* offset, AddressRange* range);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_range_ends(Octets family, AddressRange* range, byte* first, byte* last, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_autonomous_systems_read(Octets value, int mode, AutonomousSystems* systems, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_autonomous_system_next(List* systems, UIntPtr* offset, AutonomousSystem* system);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_extension_type_at(UIntPtr index, ExtensionType* type);

@@ -823,6 +823,43 @@ pub struct ortholan_biometric_data {
 
 #[repr(C)]
 #[derive(Clone, Copy, Debug)]
+pub struct ortholan_address_family {
+    pub family: ortholan_octets,
+    pub ranges: ortholan_list,
+    pub is_inherited: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_address_range {
+    pub prefix: ortholan_octets,
+    pub first: ortholan_octets,
+    pub last: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_autonomous_system_list {
+    pub systems: ortholan_list,
+    pub is_inherited: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_autonomous_systems {
+    pub numbers: ortholan_autonomous_system_list,
+    pub routing_domains: ortholan_autonomous_system_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_autonomous_system {
+    pub first: ortholan_integer,
+    pub last: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
 pub struct ortholan_extension_type {
     pub oid: ortholan_octets,
     pub name: *const c_char,
@@ -1544,6 +1581,40 @@ extern "C" {
         list: *const ortholan_list,
         offset: *mut usize,
         data: *mut ortholan_biometric_data,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_families_read(
+        value: ortholan_octets,
+        mode: i32,
+        families: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_family_next(
+        families: *const ortholan_list,
+        offset: *mut usize,
+        family: *mut ortholan_address_family,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_range_next(
+        ranges: *const ortholan_list,
+        offset: *mut usize,
+        range: *mut ortholan_address_range,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_range_ends(
+        family: ortholan_octets,
+        range: *const ortholan_address_range,
+        first: *mut u8,
+        last: *mut u8,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_autonomous_systems_read(
+        value: ortholan_octets,
+        mode: i32,
+        systems: *mut ortholan_autonomous_systems,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_autonomous_system_next(
+        systems: *const ortholan_list,
+        offset: *mut usize,
+        system: *mut ortholan_autonomous_system,
     ) -> ortholan_reason;
     pub fn ortholan_extension_type_at(
         index: usize,
