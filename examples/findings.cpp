@@ -46,6 +46,11 @@ std::string FindingJson(const Finding& finding) {
   return object.End();
 }
 
+// "RFC 5280 4.2.1.9"; a section of another RFC names it.
+std::string SourceOf(const std::string& section) {
+  return (section.compare(0, 3, "RFC") == 0 ? "" : "RFC 5280 ") + section;
+}
+
 }  // namespace
 
 Findings ReadFindings(std::string_view der) {
@@ -68,7 +73,7 @@ std::string FindingsText(std::size_t number, const Findings& findings) {
   if (findings.list.empty()) return text + ": nothing found\n";
   text += "\n";
   for (const Finding& finding : findings.list) {
-    text += "  RFC 5280 " + finding.section + ": ";
+    text += "  " + SourceOf(finding.section) + ": ";
     if (!finding.title.empty()) text += Paint(Colour::kKey, finding.title) + ": ";
     text += Visible(finding.what);
     text += finding.text.empty() ? "\n" : ": " + Paint(Colour::kNotable, finding.text) + "\n";

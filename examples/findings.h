@@ -13,7 +13,7 @@ namespace Example {
 
 struct Finding {
   std::string rule;       // "path-length-without-authority"
-  std::string section;    // of RFC 5280
+  std::string section;    // of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6"
   std::string what;       // one sentence, with the reason of a refusal
   std::string oid;        // of the extension that it is about; empty where it is about none
   std::string title;      // what to call the extension

@@ -33,6 +33,10 @@ inline constexpr OidConstant kFreshestOid("2.5.29.46");
 inline constexpr OidConstant kInhibitAnyPolicyOid("2.5.29.54");
 inline constexpr OidConstant kAuthorityAccessOid("1.3.6.1.5.5.7.1.1");
 
+// Extensions of RFC 3779.
+inline constexpr OidConstant kAddressBlocksOid("1.3.6.1.5.5.7.1.7");
+inline constexpr OidConstant kSystemNumbersOid("1.3.6.1.5.5.7.1.8");
+
 // What stands inside them: policies, their qualifiers, methods of access (RFC
 // 5280 4.2.1.4, 4.2.2.1).
 inline constexpr OidConstant kAnyPolicyOid("2.5.29.32.0");

@@ -33,6 +33,8 @@ constexpr Profiled kProfile[] = {
     {"2.5.29.46", "4.2.1.15", kForSubjects, Critical::kNever},
     {"1.3.6.1.5.5.7.1.1", "4.2.2.1", kForSubjects, Critical::kNever},
     {"1.3.6.1.5.5.7.1.11", "4.2.2.2", kForSubjects, Critical::kNever},
+    {"1.3.6.1.5.5.7.1.7", "RFC 3779 2.2.3", kForSubjects, Critical::kEither},
+    {"1.3.6.1.5.5.7.1.8", "RFC 3779 3.2.3", kForSubjects, Critical::kEither},
     {"2.5.29.35", "5.2.1", kLists, Critical::kNever},
     {"2.5.29.18", "5.2.2", kLists, Critical::kEither},
     {"2.5.29.20", "5.2.3", kLists, Critical::kNever},

@@ -8,7 +8,7 @@ namespace Ortholan::strict {
 
 struct CheckCase;
 
-// Where RFC 5280 has an extension; "4.2" and "5.2" for others.
+// Where RFC 5280 has an extension, or another RFC, which is named; "4.2" and "5.2" for others.
 const char* SectionOf(ByteView oid, uint8_t kind);
 
 }  // namespace Ortholan::strict
@@ -80,6 +80,17 @@ void FreshestInDelta(const CheckCase& at);
 void ScopesOfList(const CheckCase& at);
 void AttributeCertificates(const CheckCase& at);
 void AccessMethodsOfList(const CheckCase& at);
+
+// check_resources.cpp: of delegated addresses and autonomous systems.
+void FamilySizes(const CheckCase& at);
+void FamilyOrder(const CheckCase& at);
+void AddressBits(const CheckCase& at);
+void EndsOfRanges(const CheckCase& at);
+void RangeEnds(const CheckCase& at);
+void SpanOrder(const CheckCase& at);
+void SpanOverlap(const CheckCase& at);
+void SpansAdjacent(const CheckCase& at);
+void RangesOfPrefixes(const CheckCase& at);
 
 }  // namespace Ortholan::strict::looks
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kNone = "";
 
-// In the order in which faults are told. Sections are those of RFC 5280.
+// In the order in which faults are told. Sections are those of RFC 5280 where no other is named.
 constexpr CheckRule kRules[] = {
     {"encoding", "4.1", "the encoding is no DER", kAll, Scope::kEncoding, kNone, looks::Encoding},
     {"no-extensions", "4.1.2.9", "the list of extensions has none", kAll, Scope::kEncoding, kNone,
@@ -172,6 +172,38 @@ constexpr CheckRule kRules[] = {
      kIssuingPointOid, looks::ScopesOfList},
     {"issuing-point-attributes", "5.2.5", "the list is said to have attribute certificates", kLists,
      Scope::kExtension, kIssuingPointOid, looks::AttributeCertificates},
+    {"address-family-size", "RFC 3779 2.2.3.3",
+     "a family of addresses has neither two octets nor three", kForSubjects, Scope::kExtension,
+     kAddressBlocksOid, looks::FamilySizes},
+    {"address-family-order", "RFC 3779 2.2.3.3",
+     "families of addresses are out of order, or one stands there twice", kForSubjects,
+     Scope::kExtension, kAddressBlocksOid, looks::FamilyOrder},
+    {"address-bits", "RFC 3779 2.2.3.8", "an address has more bits than its family", kForSubjects,
+     Scope::kExtension, kAddressBlocksOid, looks::AddressBits},
+    {"address-range-ends", "RFC 3779 2.2.3.9", "a range of addresses ends before it begins",
+     kForSubjects, Scope::kExtension, kAddressBlocksOid, looks::RangeEnds},
+    {"address-range-bits", "RFC 3779 2.2.3.9", "an end of a range has bits that go without saying",
+     kForSubjects, Scope::kExtension, kAddressBlocksOid, looks::EndsOfRanges},
+    {"address-range-prefix", "RFC 3779 2.2.3.7", "a range of addresses is that of a prefix",
+     kForSubjects, Scope::kExtension, kAddressBlocksOid, looks::RangesOfPrefixes},
+    {"addresses-order", "RFC 3779 2.2.3.6", "addresses are out of order", kForSubjects,
+     Scope::kExtension, kAddressBlocksOid, looks::SpanOrder},
+    {"addresses-overlap", "RFC 3779 2.2.3.6", "addresses overlap", kForSubjects, Scope::kExtension,
+     kAddressBlocksOid, looks::SpanOverlap},
+    {"addresses-adjacent", "RFC 3779 2.2.3.6",
+     "addresses follow on each other and are not one range", kForSubjects, Scope::kExtension,
+     kAddressBlocksOid, looks::SpansAdjacent},
+    {"systems-empty", "RFC 3779 3.2.3.1", "the extension says nothing", kForSubjects,
+     Scope::kExtension, kSystemNumbersOid, looks::EmptyStructure},
+    {"system-range-ends", "RFC 3779 3.2.3.8", "a range of autonomous systems ends before it begins",
+     kForSubjects, Scope::kExtension, kSystemNumbersOid, looks::RangeEnds},
+    {"systems-order", "RFC 3779 3.2.3.4", "autonomous systems are out of order", kForSubjects,
+     Scope::kExtension, kSystemNumbersOid, looks::SpanOrder},
+    {"systems-overlap", "RFC 3779 3.2.3.4", "autonomous systems overlap", kForSubjects,
+     Scope::kExtension, kSystemNumbersOid, looks::SpanOverlap},
+    {"systems-adjacent", "RFC 3779 3.2.3.4",
+     "autonomous systems follow on each other and are not one range", kForSubjects,
+     Scope::kExtension, kSystemNumbersOid, looks::SpansAdjacent},
     {"list-access-method", "5.2.7", "a method of access is not caIssuers", kLists,
      Scope::kExtension, kAuthorityAccessOid, looks::AccessMethodsOfList},
 };

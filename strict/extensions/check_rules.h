@@ -25,7 +25,7 @@ enum class Scope : uint8_t {
 
 struct CheckRule {
   const char* name;
-  const char* section;  // of RFC 5280; "" for that of the extension
+  const char* section;  // of RFC 5280, of others "RFC 3779 2.2.3.6"; "" for that of the extension
   const char* sentence;
   uint8_t kinds;
   Scope scope;

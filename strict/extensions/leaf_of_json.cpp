@@ -192,7 +192,7 @@ bool LeafOfJson(const Shape& shape, const JsonValue& json, std::string* content,
 bool AddressOfJson(const Shape& shape, const std::string& family, const JsonValue& json,
                    std::string* content, Refusal* refusal) {
   if (!json.IsString()) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
-  return AddressOfText(shape, AsBytes(family.data(), family.size()), json.text, content) ||
+  return AddressOfText(shape.number, AsBytes(family.data(), family.size()), json.text, content) ||
          RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal);
 }
 

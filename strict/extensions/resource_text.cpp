@@ -106,10 +106,10 @@ bool ExpandAddress(ByteView family, ByteView content, bool fill, IpAddress* addr
   return true;
 }
 
-bool PutAddressText(const Shape& shape, ByteView family, ByteView content, Output* out) {
+bool PutAddressText(uint32_t role, ByteView family, ByteView content, Output* out) {
   IpAddress address;
-  if (!ExpandAddress(family, content, shape.number == kLastAddress, &address)) return false;
-  if (shape.number == kAddressPrefix) {
+  if (!ExpandAddress(family, content, role == kLastAddress, &address)) return false;
+  if (role == kAddressPrefix) {
     for (size_t i = 0; i < address.size; ++i) {
       address.octets[address.size + i] = MaskAt(i, CountBits(content));
     }
@@ -118,23 +118,21 @@ bool PutAddressText(const Shape& shape, ByteView family, ByteView content, Outpu
   return PutIpName(address.view(), out);
 }
 
-bool AddressOfText(const Shape& shape, ByteView family, std::string_view text,
-                   std::string* content) {
+bool AddressOfText(uint32_t role, ByteView family, std::string_view text, std::string* content) {
   const size_t size = AddressSizeOf(family);
-  if (shape.number == kAddressPrefix) return PrefixOfText(text, size, content);
+  if (role == kAddressPrefix) return PrefixOfText(text, size, content);
   IpAddress address;
   if (!ReadIpAddress(text, &address) || address.size != size) return false;
-  const bool fill = shape.number == kLastAddress;
+  const bool fill = role == kLastAddress;
   *content = BitStringOf(address.view(), CountToldBits(address.view(), fill));
   return true;
 }
 
-bool AddressComesBack(const Shape& shape, ByteView family, ByteView content) {
-  const bool fill = shape.number == kLastAddress;
+bool AddressComesBack(uint32_t role, ByteView family, ByteView content) {
+  const bool fill = role == kLastAddress;
   IpAddress address;
   return ExpandAddress(family, content, fill, &address) &&
-         (shape.number == kAddressPrefix ||
-          CountToldBits(address.view(), fill) == CountBits(content));
+         (role == kAddressPrefix || CountToldBits(address.view(), fill) == CountBits(content));
 }
 
 }  // namespace Ortholan::strict

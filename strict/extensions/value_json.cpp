@@ -176,8 +176,8 @@ void JsonVisitor::PutFamily(ByteView content) {
 }
 
 void JsonVisitor::PutAddress(const Shape& shape, const Element& element) {
-  if (!AddressComesBack(shape, family_, element.content)) return PutOctets(element.bytes);
-  PutText([&](Output* out) { PutAddressText(shape, family_, element.content, out); });
+  if (!AddressComesBack(shape.number, family_, element.content)) return PutOctets(element.bytes);
+  PutText([&](Output* out) { PutAddressText(shape.number, family_, element.content, out); });
 }
 
 }  // namespace

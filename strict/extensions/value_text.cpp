@@ -174,7 +174,7 @@ void PutLeaf(const Shape& shape, const Element& element, Output* out) {
 // What has no text as an address is shown as its bits.
 void PutAddressOrOctets(const Shape& shape, ByteView family, const Element& element, Output* out) {
   const bool is_put = shape.kind == ShapeKind::kAddress
-                          ? PutAddressText(shape, family, element.content, out)
+                          ? PutAddressText(shape.number, family, element.content, out)
                           : PutFamilyText(family, out);
   if (!is_put) PutOctets(element.content, out);
 }
