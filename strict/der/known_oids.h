@@ -14,15 +14,17 @@ inline constexpr OidConstant kDomainComponentOid("0.9.2342.19200300.100.1.25");
 inline constexpr OidConstant kEmailAddressOid("1.2.840.113549.1.9.1");
 inline constexpr OidConstant kExtensionRequestOid("1.2.840.113549.1.9.14");
 
-// Extensions (RFC 5280 4.2 and 5.2).
+// Extensions (RFC 5280 4.2, 5.2 and 5.3).
 inline constexpr OidConstant kSubjectKeyIdOid("2.5.29.14");
 inline constexpr OidConstant kKeyUsageOid("2.5.29.15");
 inline constexpr OidConstant kAlternativeNamesOid("2.5.29.17");
 inline constexpr OidConstant kIssuerNamesOid("2.5.29.18");
 inline constexpr OidConstant kBasicConstraintsOid("2.5.29.19");
 inline constexpr OidConstant kCrlNumberOid("2.5.29.20");
+inline constexpr OidConstant kReasonCodeOid("2.5.29.21");
 inline constexpr OidConstant kDeltaIndicatorOid("2.5.29.27");
 inline constexpr OidConstant kIssuingPointOid("2.5.29.28");
+inline constexpr OidConstant kCertificateIssuerOid("2.5.29.29");
 inline constexpr OidConstant kNameConstraintsOid("2.5.29.30");
 inline constexpr OidConstant kDistributionPointsOid("2.5.29.31");
 inline constexpr OidConstant kPoliciesOid("2.5.29.32");

@@ -11,8 +11,16 @@ namespace Ortholan::strict {
 
 struct CheckCase;
 
-// Kinds of documents, added.
-enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
+// Kinds of documents, and the entries of a CRL, added.
+enum : uint8_t {
+  kCertificates = 1,
+  kRequests = 2,
+  kLists = 4,
+  kEntries = 8,
+  kForSubjects = kCertificates | kRequests,
+  kAll = kForSubjects | kLists,
+  kAllAndEntries = kAll | kEntries,
+};
 
 // What a rule is asked about, each in turn.
 enum class Scope : uint8_t {

@@ -37,8 +37,8 @@ typedef struct ortholan_fault {
 } ortholan_fault;
 
 // Looks for everything that the rules forbid: first in the document as a whole, then in its names,
-// then in each extension, in the order of the encoding. An encoding that is no DER is a fault among
-// others as long as the parts can be told apart.
+// then in each extension, those of the entries of a CRL among them, in the order of the encoding.
+// An encoding that is no DER is a fault among others as long as the parts can be told apart.
 //   der    a certificate, a request or a CRL, the whole encoding
 //   faults room for `room` of them; may be NULL
 //   count  how many there are, be it more than the room
