@@ -18,6 +18,7 @@ struct Finding {
   std::string oid;        // of the extension that it is about; empty where it is about none
   std::string title;      // what to call the extension
   std::string_view part;  // the octets at fault; empty where something is missing
+  std::string serial;     // of the entry of a revocation list that the part lies in
   std::string text;       // of a part that is a general name, or one attribute
 };
 
