@@ -969,6 +969,9 @@ namespace Ortholan.Native
         public static extern int ortholan_extensions_write(ExtensionView* extensions, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_request_write(Octets extensions, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_time_to_text(Octets time, byte* @out, UIntPtr room, UIntPtr* size);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]

@@ -992,6 +992,13 @@ extern "C" {
         size: *mut usize,
         refusal: *mut ortholan_refusal,
     ) -> ortholan_reason;
+    pub fn ortholan_extension_request_write(
+        extensions: ortholan_octets,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
     pub fn ortholan_time_to_text(
         time: ortholan_octets,
         out: *mut c_char,
