@@ -4,6 +4,7 @@
 #include "strict/extensions/common_shapes.h"
 #include "strict/extensions/qualified_shapes.h"
 #include "strict/extensions/rfc5280_shapes.h"
+#include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_shapes.h"
 #include "strict/extensions/vendor_shapes.h"
 #include "strict/extensions/windows_shapes.h"
@@ -237,6 +238,11 @@ ortholan_reason ortholan_integer_next(const ortholan_list* list, size_t* offset,
 ortholan_reason ortholan_string_next(const ortholan_list* list, size_t* offset,
                                      ortholan_string* string) {
   return Next(kAnyStringShape, list, offset, string);
+}
+
+ortholan_reason ortholan_element_next(const ortholan_list* list, size_t* offset,
+                                      ortholan_octets* element) {
+  return Next(kAnyShape, list, offset, element);
 }
 
 ortholan_reason ortholan_policy_next(const ortholan_list* policies, size_t* offset,

@@ -652,6 +652,50 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct EntrustVersion
+    {
+        public Octets version;
+        public Bits flags;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ProxyPolicy
+    {
+        public Octets language;
+        public Octets policy;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ProxyInformation
+    {
+        public Integer path_length;
+        public ProxyPolicy policy;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct IssuerSignTool
+    {
+        public String tool;
+        public String authority_tool;
+        public String tool_certificate;
+        public String authority_tool_certificate;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AdobeTimestamp
+    {
+        public Integer version;
+        public Octets location;
+        public int needs_authentication;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AdobeArchive
+    {
+        public Integer version;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct ExtensionType
     {
         public Octets oid;
@@ -875,6 +919,12 @@ namespace Ortholan.Native
         public const int ORTHOLAN_CRL_CERTIFICATE_HOLD = 64;
         public const int ORTHOLAN_CRL_PRIVILEGE_WITHDRAWN = 128;
         public const int ORTHOLAN_CRL_AA_COMPROMISE = 256;
+        public const int ORTHOLAN_ENTRUST_KEY_UPDATE_ALLOWED = 1;
+        public const int ORTHOLAN_ENTRUST_NEW_EXTENSIONS = 2;
+        public const int ORTHOLAN_ENTRUST_PKIX_CERTIFICATE = 4;
+        public const int ORTHOLAN_ENTRUST_ENTERPRISE_CATEGORY = 8;
+        public const int ORTHOLAN_ENTRUST_WEB_CATEGORY = 16;
+        public const int ORTHOLAN_ENTRUST_SET_CATEGORY = 32;
         public const int ORTHOLAN_REASON_EXTENSION_TYPE = 400;
         public const int ORTHOLAN_REASON_TLS_SIZE = 401;
         public const int ORTHOLAN_REASON_JSON = 402;
@@ -1113,6 +1163,9 @@ namespace Ortholan.Native
         public static extern int ortholan_string_next(List* list, UIntPtr* offset, String* @string);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_element_next(List* list, UIntPtr* offset, Octets* element);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_integer_read(Octets value, int mode, Integer* number, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -1282,6 +1335,21 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_autonomous_system_next(List* systems, UIntPtr* offset, AutonomousSystem* system);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_entrust_version_read(Octets value, int mode, EntrustVersion* version, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_proxy_information_read(Octets value, int mode, ProxyInformation* information, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_issuer_sign_tool_read(Octets value, int mode, IssuerSignTool* tools, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_adobe_timestamp_read(Octets value, int mode, AdobeTimestamp* timestamp, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_adobe_archive_read(Octets value, int mode, AdobeArchive* archive, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_extension_type_at(UIntPtr index, ExtensionType* type);

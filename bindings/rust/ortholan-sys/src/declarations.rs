@@ -163,6 +163,12 @@ pub const ORTHOLAN_CRL_CESSATION_OF_OPERATION: i32 = 32;
 pub const ORTHOLAN_CRL_CERTIFICATE_HOLD: i32 = 64;
 pub const ORTHOLAN_CRL_PRIVILEGE_WITHDRAWN: i32 = 128;
 pub const ORTHOLAN_CRL_AA_COMPROMISE: i32 = 256;
+pub const ORTHOLAN_ENTRUST_KEY_UPDATE_ALLOWED: i32 = 1;
+pub const ORTHOLAN_ENTRUST_NEW_EXTENSIONS: i32 = 2;
+pub const ORTHOLAN_ENTRUST_PKIX_CERTIFICATE: i32 = 4;
+pub const ORTHOLAN_ENTRUST_ENTERPRISE_CATEGORY: i32 = 8;
+pub const ORTHOLAN_ENTRUST_WEB_CATEGORY: i32 = 16;
+pub const ORTHOLAN_ENTRUST_SET_CATEGORY: i32 = 32;
 pub const ORTHOLAN_REASON_EXTENSION_TYPE: i32 = 400;
 pub const ORTHOLAN_REASON_TLS_SIZE: i32 = 401;
 pub const ORTHOLAN_REASON_JSON: i32 = 402;
@@ -860,6 +866,50 @@ pub struct ortholan_autonomous_system {
 
 #[repr(C)]
 #[derive(Clone, Copy, Debug)]
+pub struct ortholan_entrust_version {
+    pub version: ortholan_octets,
+    pub flags: ortholan_bits,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_proxy_policy {
+    pub language: ortholan_octets,
+    pub policy: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_proxy_information {
+    pub path_length: ortholan_integer,
+    pub policy: ortholan_proxy_policy,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_issuer_sign_tool {
+    pub tool: ortholan_string,
+    pub authority_tool: ortholan_string,
+    pub tool_certificate: ortholan_string,
+    pub authority_tool_certificate: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_adobe_timestamp {
+    pub version: ortholan_integer,
+    pub location: ortholan_octets,
+    pub needs_authentication: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_adobe_archive {
+    pub version: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
 pub struct ortholan_extension_type {
     pub oid: ortholan_octets,
     pub name: *const c_char,
@@ -1302,6 +1352,11 @@ extern "C" {
         offset: *mut usize,
         string: *mut ortholan_string,
     ) -> ortholan_reason;
+    pub fn ortholan_element_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        element: *mut ortholan_octets,
+    ) -> ortholan_reason;
     pub fn ortholan_integer_read(
         value: ortholan_octets,
         mode: i32,
@@ -1622,6 +1677,36 @@ extern "C" {
         systems: *const ortholan_list,
         offset: *mut usize,
         system: *mut ortholan_autonomous_system,
+    ) -> ortholan_reason;
+    pub fn ortholan_entrust_version_read(
+        value: ortholan_octets,
+        mode: i32,
+        version: *mut ortholan_entrust_version,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_proxy_information_read(
+        value: ortholan_octets,
+        mode: i32,
+        information: *mut ortholan_proxy_information,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_issuer_sign_tool_read(
+        value: ortholan_octets,
+        mode: i32,
+        tools: *mut ortholan_issuer_sign_tool,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_adobe_timestamp_read(
+        value: ortholan_octets,
+        mode: i32,
+        timestamp: *mut ortholan_adobe_timestamp,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_adobe_archive_read(
+        value: ortholan_octets,
+        mode: i32,
+        archive: *mut ortholan_adobe_archive,
+        refusal: *mut ortholan_refusal,
     ) -> ortholan_reason;
     pub fn ortholan_extension_type_at(
         index: usize,
