@@ -5,6 +5,7 @@
 #include "strict/der/bit_string.h"
 #include "strict/der/integer.h"
 #include "strict/der/oid.h"
+#include "strict/extensions/resource_text.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/names/name_view.h"
 
@@ -22,6 +23,10 @@ bool IsBoolean(ByteView content, Leniency leniency) {
 
 bool IsInteger(ByteView content, Leniency leniency) {
   return leniency == Leniency::kLenient ? !content.empty() : IsMinimalInteger(content);
+}
+
+bool IsUnusedZero(ByteView content, Leniency leniency) {
+  return IsBitString(content) && (leniency != Leniency::kDer || AreUnusedZero(content));
 }
 
 bool AreBits(ByteView content, Leniency leniency) {
@@ -62,6 +67,8 @@ bool CheckLeaf(const Shape& shape, const Element& element, Leniency leniency, Re
       return IsInteger(content, leniency) || Fail(refusal, ORTHOLAN_REASON_INTEGER, content);
     case ShapeKind::kBits:
       return AreBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
+    case ShapeKind::kAddress:
+      return IsUnusedZero(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
     case ShapeKind::kNull:
       return content.empty() || Fail(refusal, ORTHOLAN_REASON_NULL, content);
     case ShapeKind::kOid:
