@@ -26,14 +26,13 @@ class RememberedText {
   template <typename Char>
   static RememberedText Of(std::basic_string_view<Char> text, uint16_t version) {
     if (text.empty() || text.size() > kLongest) return {};
-    uint64_t word = version;
-    unsigned shift = kTextShift;
-    for (const Char c : text) {
-      if (static_cast<std::make_unsigned_t<Char>>(c) - 1u >= 0x7Fu) return {};
-      word |= static_cast<uint64_t>(c) << shift;
-      shift += 8;
+    uint64_t packed = 0;
+    for (size_t i = text.size(); i-- != 0;) {
+      const auto c = static_cast<std::make_unsigned_t<Char>>(text[i]);
+      if (c - 1u >= 0x7Fu) return {};
+      packed = packed << 8 | c;
     }
-    return RememberedText(word);
+    return RememberedText(packed << kTextShift | version);
   }
 
   bool has_text() const { return word_ >> kTextShift != 0; }
