@@ -114,17 +114,6 @@ void AddTime(Document& document, const char* label, const char* member, std::str
   document.facts.push_back({label, member, text});
 }
 
-// RFC 5280 5.1: the list of what is revoked stands behind the times, where there is any.
-std::size_t CountRevoked(std::string_view der) {
-  std::size_t count = 0;
-  bool isBehindTime = false;
-  for (const Der& field : Elements(SignedContent(der))) {
-    if (isBehindTime && field.tag == kSequence) count = Elements(field.content).size();
-    isBehindTime = field.tag == kUtcTime || field.tag == kGeneralizedTime;
-  }
-  return count;
-}
-
 void AddFacts(Document& document, const Parts& parts, std::string_view der) {
   const bool isList = document.kind == Kind::kRevocationList;
   if (!parts.serialNumber.empty()) {
@@ -136,12 +125,22 @@ void AddFacts(Document& document, const Parts& parts, std::string_view der) {
           parts.notAfter);
   if (isList) {
     document.facts.push_back(
-        {"revoked certificates", "revoked", std::to_string(CountRevoked(der)), true});
+        {"revoked certificates", "revoked", std::to_string(RevokedEntries(der).size()), true});
   }
   document.facts.push_back({"SHA-256", "sha256", Hex(Sha256(der))});
 }
 
 }  // namespace
+
+// RFC 5280 5.1: they stand behind the times, where there are any.
+std::vector<Der> RevokedEntries(std::string_view der) {
+  bool isBehindTime = false;
+  for (const Der& field : Elements(SignedContent(der))) {
+    if (isBehindTime && field.tag == kSequence) return Elements(field.content);
+    isBehindTime = field.tag == kUtcTime || field.tag == kGeneralizedTime;
+  }
+  return {};
+}
 
 std::string_view FirstElement(std::string_view octets) {
   Der element;

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "examples/der.h"
 #include "examples/extensions.h"
 #include "examples/kinds.h"
 #include "examples/name_text.h"
@@ -46,6 +47,9 @@ Document ReadDocument(std::string_view der);
 // The document itself, without what may stand behind it in a TRUSTED CERTIFICATE. Throws Failure
 // where there is none.
 std::string_view FirstElement(std::string_view octets);
+
+// The entries of a revocation list; none of anything else.
+std::vector<Der> RevokedEntries(std::string_view der);
 
 // The names of a certificate alone, whole encodings: subject and issuer. Throws Failure.
 std::vector<std::string_view> ReadCertificateNames(std::string_view der);

@@ -1,5 +1,6 @@
 #include "examples/findings.h"
 
+#include <algorithm>
 #include <list>
 #include <ortholan/strict.hpp>
 
@@ -24,9 +25,22 @@ std::string TextOf(std::string_view part) {
   return isTagged ? ortholan::GeneralNameText(part) : std::string();
 }
 
-Finding FindingOf(const ortholan::Fault& fault) {
-  Finding finding = {fault.rule, fault.section,    fault.sentence,          {},
-                     {},         View(fault.part), TextOf(View(fault.part))};
+// The serial number of the entry that a part lies in; empty where it lies in none.
+std::string SerialOf(std::string_view part, const std::vector<Der>& entries) {
+  const auto behind = std::upper_bound(
+      entries.begin(), entries.end(), part.data(),
+      [](const char* place, const Der& entry) { return place < entry.whole.data(); });
+  if (part.empty() || behind == entries.begin()) return {};
+  const std::string_view entry = (behind - 1)->whole;
+  if (part.data() >= entry.data() + entry.size()) return {};
+  const std::vector<Der> fields = Elements((behind - 1)->content);
+  return fields.empty() ? std::string() : Hex(fields[0].content);
+}
+
+Finding FindingOf(const ortholan::Fault& fault, const std::vector<Der>& entries) {
+  const std::string_view part = View(fault.part);
+  Finding finding = {fault.rule, fault.section, fault.sentence,          {},
+                     {},         part,          SerialOf(part, entries), TextOf(part)};
   if (fault.refusal.reason != ORTHOLAN_REASON_NONE) {
     finding.what += ": " + ortholan::Refusal(fault.refusal).Sentence();
   }
@@ -42,9 +56,15 @@ std::string FindingJson(const Finding& finding) {
   object.AddText("rule", finding.rule).AddText("section", finding.section);
   if (!finding.oid.empty()) object.AddText("oid", finding.oid).AddText("name", finding.title);
   object.AddText("what", finding.what);
+  if (!finding.serial.empty()) object.AddText("serialNumber", finding.serial);
   if (!finding.text.empty()) object.AddText("text", finding.text);
   if (!finding.part.empty()) object.AddText("octets", Hex(finding.part));
   return object.End();
+}
+
+// "RFC 5280 4.2.1.9"; a section of another RFC names it.
+std::string SourceOf(const std::string& section) {
+  return (section.compare(0, 3, "RFC") == 0 ? "" : "RFC 5280 ") + section;
 }
 
 }  // namespace
@@ -61,7 +81,9 @@ Findings ReadFindings(std::string_view der) {
     Refuse("the fields are not those of " + std::string(KindText(findings.kind)) + ": " +
            faults.refusal().Sentence());
   }
-  for (const ortholan::Fault& fault : *faults) findings.list.push_back(FindingOf(fault));
+  const bool isList = findings.kind == Kind::kRevocationList;
+  const std::vector<Der> entries = isList ? RevokedEntries(der) : std::vector<Der>();
+  for (const ortholan::Fault& fault : *faults) findings.list.push_back(FindingOf(fault, entries));
   return findings;
 }
 
@@ -70,7 +92,8 @@ std::string FindingsText(std::size_t number, const Findings& findings) {
   if (findings.list.empty()) return text + ": nothing found\n";
   text += "\n";
   for (const Finding& finding : findings.list) {
-    text += "  RFC 5280 " + finding.section + ": ";
+    text += "  " + SourceOf(finding.section) + ": ";
+    if (!finding.serial.empty()) text += "serial number " + finding.serial + ": ";
     if (!finding.title.empty()) text += Paint(Colour::kKey, finding.title) + ": ";
     text += Visible(finding.what);
     text += finding.text.empty() ? "\n" : ": " + Paint(Colour::kNotable, finding.text) + "\n";

@@ -13,11 +13,12 @@ namespace Example {
 
 struct Finding {
   std::string rule;       // "path-length-without-authority"
-  std::string section;    // of RFC 5280
+  std::string section;    // of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6"
   std::string what;       // one sentence, with the reason of a refusal
   std::string oid;        // of the extension that it is about; empty where it is about none
   std::string title;      // what to call the extension
   std::string_view part;  // the octets at fault; empty where something is missing
+  std::string serial;     // of the entry of a revocation list that the part lies in
   std::string text;       // of a part that is a general name, or one attribute
 };
 

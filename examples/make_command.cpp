@@ -1,4 +1,4 @@
-// make: extensions in DER from a description in JSON.
+// make: extensions in DER from a description in JSON, and what a request has them in.
 
 #include <algorithm>
 #include <cstdint>
@@ -9,9 +9,11 @@
 #include <vector>
 
 #include "examples/commands.h"
+#include "examples/der.h"
 #include "examples/failure.h"
 #include "examples/input.h"
 #include "examples/nearest.h"
+#include "examples/pem.h"
 #include "examples/text.h"
 #include "examples/text_failure.h"
 
@@ -54,16 +56,33 @@ Made Make(const std::optional<std::string>& type, const std::string& json) {
   return ortholan::ExtensionFromJson(*type, json);
 }
 
+std::vector<std::uint8_t> RequestOf(const std::vector<std::uint8_t>& extensions) {
+  const Made attribute = ortholan::WriteExtensionRequest(extensions);
+  if (!attribute) Refuse("a request has a list of extensions, and this is one extension");
+  return *attribute;
+}
+
+void RequireOneForm(const Arguments& arguments) {
+  const auto exclude = [&arguments](const char* option, const char* other) {
+    if (!arguments.Has(option) || !arguments.Has(other)) return;
+    throw UsageError{std::string(option) + " does not go with " + other};
+  };
+  exclude("--request", "--value");
+  exclude("--base64", "--out");
+}
+
 int RunMake(const Arguments& arguments) {
+  RequireOneForm(arguments);
   const std::string json = ReadDescription(arguments.operands[0]);
-  const Made der = Make(arguments.Value("--value"), json);
-  if (!der && der.refusal().offset == ORTHOLAN_NO_PLACE) Refuse(der.refusal().Sentence());
-  if (!der) FailAtPlace(json, der.refusal());
-  const Ortholan::IdentObj octets(der->data(), static_cast<Ortholan::DWORD>(der->size()));
+  const Made made = Make(arguments.Value("--value"), json);
+  if (!made && made.refusal().offset == ORTHOLAN_NO_PLACE) Refuse(made.refusal().Sentence());
+  if (!made) FailAtPlace(json, made.refusal());
+  const std::vector<std::uint8_t> der = arguments.Has("--request") ? RequestOf(*made) : *made;
+  const Ortholan::IdentObj octets(der.data(), static_cast<Ortholan::DWORD>(der.size()));
   if (const auto path = arguments.Value("--out")) {
     WriteOctets(*path, octets);
   } else {
-    Print(Hex(octets) + "\n");
+    Print(arguments.Has("--base64") ? Base64Lines(View(octets)) : Hex(octets) + "\n");
   }
   return 0;
 }
@@ -81,12 +100,16 @@ const Command kMakeCommand = {
     "array\n"
     "a list of them, as `show --json` has them: name or oid, critical, value; with --value it is "
     "the\n"
-    "value of that extension alone.\n",
+    "value of that extension alone, with --request an array becomes the attribute that a request\n"
+    "has its extensions in.\n",
     "x509name make --value basicConstraints '{\"cA\":true,\"pathLenConstraint\":0}'\n"
     "    30060101FF020100\n"
     "x509name make '{\"name\":\"extKeyUsage\",\"value\":[\"serverAuth\"]}'\n"
-    "x509name make --out extensions.der extensions.json\n",
+    "x509name make --out extensions.der extensions.json\n"
+    "x509name make --request --base64 extensions.json\n",
     {{"--value", "EXTENSION", "the value of one extension, by name or identifier"},
+     {"--request", nullptr, "the attribute extensionRequest of PKCS #9"},
+     {"--base64", nullptr, "base64 in lines of 64 characters"},
      {"--out", "FILE", "write the octets into FILE"}}};
 
 }  // namespace Example

@@ -6,6 +6,8 @@ namespace Example {
 namespace {
 
 constexpr std::string_view kClose = "-----";
+constexpr std::string_view kBase64 =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
 bool StartsWith(std::string_view line, std::string_view prefix) {
   return line.substr(0, prefix.size()) == prefix;
@@ -20,9 +22,7 @@ std::string_view Label(std::string_view line, std::string_view prefix) {
 
 // -1 for a character outside the alphabet.
 int Base64Value(char character) {
-  static constexpr std::string_view kAlphabet =
-      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-  const std::size_t position = kAlphabet.find(character);
+  const std::size_t position = kBase64.find(character);
   return position == std::string_view::npos ? -1 : static_cast<int>(position);
 }
 
@@ -53,6 +53,25 @@ std::optional<std::string> FromBase64(std::string_view text) {
   if (left >= 2) bytes += static_cast<char>(bits >> (left == 2 ? 4 : 10) & 0xFF);
   if (left == 3) bytes += static_cast<char>(bits >> 2 & 0xFF);
   return bytes;
+}
+
+std::string Base64Lines(std::string_view octets) {
+  constexpr std::size_t kLineOctets = 48;  // 64 characters
+  constexpr std::size_t kGroup = 3;
+  std::string text;
+  for (std::size_t i = 0; i < octets.size(); i += kGroup) {
+    const std::string_view group = octets.substr(i, kGroup);
+    unsigned long bits = 0;
+    for (std::size_t at = 0; at < kGroup; ++at) {
+      bits = bits << 8 | (at < group.size() ? static_cast<unsigned char>(group[at]) : 0u);
+    }
+    for (std::size_t digit = 0; digit <= kGroup; ++digit) {
+      text += digit <= group.size() ? kBase64[bits >> (18 - 6 * digit) & 63] : '=';
+    }
+    const bool endsLine = (i + kGroup) % kLineOctets == 0 || i + kGroup >= octets.size();
+    if (endsLine) text += '\n';
+  }
+  return text;
 }
 
 std::string_view PemLabel(std::string_view block) { return Label(block, kPemBegin); }

@@ -34,6 +34,9 @@ void ForEachPemBlock(std::string_view text, const std::function<void(const PemBl
 // none.
 std::optional<std::string> FromBase64(std::string_view text);
 
+// Octets as base64 in lines of 64 characters, each with its line feed.
+std::string Base64Lines(std::string_view octets);
+
 }  // namespace Example
 
 #endif  // ORTHOLAN_EXAMPLES_PEM_H_

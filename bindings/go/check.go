@@ -6,7 +6,7 @@ import "C"
 // Fault is one thing that RFC 5280 forbids.
 type Fault struct {
 	Rule      string // "path-length-without-ca"; stays the same
-	Section   string // of RFC 5280: "4.2.1.9"
+	Section   string // of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6"
 	Sentence  string // what is wrong, without a full stop; may change
 	Extension []byte // content octets of the extension's identifier, be it missing
 	Part      []byte // where in the input; empty where something is missing

@@ -10,7 +10,10 @@
 #include <ortholan/strict/columns.h>
 #include <ortholan/strict/constraints.h>
 #include <ortholan/strict/extension_builders.h>
+#include <ortholan/strict/extension_media.h>
+#include <ortholan/strict/extension_resources.h>
 #include <ortholan/strict/extension_values.h>
+#include <ortholan/strict/extension_vendors.h>
 #include <ortholan/strict/extensions.h>
 #include <ortholan/strict/general_names.h>
 #include <ortholan/strict/identity.h>

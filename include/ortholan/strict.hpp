@@ -9,7 +9,11 @@
 #include <ortholan/strict/certificates.hpp>
 #include <ortholan/strict/check.hpp>
 #include <ortholan/strict/constraints.hpp>
+#include <ortholan/strict/extension_media.hpp>
+#include <ortholan/strict/extension_resources.hpp>
+#include <ortholan/strict/extension_statements.hpp>
 #include <ortholan/strict/extension_values.hpp>
+#include <ortholan/strict/extension_vendors.hpp>
 #include <ortholan/strict/extensions.hpp>
 #include <ortholan/strict/general_names.hpp>
 #include <ortholan/strict/identity.hpp>

@@ -139,7 +139,8 @@ bool CertificateView::ReadRequest(Reader* fields) {
 bool CertificateView::ReadRevocationList(Reader* fields) {
   return SkipOptional(fields, kInteger) && Skip(fields, kSequence) &&
          TakeSequence(fields, &issuer_) && TakeTime(fields, &not_before_) &&
-         (!SeesTime(*fields) || TakeTime(fields, &not_after_)) && SkipOptional(fields, kSequence) &&
+         (!SeesTime(*fields) || TakeTime(fields, &not_after_)) &&
+         (!fields->Sees(kSequence) || TakeSequence(fields, &revoked_)) &&
          TakeExtensions(fields, kListExtensions, &extensions_);
 }
 

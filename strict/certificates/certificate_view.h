@@ -37,6 +37,8 @@ class CertificateView {
   // where there is none.
   ByteView not_before() const { return not_before_; }
   ByteView not_after() const { return not_after_; }
+  // The SEQUENCE of entries of a CRL, which are not read here; without octets where there is none.
+  ByteView revoked() const { return revoked_; }
   // Of a request those that its extensionRequest attribute asks for (RFC 2985 5.4.2).
   const ExtensionsView& extensions() const { return extensions_; }
 
@@ -53,6 +55,7 @@ class CertificateView {
   ByteView serial_;
   ByteView not_before_;
   ByteView not_after_;
+  ByteView revoked_;
   ExtensionsView extensions_;
 };
 

@@ -1,5 +1,6 @@
 #include "strict/extensions/check.h"
 
+#include "strict/certificates/revoked_entry.h"
 #include "strict/der/known_oids.h"
 #include "strict/extensions/check_case.h"
 #include "strict/extensions/check_looks.h"
@@ -24,15 +25,12 @@ uint32_t VersionOf(ByteView der, CertificateKind kind) {
   return number.size == 1 ? number[0] + 1u : 0;
 }
 
-// Bits of the first two octets, the first bit lowest.
-uint32_t UsageBitsOf(ByteView bit_string) {
-  uint32_t bits = 0;
-  for (size_t i = 1; i < bit_string.size && i <= 2; ++i) {
-    for (size_t bit = 0; bit < 8; ++bit) {
-      if ((bit_string[i] >> (7 - bit) & 1) != 0) bits |= 1u << ((i - 1) * 8 + bit);
-    }
-  }
-  return bits;
+// Identifiers by their octets, the same ones as they stand.
+std::vector<ByteView> SortedOids(const ExtensionsView& extensions) {
+  std::vector<ByteView> oids;
+  for (const ExtensionView& extension : extensions) oids.push_back(extension.oid);
+  std::stable_sort(oids.begin(), oids.end(), AreOctetsBefore);
+  return oids;
 }
 
 uint8_t KindBit(CertificateKind kind) {
@@ -61,15 +59,42 @@ void LookOutside(const CheckRule& rule, CheckCase at) {
   }
 }
 
-// Calls `look` for each rule that the document may break.
-template <class Look>
-void ForEachRule(const CheckedDocument& document, Look look) {
+// The rules that are asked of a document, or of the entries of a CRL, in their order.
+std::vector<const CheckRule*> RulesFor(uint8_t kind) {
   const CheckRules rules = AllRules();
+  std::vector<const CheckRule*> asked;
   for (size_t i = 0; i < rules.count; ++i) {
-    const CheckRule& rule = rules.first[i];
-    const bool is_asked = document.is_readable || rule.scope == Scope::kEncoding;
-    if (is_asked && (rule.kinds & document.kind) != 0) look(rule);
+    if ((rules.first[i].kinds & kind) != 0) asked.push_back(&rules.first[i]);
   }
+  return asked;
+}
+
+// A list of extensions, and what it is held against.
+struct CheckedList {
+  const CheckedDocument& document;
+  const std::vector<const CheckRule*>& rules;
+  uint8_t kind;
+};
+
+void LookInside(const CheckedList& list, const ExtensionsView& extensions,
+                const std::vector<ByteView>& oids, Faults* faults) {
+  for (const ExtensionView& extension : extensions) {
+    for (const CheckRule* rule : list.rules) {
+      if (!IsAbout(*rule, extension)) continue;
+      rule->look({list.document, *rule, faults, list.kind, {}, extension, &oids});
+    }
+  }
+}
+
+// The extensions of each entry of a CRL that can be read.
+void LookAtEntries(const CheckedDocument& document, Faults* faults) {
+  const std::vector<const CheckRule*> rules = RulesFor(kEntries);
+  ForEachElement(ContentOf(document.view.revoked(), kSequence), [&](const Element& element) {
+    Reader list(element.bytes, Leniency::kLenient, nullptr);
+    RevokedEntry entry;
+    if (!RevokedEntry::Take(&list, &entry) || entry.extensions.size() == 0) return;
+    LookInside({document, rules, kEntries}, entry.extensions, SortedOids(entry.extensions), faults);
+  });
 }
 
 }  // namespace
@@ -82,13 +107,23 @@ CheckedDocument::CheckedDocument(ByteView der) {
   version = VersionOf(der, view.kind());
   const ExtensionView usage = Find(oids::kKeyUsage.view());
   has_key_usage = !usage.bytes.empty();
-  key_usage = UsageBitsOf(ContentOf(usage.value, kBitString));
+  key_usage = BitsOf(ContentOf(usage.value, kBitString));
   Reader constraints(ContentOf(Find(oids::kBasicConstraints.view()).value, kSequence),
                      Leniency::kLenient, nullptr);
   ByteView flag;
   is_authority = constraints.Read(kBoolean, &flag) && flag.size == 1 && flag[0] != 0;
-  for (const ExtensionView& extension : view.extensions()) sorted_oids.push_back(extension.oid);
-  std::stable_sort(sorted_oids.begin(), sorted_oids.end(), AreOctetsBefore);
+  ReadIssuingPoint();
+  sorted_oids = SortedOids(view.extensions());
+}
+
+void CheckedDocument::ReadIssuingPoint() {
+  constexpr uint8_t kSomeReasons = Context(3);
+  constexpr uint8_t kIndirect = Context(4);
+  const ByteView parts = ContentOf(Find(oids::kIssuingPoint.view()).value, kSequence);
+  has_some_reasons = HasPart(parts, kSomeReasons);
+  some_reasons = BitsOf(PartOf(parts, kSomeReasons));
+  const ByteView flag = PartOf(parts, kIndirect);
+  is_indirect = flag.size == 1 && flag[0] != 0;
 }
 
 ExtensionView CheckedDocument::Find(ByteView oid) const {
@@ -106,7 +141,7 @@ void CheckCase::Fault(ByteView part, const Refusal& refusal) const {
   const ByteView oid = extension.oid.empty() ? rule.oid.view() : extension.oid;
   const char* const own = rule.section;
   faults->Add({rule.name,
-               own[0] != '\0' ? own : SectionOf(oid, document.kind),
+               own[0] != '\0' ? own : SectionOf(oid, kind),
                rule.sentence,
                {oid.data, oid.size},
                {part.data, part.size},
@@ -115,14 +150,14 @@ void CheckCase::Fault(ByteView part, const Refusal& refusal) const {
 
 bool Check(ByteView der, Faults* faults, Refusal* refusal) {
   const CheckedDocument document(der);
-  ForEachRule(document, [&](const CheckRule& rule) {
-    LookOutside(rule, {document, rule, {}, {}, faults});
-  });
-  for (const ExtensionView& extension : document.view.extensions()) {
-    ForEachRule(document, [&](const CheckRule& rule) {
-      if (IsAbout(rule, extension)) rule.look({document, rule, {}, extension, faults});
-    });
+  const std::vector<const CheckRule*> rules = RulesFor(document.kind);
+  for (const CheckRule* rule : rules) {
+    const bool is_asked = document.is_readable || rule->scope == Scope::kEncoding;
+    if (is_asked) LookOutside(*rule, {document, *rule, faults, document.kind});
   }
+  LookAtEntries(document, faults);
+  LookInside({document, rules, document.kind}, document.view.extensions(), document.sorted_oids,
+             faults);
   if (document.is_readable || faults->count() != 0) return true;
   *refusal = document.refusal;
   return false;

@@ -36,8 +36,15 @@ struct CheckedDocument {
   bool is_authority = false;  // cA of basic constraints
   bool has_key_usage = false;
   uint32_t key_usage = 0;  // bits by their number in RFC 5280 4.2.1.3
+  // Of the issuing distribution point of a CRL.
+  bool is_indirect = false;
+  bool has_some_reasons = false;
+  uint32_t some_reasons = 0;  // bits by their number in RFC 5280 4.2.1.13
   // Identifiers of all extensions by AreOctetsBefore, the same ones as they stand.
   std::vector<ByteView> sorted_oids;
+
+ private:
+  void ReadIssuingPoint();
 };
 
 // Bits of key_usage.
@@ -48,9 +55,12 @@ constexpr int kCrlSign = 6;
 struct CheckCase {
   const CheckedDocument& document;
   const CheckRule& rule;
-  ByteView name;            // of a name: the whole encoding
-  ExtensionView extension;  // of an extension
   Faults* faults;
+  uint8_t kind;                  // the document's, or kEntries
+  ByteView name = {};            // of a name: the whole encoding
+  ExtensionView extension = {};  // of an extension
+  // Of an extension: identifiers of all that stand in one list with it, by AreOctetsBefore.
+  const std::vector<ByteView>* oids = nullptr;
 
   // A fault of `part`; `refusal` tells why it cannot be read.
   void Fault(ByteView part, const Refusal& refusal = {}) const;
@@ -78,6 +88,17 @@ inline size_t CountCharacters(const Element& value) {
   ScalarReader scalars(value.identifier, value.content);
   for (uint32_t scalar; scalars.Next(&scalar);) ++count;
   return count;
+}
+
+// The first 16 bits of the content of a BIT STRING, the first one lowest.
+inline uint32_t BitsOf(ByteView bit_string) {
+  uint32_t bits = 0;
+  for (size_t i = 1; i < bit_string.size && i <= 2; ++i) {
+    for (size_t bit = 0; bit < 8; ++bit) {
+      if ((bit_string[i] >> (7 - bit) & 1) != 0) bits |= 1u << ((i - 1) * 8 + bit);
+    }
+  }
+  return bits;
 }
 
 // The elements of a value that is a SEQUENCE.

@@ -33,6 +33,8 @@ constexpr Profiled kProfile[] = {
     {"2.5.29.46", "4.2.1.15", kForSubjects, Critical::kNever},
     {"1.3.6.1.5.5.7.1.1", "4.2.2.1", kForSubjects, Critical::kNever},
     {"1.3.6.1.5.5.7.1.11", "4.2.2.2", kForSubjects, Critical::kNever},
+    {"1.3.6.1.5.5.7.1.7", "RFC 3779 2.2.3", kForSubjects, Critical::kEither},
+    {"1.3.6.1.5.5.7.1.8", "RFC 3779 3.2.3", kForSubjects, Critical::kEither},
     {"2.5.29.35", "5.2.1", kLists, Critical::kNever},
     {"2.5.29.18", "5.2.2", kLists, Critical::kEither},
     {"2.5.29.20", "5.2.3", kLists, Critical::kNever},
@@ -40,6 +42,9 @@ constexpr Profiled kProfile[] = {
     {"2.5.29.28", "5.2.5", kLists, Critical::kAlways},
     {"2.5.29.46", "5.2.6", kLists, Critical::kNever},
     {"1.3.6.1.5.5.7.1.1", "5.2.7", kLists, Critical::kNever},
+    {"2.5.29.21", "5.3.1", kEntries, Critical::kNever},
+    {"2.5.29.24", "5.3.2", kEntries, Critical::kNever},
+    {"2.5.29.29", "5.3.3", kEntries, Critical::kAlways},
 };
 
 const Profiled* FindProfiled(ByteView oid, uint8_t kind) {
@@ -50,7 +55,7 @@ const Profiled* FindProfiled(ByteView oid, uint8_t kind) {
 }
 
 Critical CriticalOf(const CheckCase& at) {
-  const Profiled* const row = FindProfiled(at.extension.oid, at.document.kind);
+  const Profiled* const row = FindProfiled(at.extension.oid, at.kind);
   return row != nullptr ? row->critical : Critical::kEither;
 }
 
@@ -59,7 +64,7 @@ Critical CriticalOf(const CheckCase& at) {
 const char* SectionOf(ByteView oid, uint8_t kind) {
   const Profiled* const row = FindProfiled(oid, kind);
   if (row != nullptr) return row->section;
-  return kind == kLists ? "5.2" : "4.2";
+  return kind == kEntries ? "5.3" : kind == kLists ? "5.2" : "4.2";
 }
 
 namespace looks {

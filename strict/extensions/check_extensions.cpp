@@ -11,7 +11,7 @@ namespace Ortholan::strict::looks {
 
 // A binary search among all, as a list may be of any length.
 void Twice(const CheckCase& at) {
-  const std::vector<ByteView>& oids = at.document.sorted_oids;
+  const std::vector<ByteView>& oids = *at.oids;
   const auto same = std::equal_range(oids.begin(), oids.end(), at.extension.oid, AreOctetsBefore);
   const bool is_first = same.first->data == at.extension.oid.data;
   if (same.second - same.first > 1 && !is_first) at.Fault(at.extension.bytes);

@@ -8,7 +8,8 @@ namespace Ortholan::strict {
 
 struct CheckCase;
 
-// Where RFC 5280 has an extension; "4.2" and "5.2" for others.
+// Where RFC 5280 has an extension, or another RFC, which is named; "4.2", "5.2" and "5.3" for
+// others.
 const char* SectionOf(ByteView oid, uint8_t kind);
 
 }  // namespace Ortholan::strict
@@ -80,6 +81,26 @@ void FreshestInDelta(const CheckCase& at);
 void ScopesOfList(const CheckCase& at);
 void AttributeCertificates(const CheckCase& at);
 void AccessMethodsOfList(const CheckCase& at);
+
+// check_entries.cpp: of the entries of a CRL.
+void EmptyRevoked(const CheckCase& at);
+void EntryEncoding(const CheckCase& at);
+void ReasonsUnused(const CheckCase& at);
+void RemovedOutsideDelta(const CheckCase& at);
+void ReasonsOutsideList(const CheckCase& at);
+void IssuerOutsideIndirect(const CheckCase& at);
+void IssuerWithoutName(const CheckCase& at);
+
+// check_resources.cpp: of delegated addresses and autonomous systems.
+void FamilySizes(const CheckCase& at);
+void FamilyOrder(const CheckCase& at);
+void AddressBits(const CheckCase& at);
+void EndsOfRanges(const CheckCase& at);
+void RangeEnds(const CheckCase& at);
+void SpanOrder(const CheckCase& at);
+void SpanOverlap(const CheckCase& at);
+void SpansAdjacent(const CheckCase& at);
+void RangesOfPrefixes(const CheckCase& at);
 
 }  // namespace Ortholan::strict::looks
 

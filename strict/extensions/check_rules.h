@@ -11,8 +11,16 @@ namespace Ortholan::strict {
 
 struct CheckCase;
 
-// Kinds of documents, added.
-enum : uint8_t { kCertificates = 1, kRequests = 2, kLists = 4, kForSubjects = 3, kAll = 7 };
+// Kinds of documents, and the entries of a CRL, added.
+enum : uint8_t {
+  kCertificates = 1,
+  kRequests = 2,
+  kLists = 4,
+  kEntries = 8,
+  kForSubjects = kCertificates | kRequests,
+  kAll = kForSubjects | kLists,
+  kAllAndEntries = kAll | kEntries,
+};
 
 // What a rule is asked about, each in turn.
 enum class Scope : uint8_t {
@@ -25,7 +33,7 @@ enum class Scope : uint8_t {
 
 struct CheckRule {
   const char* name;
-  const char* section;  // of RFC 5280; "" for that of the extension
+  const char* section;  // of RFC 5280, of others "RFC 3779 2.2.3.6"; "" for that of the extension
   const char* sentence;
   uint8_t kinds;
   Scope scope;

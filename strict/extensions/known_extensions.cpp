@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "strict/extensions/common_shapes.h"
+#include "strict/extensions/media_shapes.h"
 #include "strict/extensions/qualified_shapes.h"
+#include "strict/extensions/resource_shapes.h"
 #include "strict/extensions/rfc5280_shapes.h"
 #include "strict/extensions/tls_shapes.h"
 #include "strict/extensions/vendor_shapes.h"
@@ -48,10 +50,14 @@ constexpr KnownExtension kKnown[] = {
      &kOrganizationIdentifierShape},
     {"1.3.6.1.5.5.7.1.1", "authorityInfoAccess", "Authority Information Access",
      &kInformationAccessShape},
+    {"1.3.6.1.5.5.7.1.2", "biometricInfo", "Biometric Information", &kBiometricInformationShape},
     {"1.3.6.1.5.5.7.1.3", "qcStatements", "Qualified Certificate Statements",
      &kQualifiedStatementsShape},
+    {"1.3.6.1.5.5.7.1.7", "ipAddrBlocks", "IP Address Blocks", &kAddressBlocksShape},
+    {"1.3.6.1.5.5.7.1.8", "autonomousSysIds", "Autonomous Systems", &kAutonomousSystemsShape},
     {"1.3.6.1.5.5.7.1.11", "subjectInfoAccess", "Subject Information Access",
      &kInformationAccessShape},
+    {"1.3.6.1.5.5.7.1.12", "logotype", "Logotypes", &kLogotypesShape},
     {"1.3.6.1.5.5.7.1.14", "proxyCertInfo", "Proxy Certificate Information",
      &kProxyInformationShape},
     {"1.3.6.1.5.5.7.1.24", "tlsFeature", "TLS Feature", &kTlsFeaturesShape},
@@ -74,6 +80,7 @@ constexpr KnownExtension kKnown[] = {
      &kDistributionPointsShape},
     {"1.3.6.1.4.1.311.25.2", "ntdsCASecurity", "Windows Security Identifier",
      &kSecurityIdentifierShape},
+    {"1.3.6.1.5.5.7.48.1.2", "ocspNonce", "OCSP Nonce", &kOctetsShape},
     {"1.3.6.1.5.5.7.48.1.5", "ocspNoCheck", "OCSP No Check", &kNullShape},
     {"1.3.6.1.5.5.7.48.1.6", "archiveCutoff", "OCSP Archive Cutoff", &kTimeShape},
     {"2.16.840.1.113730.1.1", "netscapeCertType", "Netscape Certificate Type", &kNetscapeTypeShape},

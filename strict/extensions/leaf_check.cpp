@@ -24,8 +24,12 @@ bool IsInteger(ByteView content, Leniency leniency) {
   return leniency == Leniency::kLenient ? !content.empty() : IsMinimalInteger(content);
 }
 
-bool AreBits(ByteView content, Leniency leniency) {
+bool IsNamedBits(ByteView content, Leniency leniency) {
   return IsBitString(content) && (leniency != Leniency::kDer || AreNamedBits(content));
+}
+
+bool IsPlainBits(ByteView content, Leniency leniency) {
+  return IsBitString(content) && (leniency != Leniency::kDer || AreUnusedZero(content));
 }
 
 bool IsTime(uint8_t identifier, ByteView content) {
@@ -61,7 +65,9 @@ bool CheckLeaf(const Shape& shape, const Element& element, Leniency leniency, Re
     case ShapeKind::kEnumerated:
       return IsInteger(content, leniency) || Fail(refusal, ORTHOLAN_REASON_INTEGER, content);
     case ShapeKind::kBits:
-      return AreBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
+      return IsNamedBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
+    case ShapeKind::kAddress:
+      return IsPlainBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
     case ShapeKind::kNull:
       return content.empty() || Fail(refusal, ORTHOLAN_REASON_NULL, content);
     case ShapeKind::kOid:

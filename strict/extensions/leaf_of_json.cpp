@@ -12,6 +12,7 @@
 #include "strict/extensions/moment.h"
 #include "strict/extensions/name_of_json.h"
 #include "strict/extensions/oid_names.h"
+#include "strict/extensions/resource_text.h"
 
 namespace Ortholan::strict {
 namespace {
@@ -149,20 +150,34 @@ bool RdnOf(const Shape&, const JsonValue& json, std::string* content, Refusal* r
   return RdnOfJson(json, content, refusal);
 }
 
+bool FamilyOf(const Shape&, const JsonValue& json, std::string* content, Refusal* refusal) {
+  return (json.IsString() && FamilyOfText(json.text, content)) ||
+         OctetsOfJson(json, content, refusal);
+}
+
 struct LeafRow {
   ShapeKind kind;
   Leaf make;
 };
 
 constexpr LeafRow kLeaves[] = {
-    {ShapeKind::kBoolean, BooleanOf},     {ShapeKind::kInteger, IntegerOf},
-    {ShapeKind::kEnumerated, IntegerOf},  {ShapeKind::kBits, BitsOf},
-    {ShapeKind::kOctets, OctetsOf},       {ShapeKind::kAscii, AsciiOf},
-    {ShapeKind::kNull, NullOf},           {ShapeKind::kOid, OidOf},
-    {ShapeKind::kUtcTime, TimeOf},        {ShapeKind::kTime, TimeOf},
-    {ShapeKind::kString, StringOf},       {ShapeKind::kRdn, RdnOf},
-    {ShapeKind::kTlsNumber, TlsNumberOf}, {ShapeKind::kTlsTime, TlsTimeOf},
-    {ShapeKind::kTlsFixed, OctetsOf},     {ShapeKind::kTlsVector, OctetsOf},
+    {ShapeKind::kBoolean, BooleanOf},
+    {ShapeKind::kInteger, IntegerOf},
+    {ShapeKind::kEnumerated, IntegerOf},
+    {ShapeKind::kBits, BitsOf},
+    {ShapeKind::kOctets, OctetsOf},
+    {ShapeKind::kAscii, AsciiOf},
+    {ShapeKind::kNull, NullOf},
+    {ShapeKind::kOid, OidOf},
+    {ShapeKind::kUtcTime, TimeOf},
+    {ShapeKind::kTime, TimeOf},
+    {ShapeKind::kString, StringOf},
+    {ShapeKind::kRdn, RdnOf},
+    {ShapeKind::kTlsNumber, TlsNumberOf},
+    {ShapeKind::kTlsTime, TlsTimeOf},
+    {ShapeKind::kTlsFixed, OctetsOf},
+    {ShapeKind::kTlsVector, OctetsOf},
+    {ShapeKind::kAddressFamily, FamilyOf},
 };
 
 }  // namespace
@@ -172,6 +187,13 @@ bool LeafOfJson(const Shape& shape, const JsonValue& json, std::string* content,
     if (row.kind == shape.kind) return row.make(shape, json, content, refusal);
   }
   return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+}
+
+bool AddressOfJson(const Shape& shape, const std::string& family, const JsonValue& json,
+                   std::string* content, Refusal* refusal) {
+  if (!json.IsString()) return RefuseJson(ORTHOLAN_REASON_JSON_FORM, json, refusal);
+  return AddressOfText(shape.number, AsBytes(family.data(), family.size()), json.text, content) ||
+         RefuseJson(ORTHOLAN_REASON_JSON_TEXT, json, refusal);
 }
 
 }  // namespace Ortholan::strict

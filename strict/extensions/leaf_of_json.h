@@ -13,6 +13,10 @@ namespace Ortholan::strict {
 // Refuses the value at its place. Throws std::bad_alloc.
 bool LeafOfJson(const Shape& shape, const JsonValue& json, std::string* content, Refusal* refusal);
 
+// The same for an address, whose text depends on the octets of its family.
+bool AddressOfJson(const Shape& shape, const std::string& family, const JsonValue& json,
+                   std::string* content, Refusal* refusal);
+
 }  // namespace Ortholan::strict
 
 #endif  // ORTHOLAN_STRICT_EXTENSIONS_LEAF_OF_JSON_H_

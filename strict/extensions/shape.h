@@ -20,10 +20,12 @@ enum class ShapeKind : uint8_t {
   kBoolean,
   kInteger,
   kEnumerated,
-  kBits,       // BIT STRING with names
-  kOctets,     // OCTET STRING
-  kAscii,      // characters of ASCII in an OCTET STRING or a GeneralString
-  kTlsOctets,  // OCTET STRING that holds a TLS structure
+  kBits,           // BIT STRING with names
+  kAddressFamily,  // OCTET STRING that tells what the kAddress behind it are
+  kAddress,        // BIT STRING that an address begins with
+  kOctets,         // OCTET STRING
+  kAscii,          // characters of ASCII in an OCTET STRING or a GeneralString
+  kTlsOctets,      // OCTET STRING that holds a TLS structure
   kNull,
   kOid,
   kUtcTime,
@@ -77,7 +79,7 @@ struct OpenType {
 enum class Presence : uint8_t {
   kRequired,
   kOptional,
-  kDefault,      // false or 0 where it is not there
+  kDefault,      // `fallback` where it is not there
   kToldDefault,  // the same, and people are told
 };
 enum class Tagging : uint8_t { kNone, kImplicit, kExplicit };
@@ -93,6 +95,7 @@ struct Field {
   Presence presence = Presence::kRequired;
   Tagging tagging = Tagging::kNone;
   uint8_t tag = 0;
+  uint8_t fallback = 0;  // content of a default: false, or a number
 };
 
 // The identifier octet of a kind of which every value begins with the same; 0 for others.
@@ -105,7 +108,9 @@ constexpr uint8_t IdentifierOf(ShapeKind kind) {
     case ShapeKind::kEnumerated:
       return kEnumerated;
     case ShapeKind::kBits:
+    case ShapeKind::kAddress:
       return kBitString;
+    case ShapeKind::kAddressFamily:
     case ShapeKind::kOctets:
     case ShapeKind::kTlsOctets:
       return kOctetString;
@@ -140,12 +145,14 @@ constexpr uint8_t IdentifierOf(ShapeKind kind, uint32_t number) {
 
 struct Shape {
   ShapeKind kind;
-  const char* words = "";  // what it is, for people, where it stands in a list
+  // What it is, for people, where it stands in a list; what a NULL says.
+  const char* words = "";
   Rows<Field> fields = {};
   const Shape* element = nullptr;  // of a list; what octets hold
   Rows<NumberName> names = {};
   Rows<OpenType> types = {};
-  // Identifiers of strings as bits; identifier of ASCII; octets of a TLS part.
+  // Identifiers of strings as bits; identifier of ASCII; octets of a TLS part; what an address is
+  // for (resource_text.h).
   uint32_t number = 0;
   // The identifier octet that a value begins with; 0 where several may. No table writes it.
   uint8_t identifier = IdentifierOf(kind, number);

@@ -121,7 +121,7 @@ class Walk {
     Element element;
     if (!in->ReadInline(&element)) return false;
     if (field.presence >= Presence::kDefault && leniency_ == Leniency::kDer &&
-        IsDefault(element.content)) {
+        IsDefault(field, element.content)) {
       return in->RefuseAt(ORTHOLAN_REASON_DEFAULT, place);
     }
     return ReadFieldValue(field, element);
@@ -137,8 +137,9 @@ class Walk {
     return is_read;
   }
 
-  // false and 0 are encoded alike.
-  static bool IsDefault(ByteView content) { return content.size == 1 && content[0] == 0; }
+  static bool IsDefault(const Field& field, ByteView content) {
+    return content.size == 1 && content[0] == field.fallback;
+  }
 
   bool LacksField(const Field& field, Reader* in) {
     if (field.presence == Presence::kRequired) {

@@ -31,7 +31,7 @@ class ShapeVisitor {
     static_cast<void>(bytes);
     return true;
   }
-  // The field has its default.
+  // The field has its default, which DefaultOf tells.
   virtual void Default(const Field&) {}
   // A value without parts. Of a type that nobody knows the shape is kAny.
   virtual void Leaf(const Shape&, const Element&) {}
@@ -39,6 +39,11 @@ class ShapeVisitor {
  protected:
   ~ShapeVisitor() = default;
 };
+
+// The default of a field as the value that it stands for.
+inline Element DefaultOf(const Field& field) {
+  return {IdentifierOf(*field.shape), {&field.fallback, 1}, {}};
+}
 
 // Reads one value that is the whole of `der`. The visitor may be null.
 bool ReadByShape(const Shape& shape, ByteView der, Leniency leniency, ShapeVisitor* visitor,

@@ -51,6 +51,7 @@ class Filler final : public ShapeVisitor {
   bool BeginList(const Shape&) override { return false; }
   void EndList(const Shape& shape, ByteView content, size_t count) override;
   bool BeginField(const Field& field, ByteView bytes) override;
+  void Default(const Field& field) override;
   void Leaf(const Shape& shape, const Element& element) override;
 
  private:
@@ -70,6 +71,13 @@ bool Filler::BeginField(const Field& field, ByteView bytes) {
   if (field.shape->kind != ShapeKind::kOpen) return true;
   Store(Octets(bytes), place_);
   return false;
+}
+
+// Zeros stand there already.
+void Filler::Default(const Field& field) {
+  if (field.fallback == 0 || field.place == kNoMember) return;
+  place_ = base_ + field.place;
+  Leaf(*field.shape, DefaultOf(field));
 }
 
 void Filler::EndList(const Shape& shape, ByteView content, size_t count) {
@@ -102,7 +110,7 @@ void Filler::Leaf(const Shape& shape, const Element& element) {
     case ShapeKind::kTlsTime:
       return Store(TlsNumber(content), place_);
     case ShapeKind::kNull:
-      return;
+      return Store(int32_t{1}, place_);
     case ShapeKind::kGeneralName:
     case ShapeKind::kSubtreeBase:
     case ShapeKind::kAny:

@@ -6,6 +6,7 @@
 #include "strict/extensions/moment.h"
 #include "strict/extensions/name_text.h"
 #include "strict/extensions/oid_names.h"
+#include "strict/extensions/resource_text.h"
 #include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_reader.h"
 
@@ -29,7 +30,7 @@ class JsonVisitor final : public ShapeVisitor {
   }
   void Default(const Field& field) override {
     json_.Member(field.name);
-    json_.Literal(field.shape->kind == ShapeKind::kBoolean ? "false" : "0");
+    Leaf(*field.shape, DefaultOf(field));
   }
   void Leaf(const Shape& shape, const Element& element) override;
 
@@ -41,6 +42,8 @@ class JsonVisitor final : public ShapeVisitor {
   void PutKind(uint8_t identifier, const Element& element);
   void PutName(const Element& element, bool hasMask);
   void PutRdn(ByteView content);
+  void PutFamily(ByteView content);
+  void PutAddress(const Shape& shape, const Element& element);
   void PutOctets(ByteView bytes) {
     json_.Begin('{');
     json_.HexMember("octets", bytes);
@@ -58,6 +61,7 @@ class JsonVisitor final : public ShapeVisitor {
   }
 
   JsonOutput& json_;
+  ByteView family_;  // of the addresses that come
 };
 
 void JsonVisitor::Leaf(const Shape& shape, const Element& element) {
@@ -74,6 +78,10 @@ void JsonVisitor::Leaf(const Shape& shape, const Element& element) {
       return PutNamed(shape, content);
     case ShapeKind::kBits:
       return PutBits(shape, content);
+    case ShapeKind::kAddressFamily:
+      return PutFamily(content);
+    case ShapeKind::kAddress:
+      return PutAddress(shape, element);
     case ShapeKind::kOid:
       return PutText([content](Output* out) { PutIdentifierName(content, out); });
     case ShapeKind::kUtcTime:
@@ -159,6 +167,17 @@ void JsonVisitor::PutRdn(ByteView content) {
   const std::string text = TextOfRdn(content);
   json_.Begin('{');
   PutTextOrBoth(text, RdnComesBack(text, content), content);
+}
+
+void JsonVisitor::PutFamily(ByteView content) {
+  family_ = content;
+  if (AddressSizeOf(content) == 0) return json_.Hex(content);
+  PutText([content](Output* out) { PutFamilyText(content, out); });
+}
+
+void JsonVisitor::PutAddress(const Shape& shape, const Element& element) {
+  if (!AddressComesBack(shape.number, family_, element.content)) return PutOctets(element.bytes);
+  PutText([&](Output* out) { PutAddressText(shape.number, family_, element.content, out); });
 }
 
 }  // namespace

@@ -29,6 +29,9 @@ class Writer {
         return PutOpen(shape, json);
       case ShapeKind::kAny:
         return PutAny(json);
+      case ShapeKind::kAddress:
+        if (IsOctetsAlone(json)) return PutOctets(shape, json);
+        break;
       case ShapeKind::kGeneralName:
       case ShapeKind::kSubtreeBase:
         return PutElement(NameOfJson(shape, json, &leaf_, refusal_));
@@ -66,6 +69,8 @@ class Writer {
         return PutList(shape, json);
       case ShapeKind::kTlsOctets:
         return PutTls(*shape.element, json);
+      case ShapeKind::kAddress:
+        return PutElement(AddressOfJson(shape, family_, json, &leaf_, refusal_));
       default:
         return PutElement(LeafOfJson(shape, json, &leaf_, refusal_));
     }
@@ -73,7 +78,7 @@ class Writer {
 
   bool PutFields(const Shape& shape, const JsonValue& json) {
     std::vector<const JsonValue*> values(shape.fields.count);
-    if (!Take(shape, json, &values) || !FindOid(shape, values)) return false;
+    if (!Take(shape, json, &values) || !FindKeys(shape, values)) return false;
     const std::string oid = last_oid_;
     for (size_t i = shape.fields.count; i-- != 0;) {
       const Field& field = shape.fields.first[i];
@@ -89,12 +94,15 @@ class Writer {
     return TakeMembers(json, names.data(), names.size(), values->data(), refusal_);
   }
 
-  // Which type stands in an open field is told by the identifier beside it.
-  bool FindOid(const Shape& shape, const std::vector<const JsonValue*>& values) {
+  // Which type stands in an open field is told by the identifier beside it, what addresses are by
+  // their family.
+  bool FindKeys(const Shape& shape, const std::vector<const JsonValue*>& values) {
     for (size_t i = 0; i < values.size(); ++i) {
       const Shape& part = *shape.fields.first[i].shape;
-      if (part.kind == ShapeKind::kOid && values[i] != nullptr &&
-          !LeafOfJson(part, *values[i], &last_oid_, refusal_)) {
+      std::string* const key = part.kind == ShapeKind::kOid             ? &last_oid_
+                               : part.kind == ShapeKind::kAddressFamily ? &family_
+                                                                        : nullptr;
+      if (key != nullptr && values[i] != nullptr && !LeafOfJson(part, *values[i], key, refusal_)) {
         return false;
       }
     }
@@ -106,7 +114,7 @@ class Writer {
   }
 
   bool PutField(const Field& field, const JsonValue& json) {
-    if (field.presence >= Presence::kDefault && IsDefault(*field.shape, json)) return true;
+    if (field.presence >= Presence::kDefault && IsDefault(field, json)) return true;
     if (field.tagging == Tagging::kNone) return Put(*field.shape, json);
     if (field.tagging == Tagging::kImplicit) return Put(*field.shape, json, IdentifierOf(field));
     const size_t end = out_->size();
@@ -116,10 +124,9 @@ class Writer {
   }
 
   // X.690 11.5: a default value is left out.
-  static bool IsDefault(const Shape& shape, const JsonValue& json) {
-    int64_t number = 0;
-    return shape.kind == ShapeKind::kBoolean ? json.form == JsonForm::kFalse
-                                             : json.IsInteger(&number) && number == 0;
+  bool IsDefault(const Field& field, const JsonValue& json) {
+    return LeafOfJson(*field.shape, json, &leaf_, nullptr) && leaf_.size() == 1 &&
+           static_cast<uint8_t>(leaf_[0]) == field.fallback;
   }
 
   bool PutChoice(const Shape& shape, const JsonValue& json) {
@@ -229,6 +236,7 @@ class Writer {
   Refusal* refusal_;
   std::string leaf_;
   std::string last_oid_;
+  std::string family_;
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "strict/extensions/moment.h"
 #include "strict/extensions/name_text.h"
 #include "strict/extensions/oid_names.h"
+#include "strict/extensions/resource_text.h"
 #include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_reader.h"
 #include "strict/general_names/escaped_text.h"
@@ -58,6 +59,7 @@ class TextVisitor final : public ShapeVisitor {
   Output* out_;
   std::string_view label_;
   std::vector<size_t> outer_;  // blanks outside the parts that have begun
+  ByteView family_;            // of the addresses that come
   bool opens_ = false;         // the next value stands behind the label of its whole
 };
 
@@ -133,7 +135,7 @@ void PutLeaf(const Shape& shape, const Element& element, Output* out) {
     case ShapeKind::kBoolean:
       return out->Put(content[0] != 0 ? "yes" : "no");
     case ShapeKind::kNull:
-      return out->Put("present");
+      return out->Put(*shape.words != '\0' ? shape.words : "present");
     case ShapeKind::kInteger:
     case ShapeKind::kEnumerated: {
       const bool is_short = IsShortInteger(content, &number);
@@ -169,8 +171,22 @@ void PutLeaf(const Shape& shape, const Element& element, Output* out) {
   }
 }
 
+// What has no text as an address is shown as its bits.
+void PutAddressOrOctets(const Shape& shape, ByteView family, const Element& element, Output* out) {
+  const bool is_put = shape.kind == ShapeKind::kAddress
+                          ? PutAddressText(shape.number, family, element.content, out)
+                          : PutFamilyText(family, out);
+  if (!is_put) PutOctets(element.content, out);
+}
+
 void TextVisitor::Leaf(const Shape& shape, const Element& element) {
-  PutLine(label_, TextOf([&shape, &element](Output* out) { PutLeaf(shape, element, out); }));
+  const bool is_family = shape.kind == ShapeKind::kAddressFamily;
+  if (is_family) family_ = element.content;
+  const bool is_resource = is_family || shape.kind == ShapeKind::kAddress;
+  PutLine(label_, TextOf([&](Output* out) {
+            is_resource ? PutAddressOrOctets(shape, family_, element, out)
+                        : PutLeaf(shape, element, out);
+          }));
   label_ = {};
   if (opens_) indent_ += kStep;
   opens_ = false;

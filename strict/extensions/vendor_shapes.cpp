@@ -1,6 +1,6 @@
 #include "strict/extensions/vendor_shapes.h"
 
-#include <ortholan/strict/extension_values.h>
+#include <ortholan/strict/extension_vendors.h>
 
 #include "strict/extensions/common_shapes.h"
 
@@ -21,8 +21,8 @@ static constexpr NumberName kEntrustFlags[] = {
 static constexpr Shape kEntrustTextShape = AsciiIn(kGeneralString);
 static constexpr Shape kEntrustFlagsShape = NamedBits(kEntrustFlags);
 static constexpr Field kEntrustFields[] = {
-    {"entrustVers", "version", &kEntrustTextShape, kNoMember},
-    {"entrustInfoFlags", "flags", &kEntrustFlagsShape, kNoMember},
+    {"entrustVers", "version", &kEntrustTextShape, offsetof(ortholan_entrust_version, version)},
+    {"entrustInfoFlags", "flags", &kEntrustFlagsShape, offsetof(ortholan_entrust_version, flags)},
 };
 const Shape kEntrustVersionShape = Sequence(kEntrustFields);
 
@@ -38,33 +38,41 @@ const Shape kCapabilitiesShape = SequenceOf(&kCapabilityShape);
 
 // RFC 3820 3.8
 static constexpr Field kProxyPolicyFields[] = {
-    {"policyLanguage", "", &kOidShape, kNoMember},
-    {"policy", "policy", &kOctetsShape, kNoMember, Presence::kOptional},
+    {"policyLanguage", "", &kOidShape, offsetof(ortholan_proxy_policy, language)},
+    {"policy", "policy", &kOctetsShape, offsetof(ortholan_proxy_policy, policy),
+     Presence::kOptional},
 };
 static constexpr Shape kProxyPolicyShape = Sequence(kProxyPolicyFields);
 static constexpr Field kProxyFields[] = {
-    {"pCPathLenConstraint", "path length", &kNumberShape, kNoMember, Presence::kOptional},
-    {"proxyPolicy", "language of the policy", &kProxyPolicyShape, kNoMember},
+    {"pCPathLenConstraint", "path length", &kNumberShape,
+     offsetof(ortholan_proxy_information, path_length), Presence::kOptional},
+    {"proxyPolicy", "language of the policy", &kProxyPolicyShape,
+     offsetof(ortholan_proxy_information, policy)},
 };
 const Shape kProxyInformationShape = Sequence(kProxyFields);
 
 // 1.2.643.100.112, tools of a signing authority
 static constexpr Field kToolFields[] = {
-    {"signTool", "signing tool", &kUtf8Shape, kNoMember},
-    {"cATool", "tool of the authority", &kUtf8Shape, kNoMember},
-    {"signToolCert", "certificate of the signing tool", &kUtf8Shape, kNoMember},
-    {"cAToolCert", "certificate of the authority's tool", &kUtf8Shape, kNoMember},
+    {"signTool", "signing tool", &kUtf8Shape, offsetof(ortholan_issuer_sign_tool, tool)},
+    {"cATool", "tool of the authority", &kUtf8Shape,
+     offsetof(ortholan_issuer_sign_tool, authority_tool)},
+    {"signToolCert", "certificate of the signing tool", &kUtf8Shape,
+     offsetof(ortholan_issuer_sign_tool, tool_certificate)},
+    {"cAToolCert", "certificate of the authority's tool", &kUtf8Shape,
+     offsetof(ortholan_issuer_sign_tool, authority_tool_certificate)},
 };
 const Shape kIssuerSignToolShape = Sequence(kToolFields);
 
 // 1.2.840.113583.1.1.9.1 and .2
 static constexpr Field kAdobeFields[] = {
-    {"version", "version", &kNumberShape, kNoMember},
-    {"location", "location", &kNameShape, kNoMember},
-    {"requiresAuth", "requires authentication", &kFlagShape, kNoMember, Presence::kDefault},
+    {"version", "version", &kNumberShape, offsetof(ortholan_adobe_timestamp, version)},
+    {"location", "location", &kNameShape, offsetof(ortholan_adobe_timestamp, location)},
+    {"requiresAuth", "requires authentication", &kFlagShape,
+     offsetof(ortholan_adobe_timestamp, needs_authentication), Presence::kDefault},
 };
 const Shape kAdobeTimestampShape = Sequence(kAdobeFields);
-static constexpr Field kArchiveFields[] = {{"version", "version", &kNumberShape, kNoMember}};
+static constexpr Field kArchiveFields[] = {
+    {"version", "version", &kNumberShape, offsetof(ortholan_adobe_archive, version)}};
 const Shape kAdobeArchiveShape = Sequence(kArchiveFields);
 
 }  // namespace Ortholan::strict

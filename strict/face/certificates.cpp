@@ -8,6 +8,7 @@
 #include "strict/certificates/extensions_writer.h"
 #include "strict/certificates/pem.h"
 #include "strict/certificates/time_text.h"
+#include "strict/der/known_oids.h"
 #include "strict/der/oid.h"
 #include "strict/face/call.h"
 
@@ -136,6 +137,27 @@ ortholan_reason ortholan_extensions_write(const ortholan_extension_view* extensi
     const ortholan_extension_view& each = extensions[i];
     PutExtension({View(each.oid), View(each.value), {}, each.critical != 0}, &der);
   }
+  der.PutHeader(kSequence, der.size());
+  return Finish(&der, size, refusal);
+}
+
+ortholan_reason ortholan_extension_request_write(ortholan_octets extensions, uint8_t* out,
+                                                 size_t room, size_t* size,
+                                                 ortholan_refusal* refusal) {
+  Clear(size, refusal);
+  if (!IsGiven(extensions) || !IsRoom(out, room)) {
+    return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
+  }
+  ExtensionsView list;
+  Refusal found;
+  if (!ExtensionsView::Read(View(extensions), Leniency::kDer, &list, &found)) {
+    return Report(found, extensions.data, refusal);
+  }
+  BackwardOutput der(out, room);
+  der.Put(View(extensions));
+  der.PutHeader(kSet, der.size());
+  der.Put(oids::kExtensionRequest.view());
+  der.PutHeader(kOid, oids::kExtensionRequest.view().size);
   der.PutHeader(kSequence, der.size());
   return Finish(&der, size, refusal);
 }

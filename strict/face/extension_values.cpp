@@ -4,11 +4,11 @@
 #include "strict/extensions/common_shapes.h"
 #include "strict/extensions/qualified_shapes.h"
 #include "strict/extensions/rfc5280_shapes.h"
-#include "strict/extensions/struct_reader.h"
+#include "strict/extensions/shape_reader.h"
 #include "strict/extensions/tls_shapes.h"
 #include "strict/extensions/vendor_shapes.h"
 #include "strict/extensions/windows_shapes.h"
-#include "strict/face/call.h"
+#include "strict/face/value_call.h"
 
 using namespace Ortholan;
 using namespace Ortholan::strict;
@@ -18,51 +18,6 @@ namespace {
 constexpr Shape kEnumeratedShape = {ShapeKind::kEnumerated};
 constexpr Shape kUtcTimeShape = {ShapeKind::kUtcTime};
 constexpr Shape kNumbersShape = SequenceOf(&kNumberShape);
-
-template <class Value>
-ortholan_reason Read(const Shape& shape, ortholan_octets value, int32_t mode, Value* out,
-                     ortholan_refusal* refusal) {
-  if (refusal != nullptr) *refusal = {};
-  if (out == nullptr) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
-  *out = {};
-  if (!IsGiven(value) || !IsMode(mode)) return Report(ORTHOLAN_REASON_ARGUMENT, refusal);
-  Refusal found;
-  if (ReadStruct(shape, View(value), static_cast<Leniency>(mode), out, &found)) {
-    return ORTHOLAN_REASON_NONE;
-  }
-  *out = {};
-  return Report(found, value.data, refusal);
-}
-
-// What of a list is still to come, where the arguments of a call are in order.
-template <class Value>
-ortholan_reason RestOf(const ortholan_list* list, const size_t* offset, Value* out,
-                       ByteView* rest) {
-  if (out != nullptr) *out = {};
-  if (list == nullptr || offset == nullptr || out == nullptr || !IsGiven(list->elements) ||
-      *offset > list->elements.size) {
-    return ORTHOLAN_REASON_ARGUMENT;
-  }
-  *rest = View(list->elements).From(*offset);
-  return rest->empty() ? ORTHOLAN_REASON_NOT_FOUND : ORTHOLAN_REASON_NONE;
-}
-
-// What was checked is read again by the widest rule.
-template <class Value>
-ortholan_reason Next(const Shape& shape, const ortholan_list* list, size_t* offset, Value* out) {
-  ByteView rest;
-  const ortholan_reason fault = RestOf(list, offset, out, &rest);
-  if (fault != ORTHOLAN_REASON_NONE) return fault;
-  Reader in(rest, Leniency::kLenient, nullptr);
-  Element element;
-  Value read = {};
-  if (!in.Read(&element) || !ReadStruct(shape, element.bytes, Leniency::kLenient, &read, nullptr)) {
-    return ORTHOLAN_REASON_ARGUMENT;
-  }
-  *offset += element.bytes.size;
-  *out = read;
-  return ORTHOLAN_REASON_NONE;
-}
 
 // Whether a value has the first octet of a type.
 bool Begins(ortholan_octets value, uint8_t identifier) {
@@ -283,6 +238,11 @@ ortholan_reason ortholan_integer_next(const ortholan_list* list, size_t* offset,
 ortholan_reason ortholan_string_next(const ortholan_list* list, size_t* offset,
                                      ortholan_string* string) {
   return Next(kAnyStringShape, list, offset, string);
+}
+
+ortholan_reason ortholan_element_next(const ortholan_list* list, size_t* offset,
+                                      ortholan_octets* element) {
+  return Next(kAnyShape, list, offset, element);
 }
 
 ortholan_reason ortholan_policy_next(const ortholan_list* policies, size_t* offset,

@@ -158,6 +158,12 @@ row "hidden characters" 0 '~      CN \(2\.5\.4\.3\) UTF8String: \\\\u001B\\u001B
 row "checked by lines" 0 $'certificate: nothing found\n' "" show --check --lines bmp.pem
 row "checked by lines, as JSON" 0 '~\{"kind":"revocationList","findings":\[\{"rule":"list-authority-key-id-missing".*' "" \
   show --check --lines --json list.pem
+# A CRL whose second entry is removed though the CRL is no delta.
+octets <<<"3081B43081A8020101300406022A03300D310B300906035504030C024341170D3236303130313030303030305A170D32\
+36303130313030303030305A30443020020101170D3236303130313030303030305A300C300A0603551D1504030A0107\
+3020020102170D3236303130313030303030305A300C300A0603551D1504030A0108A02A3028300C0603551D23040530\
+03800101300A0603551D140403020101300C0603551D1C0101FF04023000300406022A03030100" >entries.der
+row "finding in an entry" 1 '~  RFC 5280 5\.3\.1: serial number 02: Reason Code: removeFromCRL stands .*' "" show --check entries.der
 row "compared by lines" 2 "" "x509name: --diff does not go with --lines" show --diff --lines bmp.pem
 row "nothing differs" 0 "" "" show --diff printable.pem printable.der
 row "three to compare" 2 "" "x509name: --diff takes two documents, and there are 3 in the files" \

@@ -3,10 +3,12 @@
 
   strict_extensions.py DATA PROGRAM [ARG]...
 """
+import base64
 import json
 import pathlib
 import subprocess
 import sys
+import textwrap
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 
@@ -47,6 +49,10 @@ for row in rows[::8]:
                           capture_output=True, encoding="utf-8").stdout
     ask(row, "JSON and back", row["der"], ["make", "--value", row["oid"], "-"],
         json.dumps(json.loads(made)["content"]))
+for row in vectors.read("extension_requests.tsv"):
+    ask(row, "request", row["der"], ["make", "--request", "-"], row["json"])
+    lines = textwrap.wrap(base64.b64encode(bytes.fromhex(row["der"])).decode(), 64)
+    ask(row, "base64", "\n".join(lines), ["make", "--request", "--base64", "-"], row["json"])
 for row in vectors.read("strict_extension_json_errors.tsv")[::4]:
     kind = ["--value", row["type"]] if row["type"] else []
     ask(row, "refused", None, ["make", *kind, "-"], row["json"])

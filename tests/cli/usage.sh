@@ -42,6 +42,12 @@ row "codes where they are asked for" 1 "" \
 row "line end in a message" 1 "" 'x509name: decode: cannot open x\\u000Ay: .*' decode $'x\ny'
 stdin_file=number
 printf '3000' >number
+row "request of a value" 2 "" "x509name: --request does not go with --value" \
+  make --request --value keyUsage '[]'
+row "request of one extension" 1 "" "x509name: make: a request has a list of extensions.*" \
+  make --request '{"name":"keyUsage","value":[]}'
+row "base64 into a file" 2 "" "x509name: --base64 does not go with --out" \
+  make --base64 --out result/x '[]'
 row "standard input named twice" 2 "" "x509name: standard input can be named once" equal - -
 stdin_file=
 row "result that cannot be decoded" 1 "" 'x509name: decode: .*' decode --json 04

@@ -19,7 +19,7 @@ namespace Ortholan
         /// <summary>"path-length-without-ca"; stays the same.</summary>
         public string Rule { get; }
 
-        /// <summary>Of RFC 5280: "4.2.1.9".</summary>
+        /// <summary>Of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6".</summary>
         public string Section { get; }
 
         /// <summary>What is wrong, without a full stop; may change.</summary>

@@ -522,6 +522,180 @@ namespace Ortholan.Native
     }
 
     [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Algorithm
+    {
+        public Octets oid;
+        public Octets parameters;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Hash
+    {
+        public Algorithm algorithm;
+        public Octets value;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Logotype
+    {
+        public List images;
+        public List audio;
+        public List reference_hashes;
+        public List reference_uris;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct Logotypes
+    {
+        public List communities;
+        public Logotype issuer;
+        public Logotype subject;
+        public List others;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct OtherLogotype
+    {
+        public Octets type;
+        public Logotype logotype;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeFile
+    {
+        public String media_type;
+        public List hashes;
+        public List uris;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeImageInformation
+    {
+        public Integer type;
+        public Integer file_size;
+        public Integer width;
+        public Integer height;
+        public Integer bits;
+        public Integer table_size;
+        public String language;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeImage
+    {
+        public LogotypeFile file;
+        public LogotypeImageInformation information;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeAudioInformation
+    {
+        public Integer file_size;
+        public Integer play_time;
+        public Integer channels;
+        public Integer sample_rate;
+        public String language;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct LogotypeAudio
+    {
+        public LogotypeFile file;
+        public LogotypeAudioInformation information;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct BiometricData
+    {
+        public Integer type;
+        public Octets oid;
+        public Algorithm hash_algorithm;
+        public Octets hash;
+        public String uri;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AddressFamily
+    {
+        public Octets family;
+        public List ranges;
+        public int is_inherited;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AddressRange
+    {
+        public Octets prefix;
+        public Octets first;
+        public Octets last;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AutonomousSystemList
+    {
+        public List systems;
+        public int is_inherited;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AutonomousSystems
+    {
+        public AutonomousSystemList numbers;
+        public AutonomousSystemList routing_domains;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AutonomousSystem
+    {
+        public Integer first;
+        public Integer last;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct EntrustVersion
+    {
+        public Octets version;
+        public Bits flags;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ProxyPolicy
+    {
+        public Octets language;
+        public Octets policy;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct ProxyInformation
+    {
+        public Integer path_length;
+        public ProxyPolicy policy;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct IssuerSignTool
+    {
+        public String tool;
+        public String authority_tool;
+        public String tool_certificate;
+        public String authority_tool_certificate;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AdobeTimestamp
+    {
+        public Integer version;
+        public Octets location;
+        public int needs_authentication;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal unsafe struct AdobeArchive
+    {
+        public Integer version;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
     internal unsafe struct ExtensionType
     {
         public Octets oid;
@@ -745,6 +919,12 @@ namespace Ortholan.Native
         public const int ORTHOLAN_CRL_CERTIFICATE_HOLD = 64;
         public const int ORTHOLAN_CRL_PRIVILEGE_WITHDRAWN = 128;
         public const int ORTHOLAN_CRL_AA_COMPROMISE = 256;
+        public const int ORTHOLAN_ENTRUST_KEY_UPDATE_ALLOWED = 1;
+        public const int ORTHOLAN_ENTRUST_NEW_EXTENSIONS = 2;
+        public const int ORTHOLAN_ENTRUST_PKIX_CERTIFICATE = 4;
+        public const int ORTHOLAN_ENTRUST_ENTERPRISE_CATEGORY = 8;
+        public const int ORTHOLAN_ENTRUST_WEB_CATEGORY = 16;
+        public const int ORTHOLAN_ENTRUST_SET_CATEGORY = 32;
         public const int ORTHOLAN_REASON_EXTENSION_TYPE = 400;
         public const int ORTHOLAN_REASON_TLS_SIZE = 401;
         public const int ORTHOLAN_REASON_JSON = 402;
@@ -837,6 +1017,9 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_extensions_write(ExtensionView* extensions, UIntPtr count, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_extension_request_write(Octets extensions, byte* @out, UIntPtr room, UIntPtr* size, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_time_to_text(Octets time, byte* @out, UIntPtr room, UIntPtr* size);
@@ -980,6 +1163,9 @@ namespace Ortholan.Native
         public static extern int ortholan_string_next(List* list, UIntPtr* offset, String* @string);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_element_next(List* list, UIntPtr* offset, Octets* element);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_integer_read(Octets value, int mode, Integer* number, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -1107,6 +1293,63 @@ namespace Ortholan.Native
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_capability_next(List* capabilities, UIntPtr* offset, Capability* capability);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotypes_read(Octets value, int mode, Logotypes* logotypes, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotype_next(List* logotypes, UIntPtr* offset, Logotype* logotype);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_other_logotype_next(List* logotypes, UIntPtr* offset, OtherLogotype* logotype);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotype_image_next(List* images, UIntPtr* offset, LogotypeImage* image);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_logotype_audio_next(List* audio, UIntPtr* offset, LogotypeAudio* recording);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_hash_next(List* hashes, UIntPtr* offset, Hash* hash);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_biometric_information_read(Octets value, int mode, List* data, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_biometric_data_next(List* list, UIntPtr* offset, BiometricData* data);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_families_read(Octets value, int mode, List* families, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_family_next(List* families, UIntPtr* offset, AddressFamily* family);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_range_next(List* ranges, UIntPtr* offset, AddressRange* range);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_address_range_ends(Octets family, AddressRange* range, byte* first, byte* last, UIntPtr* size);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_autonomous_systems_read(Octets value, int mode, AutonomousSystems* systems, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_autonomous_system_next(List* systems, UIntPtr* offset, AutonomousSystem* system);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_entrust_version_read(Octets value, int mode, EntrustVersion* version, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_proxy_information_read(Octets value, int mode, ProxyInformation* information, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_issuer_sign_tool_read(Octets value, int mode, IssuerSignTool* tools, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_adobe_timestamp_read(Octets value, int mode, AdobeTimestamp* timestamp, Refusal* refusal);
+
+        [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
+        public static extern int ortholan_adobe_archive_read(Octets value, int mode, AdobeArchive* archive, Refusal* refusal);
 
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ortholan_extension_type_at(UIntPtr index, ExtensionType* type);

@@ -193,7 +193,7 @@ export function parseCertificates(input: Input, options?: ReadOptions): Certific
 export interface Fault {
   /** "path-length-without-ca": stays the same. */
   readonly rule: string;
-  /** Of RFC 5280. */
+  /** Of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6". */
   readonly section: string;
   /** One English sentence without a full stop. */
   readonly sentence: string;

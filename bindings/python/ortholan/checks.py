@@ -25,7 +25,7 @@ class Fault:
 
     Attributes:
         rule: name of the rule, "path-length-without-ca", which stays the same.
-        section: of RFC 5280, "4.2.1.9".
+        section: of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6".
         sentence: what is wrong, without a full stop.
         extension: dotted identifier of the extension that it is about, be it missing, or "".
         part: the name, attribute, extension or general name that is wrong; empty for a missing one.
@@ -40,7 +40,8 @@ class Fault:
     refusal: Refusal | None
 
     def __str__(self) -> str:
-        return f"{self.sentence} (RFC 5280 {self.section})"
+        source = self.section if self.section.startswith("RFC") else f"RFC 5280 {self.section}"
+        return f"{self.sentence} ({source})"
 
 
 def _fault(found: Any) -> Fault:

@@ -114,7 +114,7 @@ function fault(each, showOctet) {
   const show = each.offset === undefined ? null : h("button", { type: "button", class: "copy",
     "aria-label": `Show the octets at ${each.offset}`, click: () => showOctet(each.offset) }, "Show");
   return h("li", null, `${about}${each.sentence}`, each.refusal === null ? "" : ` (${each.refusal})`,
-    each.section === "" ? null : h("span", { class: "quiet" }, ` RFC 5280 ${each.section}`), show);
+    each.section === "" ? null : h("span", { class: "quiet" }, ` ${each.section.startsWith("RFC") ? "" : "RFC 5280 "}${each.section}`), show);
 }
 
 function faults(certificate, showOctet) {

@@ -79,6 +79,13 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_extensions_write(const ortholan_extensi
                                                           size_t count, uint8_t* out, size_t room,
                                                           size_t* size, ortholan_refusal* refusal);
 
+// The attribute extensionRequest of a certificate request around such a list (RFC 2985 5.4.2):
+// SEQUENCE { 1.2.840.113549.1.9.14, SET { extensions } }. Refuses what is no list in DER.
+ORTHOLAN_EXPORT ortholan_reason ortholan_extension_request_write(ortholan_octets extensions,
+                                                                 uint8_t* out, size_t room,
+                                                                 size_t* size,
+                                                                 ortholan_refusal* refusal);
+
 // A time, a whole element, as "2026-11-21T22:05:00Z". Refuses TIME.
 ORTHOLAN_EXPORT ortholan_reason ortholan_time_to_text(ortholan_octets time, char* out, size_t room,
                                                       size_t* size);

@@ -61,6 +61,17 @@ inline Result<std::vector<uint8_t>> WriteExtensions(const std::vector<Extension>
       });
 }
 
+// The attribute extensionRequest of a certificate request around such a list in DER.
+inline Result<std::vector<uint8_t>> WriteExtensionRequest(Octets extensions) {
+  std::vector<uint8_t> der;
+  Refusal refusal;
+  const ortholan_reason reason = WithRoom(&der, [&](uint8_t* out, size_t room, size_t* size) {
+    return ortholan_extension_request_write(extensions, out, room, size, &refusal);
+  });
+  if (reason != ORTHOLAN_REASON_NONE) return refusal;
+  return der;
+}
+
 // A certificate, a request or a CRL over borrowed octets.
 class Certificate {
  public:

@@ -1,7 +1,7 @@
 // What RFC 5280 forbids in names and extensions, in C++.
 //
 //   for (const ortholan::Fault& fault : ortholan::Check(der).value()) {
-//     std::cout << fault.sentence << " (RFC 5280 " << fault.section << ")\n";
+//     std::cout << fault.sentence << " (" << fault.section << ")\n";
 //   }
 #ifndef ORTHOLAN_STRICT_CHECK_HPP_
 #define ORTHOLAN_STRICT_CHECK_HPP_

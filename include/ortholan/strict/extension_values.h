@@ -66,6 +66,10 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_integer_next(const ortholan_list* list,
 ORTHOLAN_EXPORT ortholan_reason ortholan_string_next(const ortholan_list* list, size_t* offset,
                                                      ortholan_string* string);
 
+// The next element of a list, whatever it is, whole.
+ORTHOLAN_EXPORT ortholan_reason ortholan_element_next(const ortholan_list* list, size_t* offset,
+                                                      ortholan_octets* element);
+
 // Values of one part: a number (cRLNumber, deltaCRLIndicator, inhibitAnyPolicy, cAVersion,
 // reasonCode), octets (subjectKeyIdentifier, previousCACertHash), a string (netscapeComment,
 // certificateTemplateName), a time (invalidityDate, archiveCutoff), nothing (precertificatePoison,
@@ -285,14 +289,14 @@ ORTHOLAN_EXPORT ortholan_reason ortholan_access_description_next(
 // subjectDirectoryAttributes (RFC 5280 4.2.1.8)
 typedef struct ortholan_directory_attribute {
   ortholan_octets type;  // content octets of an identifier
-  ortholan_list values;  // elements of any type
+  ortholan_list values;  // of any type, for ortholan_element_next
 } ortholan_directory_attribute;
 // Reads subjectDirectoryAttributes.
 ORTHOLAN_EXPORT ortholan_reason ortholan_directory_attributes_read(ortholan_octets value,
                                                                    int32_t mode,
                                                                    ortholan_list* attributes,
                                                                    ortholan_refusal* refusal);
-// The next attribute, whose values are elements one behind the other.
+// The next attribute.
 ORTHOLAN_EXPORT ortholan_reason ortholan_directory_attribute_next(
     const ortholan_list* attributes, size_t* offset, ortholan_directory_attribute* attribute);
 

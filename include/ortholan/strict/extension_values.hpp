@@ -34,6 +34,15 @@ inline std::optional<int64_t> ToNumber(const ortholan_integer& number) {
   return number.value;
 }
 
+inline std::vector<int64_t> ToNumbers(const ortholan_list& list) {
+  std::vector<int64_t> numbers;
+  ortholan_integer number;
+  for (size_t at = 0; ortholan_integer_next(&list, &at, &number) == ORTHOLAN_REASON_NONE;) {
+    numbers.push_back(number.value);
+  }
+  return numbers;
+}
+
 inline std::optional<uint32_t> ToFlags(const ortholan_bits& bits) {
   if (bits.content.data == nullptr) return std::nullopt;
   return bits.flags;
@@ -51,6 +60,15 @@ inline std::string StringText(const ortholan_string& string) {
     return ortholan_extension_string_text(&string, out, room, size);
   });
   return text;
+}
+
+inline std::vector<std::string> StringTexts(const ortholan_list& list) {
+  std::vector<std::string> texts;
+  ortholan_string string;
+  for (size_t at = 0; ortholan_string_next(&list, &at, &string) == ORTHOLAN_REASON_NONE;) {
+    texts.push_back(StringText(string));
+  }
+  return texts;
 }
 
 // The values of a list, made one by one.
@@ -114,6 +132,27 @@ inline Result<Octets> ReadOctetString(Octets value, Reading reading = Reading::k
   return detail::ReadValue<Octets, ortholan_octets>(value, reading, ortholan_octet_string_read);
 }
 
+// netscapeComment, certificateTemplateName, subjectSignTool, in UTF-8.
+inline Result<std::string> ReadString(Octets value, Reading reading = Reading::kDer) {
+  const auto string = detail::ReadPlain<ortholan_string>(value, reading, ortholan_string_read);
+  if (!string) return string.refusal();
+  return detail::StringText(*string);
+}
+
+// invalidityDate, archiveCutoff, expiredCertsOnCRL, cRLNextPublish: seconds since 1970.
+inline Result<int64_t> ReadMoment(Octets value, Reading reading = Reading::kDer) {
+  const auto moment = detail::ReadPlain<ortholan_moment>(value, reading, ortholan_moment_read);
+  if (!moment) return moment.refusal();
+  return moment->seconds;
+}
+
+// tlsFeature.
+inline Result<std::vector<int64_t>> ReadIntegers(Octets value, Reading reading = Reading::kDer) {
+  const auto list = detail::ReadPlain<ortholan_list>(value, reading, ortholan_integers_read);
+  if (!list) return list.refusal();
+  return detail::ToNumbers(*list);
+}
+
 // keyUsage: ORTHOLAN_KEY_USAGE_ flags.
 inline Result<uint32_t> ReadFlags(Octets value, Reading reading = Reading::kDer) {
   const auto bits = detail::ReadPlain<ortholan_bits>(value, reading, ortholan_bits_read);
@@ -157,12 +196,8 @@ struct UserNotice : detail::Readable<UserNotice, ortholan_user_notice_read> {
 
   explicit UserNotice(const ortholan_user_notice& plain)
       : organization(detail::StringText(plain.reference.organization)),
-        text(detail::StringText(plain.text)) {
-    ortholan_integer number;
-    for (size_t at = 0; ortholan_integer_next(&plain.reference.numbers, &at, &number) == 0;) {
-      numbers.push_back(number.value);
-    }
-  }
+        numbers(detail::ToNumbers(plain.reference.numbers)),
+        text(detail::StringText(plain.text)) {}
 };
 
 struct PolicyQualifier {
@@ -324,6 +359,25 @@ using QcStatements = ValueList<QcStatement, ortholan_qc_statement, ortholan_qc_s
 inline Result<QcStatements> ReadQcStatements(Octets value, Reading reading = Reading::kDer) {
   return detail::ReadValue<QcStatements, ortholan_list>(value, reading,
                                                         ortholan_qc_statements_read);
+}
+
+// Elements of any type, whole.
+using Elements = ValueList<Octets, ortholan_octets, ortholan_element_next>;
+
+struct DirectoryAttribute {
+  Octets type;      // content octets of an identifier
+  Elements values;  // of any type
+
+  explicit DirectoryAttribute(const ortholan_directory_attribute& plain)
+      : type(plain.type), values(plain.values) {}
+};
+using DirectoryAttributes =
+    ValueList<DirectoryAttribute, ortholan_directory_attribute, ortholan_directory_attribute_next>;
+// subjectDirectoryAttributes.
+inline Result<DirectoryAttributes> ReadDirectoryAttributes(Octets value,
+                                                           Reading reading = Reading::kDer) {
+  return detail::ReadValue<DirectoryAttributes, ortholan_list>(value, reading,
+                                                               ortholan_directory_attributes_read);
 }
 
 struct OrganizationIdentifier

@@ -116,6 +116,16 @@ TEST(ExtensionJson, HasWholeLists) {
   EXPECT_EQ(ReasonName(ExtensionsJson(std::string("\x30\x00", 2)).refusal().reason), "TRUNCATED");
 }
 
+TEST(ExtensionRequests, AreWritten) {
+  for (const VectorRow& row : ReadVectors("extension_requests.tsv")) {
+    SCOPED_TRACE(row.where());
+    const auto list = ExtensionsFromJson(row.text("json")).value();
+    EXPECT_EQ(OctetsOf(ortholan::WriteExtensionRequest(list).value()), row.octets("der"));
+    const auto refused = ortholan::WriteExtensionRequest({list.data(), list.size() - 1});
+    EXPECT_EQ(ReasonName(refused.refusal().reason), "TRUNCATED");
+  }
+}
+
 TEST(ExtensionTypes, AreFoundByNameAndIdentifier) {
   const std::vector<ortholan::ExtensionType> known = ortholan::KnownExtensions();
   EXPECT_GE(known.size(), 61u);

@@ -166,6 +166,17 @@ TEST(ExtensionText, IsPlainAndSafe) {
        R"([{"policyIdentifier":"anyPolicy",
             "policyQualifiers":[{"policyQualifierId":"cps","qualifier":"x"}]}])",
        "  policy: anyPolicy\n    qualifiers:\n      qualifier: cps\n        value: x\n"},
+      {"ipAddrBlocks",
+       R"([{"addressFamily":"IPv4 SAFI 1","ipAddressChoice":{"addressesOrRanges":[
+            {"addressPrefix":"10.0.0.0/8"},
+            {"addressRange":{"min":{"octets":"0305000B000000"},"max":"11.0.0.2"}}]}},
+           {"addressFamily":"0019","ipAddressChoice":{"addressesOrRanges":[
+            {"addressPrefix":{"octets":"03020780"}}]}},
+           {"addressFamily":"IPv6","ipAddressChoice":{"inherit":null}}])",
+       "  addresses: IPv4 SAFI 1\n    prefix: 10.0.0.0/8\n    range:\n      first: 11.0.0.0\n"
+       "      last: 11.0.0.2\n  addresses: #0019\n    prefix: #0780\n"
+       "  addresses: IPv6\n    inherited\n"},
+      {"autonomousSysIds", R"({"rdi":{"inherit":null}})", "  routing domains: inherited\n"},
   };
   for (const auto& row : kRows) {
     SCOPED_TRACE(row.json);

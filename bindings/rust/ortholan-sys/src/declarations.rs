@@ -163,6 +163,12 @@ pub const ORTHOLAN_CRL_CESSATION_OF_OPERATION: i32 = 32;
 pub const ORTHOLAN_CRL_CERTIFICATE_HOLD: i32 = 64;
 pub const ORTHOLAN_CRL_PRIVILEGE_WITHDRAWN: i32 = 128;
 pub const ORTHOLAN_CRL_AA_COMPROMISE: i32 = 256;
+pub const ORTHOLAN_ENTRUST_KEY_UPDATE_ALLOWED: i32 = 1;
+pub const ORTHOLAN_ENTRUST_NEW_EXTENSIONS: i32 = 2;
+pub const ORTHOLAN_ENTRUST_PKIX_CERTIFICATE: i32 = 4;
+pub const ORTHOLAN_ENTRUST_ENTERPRISE_CATEGORY: i32 = 8;
+pub const ORTHOLAN_ENTRUST_WEB_CATEGORY: i32 = 16;
+pub const ORTHOLAN_ENTRUST_SET_CATEGORY: i32 = 32;
 pub const ORTHOLAN_REASON_EXTENSION_TYPE: i32 = 400;
 pub const ORTHOLAN_REASON_TLS_SIZE: i32 = 401;
 pub const ORTHOLAN_REASON_JSON: i32 = 402;
@@ -730,6 +736,180 @@ pub struct ortholan_capability {
 
 #[repr(C)]
 #[derive(Clone, Copy, Debug)]
+pub struct ortholan_algorithm {
+    pub oid: ortholan_octets,
+    pub parameters: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_hash {
+    pub algorithm: ortholan_algorithm,
+    pub value: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype {
+    pub images: ortholan_list,
+    pub audio: ortholan_list,
+    pub reference_hashes: ortholan_list,
+    pub reference_uris: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotypes {
+    pub communities: ortholan_list,
+    pub issuer: ortholan_logotype,
+    pub subject: ortholan_logotype,
+    pub others: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_other_logotype {
+    pub r#type: ortholan_octets,
+    pub logotype: ortholan_logotype,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_file {
+    pub media_type: ortholan_string,
+    pub hashes: ortholan_list,
+    pub uris: ortholan_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_image_information {
+    pub r#type: ortholan_integer,
+    pub file_size: ortholan_integer,
+    pub width: ortholan_integer,
+    pub height: ortholan_integer,
+    pub bits: ortholan_integer,
+    pub table_size: ortholan_integer,
+    pub language: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_image {
+    pub file: ortholan_logotype_file,
+    pub information: ortholan_logotype_image_information,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_audio_information {
+    pub file_size: ortholan_integer,
+    pub play_time: ortholan_integer,
+    pub channels: ortholan_integer,
+    pub sample_rate: ortholan_integer,
+    pub language: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_logotype_audio {
+    pub file: ortholan_logotype_file,
+    pub information: ortholan_logotype_audio_information,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_biometric_data {
+    pub r#type: ortholan_integer,
+    pub oid: ortholan_octets,
+    pub hash_algorithm: ortholan_algorithm,
+    pub hash: ortholan_octets,
+    pub uri: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_address_family {
+    pub family: ortholan_octets,
+    pub ranges: ortholan_list,
+    pub is_inherited: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_address_range {
+    pub prefix: ortholan_octets,
+    pub first: ortholan_octets,
+    pub last: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_autonomous_system_list {
+    pub systems: ortholan_list,
+    pub is_inherited: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_autonomous_systems {
+    pub numbers: ortholan_autonomous_system_list,
+    pub routing_domains: ortholan_autonomous_system_list,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_autonomous_system {
+    pub first: ortholan_integer,
+    pub last: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_entrust_version {
+    pub version: ortholan_octets,
+    pub flags: ortholan_bits,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_proxy_policy {
+    pub language: ortholan_octets,
+    pub policy: ortholan_octets,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_proxy_information {
+    pub path_length: ortholan_integer,
+    pub policy: ortholan_proxy_policy,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_issuer_sign_tool {
+    pub tool: ortholan_string,
+    pub authority_tool: ortholan_string,
+    pub tool_certificate: ortholan_string,
+    pub authority_tool_certificate: ortholan_string,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_adobe_timestamp {
+    pub version: ortholan_integer,
+    pub location: ortholan_octets,
+    pub needs_authentication: i32,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
+pub struct ortholan_adobe_archive {
+    pub version: ortholan_integer,
+}
+
+#[repr(C)]
+#[derive(Clone, Copy, Debug)]
 pub struct ortholan_extension_type {
     pub oid: ortholan_octets,
     pub name: *const c_char,
@@ -857,6 +1037,13 @@ extern "C" {
     pub fn ortholan_extensions_write(
         extensions: *const ortholan_extension_view,
         count: usize,
+        out: *mut u8,
+        room: usize,
+        size: *mut usize,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_extension_request_write(
+        extensions: ortholan_octets,
         out: *mut u8,
         room: usize,
         size: *mut usize,
@@ -1165,6 +1352,11 @@ extern "C" {
         offset: *mut usize,
         string: *mut ortholan_string,
     ) -> ortholan_reason;
+    pub fn ortholan_element_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        element: *mut ortholan_octets,
+    ) -> ortholan_reason;
     pub fn ortholan_integer_read(
         value: ortholan_octets,
         mode: i32,
@@ -1409,6 +1601,112 @@ extern "C" {
         capabilities: *const ortholan_list,
         offset: *mut usize,
         capability: *mut ortholan_capability,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotypes_read(
+        value: ortholan_octets,
+        mode: i32,
+        logotypes: *mut ortholan_logotypes,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotype_next(
+        logotypes: *const ortholan_list,
+        offset: *mut usize,
+        logotype: *mut ortholan_logotype,
+    ) -> ortholan_reason;
+    pub fn ortholan_other_logotype_next(
+        logotypes: *const ortholan_list,
+        offset: *mut usize,
+        logotype: *mut ortholan_other_logotype,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotype_image_next(
+        images: *const ortholan_list,
+        offset: *mut usize,
+        image: *mut ortholan_logotype_image,
+    ) -> ortholan_reason;
+    pub fn ortholan_logotype_audio_next(
+        audio: *const ortholan_list,
+        offset: *mut usize,
+        recording: *mut ortholan_logotype_audio,
+    ) -> ortholan_reason;
+    pub fn ortholan_hash_next(
+        hashes: *const ortholan_list,
+        offset: *mut usize,
+        hash: *mut ortholan_hash,
+    ) -> ortholan_reason;
+    pub fn ortholan_biometric_information_read(
+        value: ortholan_octets,
+        mode: i32,
+        data: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_biometric_data_next(
+        list: *const ortholan_list,
+        offset: *mut usize,
+        data: *mut ortholan_biometric_data,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_families_read(
+        value: ortholan_octets,
+        mode: i32,
+        families: *mut ortholan_list,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_family_next(
+        families: *const ortholan_list,
+        offset: *mut usize,
+        family: *mut ortholan_address_family,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_range_next(
+        ranges: *const ortholan_list,
+        offset: *mut usize,
+        range: *mut ortholan_address_range,
+    ) -> ortholan_reason;
+    pub fn ortholan_address_range_ends(
+        family: ortholan_octets,
+        range: *const ortholan_address_range,
+        first: *mut u8,
+        last: *mut u8,
+        size: *mut usize,
+    ) -> ortholan_reason;
+    pub fn ortholan_autonomous_systems_read(
+        value: ortholan_octets,
+        mode: i32,
+        systems: *mut ortholan_autonomous_systems,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_autonomous_system_next(
+        systems: *const ortholan_list,
+        offset: *mut usize,
+        system: *mut ortholan_autonomous_system,
+    ) -> ortholan_reason;
+    pub fn ortholan_entrust_version_read(
+        value: ortholan_octets,
+        mode: i32,
+        version: *mut ortholan_entrust_version,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_proxy_information_read(
+        value: ortholan_octets,
+        mode: i32,
+        information: *mut ortholan_proxy_information,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_issuer_sign_tool_read(
+        value: ortholan_octets,
+        mode: i32,
+        tools: *mut ortholan_issuer_sign_tool,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_adobe_timestamp_read(
+        value: ortholan_octets,
+        mode: i32,
+        timestamp: *mut ortholan_adobe_timestamp,
+        refusal: *mut ortholan_refusal,
+    ) -> ortholan_reason;
+    pub fn ortholan_adobe_archive_read(
+        value: ortholan_octets,
+        mode: i32,
+        archive: *mut ortholan_adobe_archive,
+        refusal: *mut ortholan_refusal,
     ) -> ortholan_reason;
     pub fn ortholan_extension_type_at(
         index: usize,

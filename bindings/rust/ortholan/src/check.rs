@@ -12,7 +12,7 @@ use std::os::raw::c_char;
 pub struct Fault<'a> {
     /// "path-length-without-ca"; stays the same.
     pub rule: &'static str,
-    /// Of RFC 5280: "4.2.1.9".
+    /// Of RFC 5280, "4.2.1.9"; of others "RFC 3779 2.2.3.6".
     pub section: &'static str,
     /// What is wrong; may change.
     pub sentence: &'static str,
@@ -24,7 +24,8 @@ pub struct Fault<'a> {
 
 impl fmt::Display for Fault<'_> {
     fn fmt(&self, formatter: &mut fmt::Formatter<'_>) -> fmt::Result {
-        write!(formatter, "{} (RFC 5280 {})", self.sentence, self.section)
+        let source = if self.section.starts_with("RFC") { "" } else { "RFC 5280 " };
+        write!(formatter, "{} ({}{})", self.sentence, source, self.section)
     }
 }
 
