@@ -5,7 +5,6 @@
 #include "strict/der/bit_string.h"
 #include "strict/der/integer.h"
 #include "strict/der/oid.h"
-#include "strict/extensions/resource_text.h"
 #include "strict/general_names/general_name_view.h"
 #include "strict/names/name_view.h"
 
@@ -25,12 +24,12 @@ bool IsInteger(ByteView content, Leniency leniency) {
   return leniency == Leniency::kLenient ? !content.empty() : IsMinimalInteger(content);
 }
 
-bool IsUnusedZero(ByteView content, Leniency leniency) {
-  return IsBitString(content) && (leniency != Leniency::kDer || AreUnusedZero(content));
+bool IsNamedBits(ByteView content, Leniency leniency) {
+  return IsBitString(content) && (leniency != Leniency::kDer || AreNamedBits(content));
 }
 
-bool AreBits(ByteView content, Leniency leniency) {
-  return IsBitString(content) && (leniency != Leniency::kDer || AreNamedBits(content));
+bool IsPlainBits(ByteView content, Leniency leniency) {
+  return IsBitString(content) && (leniency != Leniency::kDer || AreUnusedZero(content));
 }
 
 bool IsTime(uint8_t identifier, ByteView content) {
@@ -66,9 +65,9 @@ bool CheckLeaf(const Shape& shape, const Element& element, Leniency leniency, Re
     case ShapeKind::kEnumerated:
       return IsInteger(content, leniency) || Fail(refusal, ORTHOLAN_REASON_INTEGER, content);
     case ShapeKind::kBits:
-      return AreBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
+      return IsNamedBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
     case ShapeKind::kAddress:
-      return IsUnusedZero(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
+      return IsPlainBits(content, leniency) || Fail(refusal, ORTHOLAN_REASON_BIT_STRING, content);
     case ShapeKind::kNull:
       return content.empty() || Fail(refusal, ORTHOLAN_REASON_NULL, content);
     case ShapeKind::kOid:
