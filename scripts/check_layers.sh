@@ -47,16 +47,18 @@ declare -A allowed=(
   [bench]="$any"
 )
 
-# Prints the layer of a path: the longest of its directories that has a rule, or nothing.
+# layer_of PATH VARIABLE: sets it to the longest of the path's directories that has a rule, or to
+# nothing. A process for each answer would take most of the time.
 layer_of() {
   local directory=$1
   while [[ $directory == */* ]]; do
     directory=${directory%/*}
     if [[ -v allowed[$directory] ]]; then
-      echo "$directory"
+      printf -v "$2" %s "$directory"
       return
     fi
   done
+  printf -v "$2" %s ""
 }
 
 platform_macros='_WIN32|_WIN64|WIN32|_MSC_VER|__MINGW(32|64)__|__CYGWIN__|__linux__|__unix__|__APPLE__'
@@ -69,8 +71,8 @@ fault() {
 
 check_include() {
   local file=$1 line=$2 target=$3 layer target_layer
-  layer=$(layer_of "$file")
-  target_layer=$(layer_of "$target")
+  layer_of "$file" layer
+  layer_of "$target" target_layer
   # What the build picks for tests by platform is named without its directory.
   if [[ $layer == tests* && -f tests/support/posix/$target && -f tests/support/windows/$target ]]; then
     return
@@ -88,7 +90,8 @@ check_include() {
 
 files=()
 while IFS= read -r -d '' file; do
-  if [[ -z $(layer_of "$file") ]]; then
+  layer_of "$file" layer
+  if [[ -z $layer ]]; then
     fault "$file: belongs to no layer"
   else
     files+=("$file")
@@ -132,7 +135,8 @@ longest_chains() {
 most_in_chain=7
 library=()
 for file in "${files[@]}"; do
-  [[ $(layer_of "$file") =~ ^(tests|examples|fuzz|bench) ]] || library+=("$file")
+  layer_of "$file" layer
+  [[ $layer =~ ^(tests|examples|fuzz|bench) ]] || library+=("$file")
 done
 while read -r length chain; do
   ((length <= most_in_chain)) ||
