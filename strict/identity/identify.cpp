@@ -5,22 +5,10 @@
 #include "strict/der/reader.h"
 #include "strict/general_names/host.h"
 #include "strict/general_names/other_name.h"
+#include "strict/identity/wildcard_match.h"
 
 namespace Ortholan::strict {
 namespace {
-
-inline ortholan_reason CompareHostNames(std::string_view presented, const Reference& reference) {
-  const std::string_view host = reference.parts.host;
-  std::string_view base;
-  if (!TakeWildcard(presented, &base)) {
-    if (!SameWithoutCase(presented, host)) return ORTHOLAN_REASON_OTHER_HOST;
-    if (reference.is_presentable) return ORTHOLAN_REASON_NONE;
-  } else if (!SameWithoutCase(base, BehindFirstLabel(host))) {
-    return !base.empty() && IsWithinHost(host, base) ? ORTHOLAN_REASON_WILDCARD_LABELS
-                                                     : ORTHOLAN_REASON_OTHER_HOST;
-  }
-  return FaultOfHostPattern(presented, reference.host_choices);
-}
 
 ortholan_reason CompareAddresses(ByteView presented, const Reference& reference) {
   if (!IsIpAddressSize(presented.size)) return ORTHOLAN_REASON_ADDRESS_SIZE;
