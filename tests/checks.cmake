@@ -24,9 +24,10 @@ set(sources "")
 set(cmake_sources "")
 foreach(folder IN LISTS folders)
   file(GLOB_RECURSE found CONFIGURE_DEPENDS
-    "${folder}/*.cpp" "${folder}/*.c" "${folder}/*.h" "${folder}/*.hpp")
+    "${folder}/*.cpp" "${folder}/*.c" "${folder}/*.h" "${folder}/*.hpp" "${folder}/*.inc")
   list(APPEND sources ${found})
-  file(GLOB_RECURSE found CONFIGURE_DEPENDS "${folder}/CMakeLists.txt" "${folder}/*.cmake")
+  file(GLOB_RECURSE found CONFIGURE_DEPENDS "${folder}/CMakeLists.txt" "${folder}/*.cmake"
+    "${folder}/*.in" "${folder}/*.map" "${folder}/*.rc")
   list(APPEND cmake_sources ${found})
 endforeach()
 list(APPEND cmake_sources "${PROJECT_SOURCE_DIR}/CMakeLists.txt")
@@ -36,9 +37,9 @@ set(packaging "${PROJECT_SOURCE_DIR}/packaging")
 file(GLOB_RECURSE recipes CONFIGURE_DEPENDS "${packaging}/conan/*" "${packaging}/vcpkg/*")
 
 ortholan_check(format COMMAND "${scripts}/format.sh" --check
-  DEPENDS ${sources} "${scripts}/format.sh" "${PROJECT_SOURCE_DIR}/.clang-format")
+  DEPENDS ${sources} "${scripts}/format.sh" "${scripts}/sources.sh" "${PROJECT_SOURCE_DIR}/.clang-format")
 ortholan_check(layers COMMAND "${scripts}/check_layers.sh"
-  DEPENDS ${sources} "${scripts}/check_layers.sh")
+  DEPENDS ${sources} "${scripts}/check_layers.sh" "${scripts}/sources.sh")
 ortholan_check(preparation_tables COMMAND python3 -B "${scripts}/make_preparation_tables.py" --check
   DEPENDS ${sources} "${scripts}/make_preparation_tables.py")
 ortholan_check(recipes
